@@ -1,0 +1,49 @@
+// OLE automation errors, argument types for calls by identifier, and hosting of ActiveX controls.
+#pragma once
+
+#include <afxwin.h>
+#include <ole2.h>
+
+class COleException : public CException {
+    DECLARE_DYNAMIC(COleException)
+public:
+    COleException();
+    SCODE m_sc;
+};
+
+[[noreturn]] void AFXAPI AfxThrowOleException(SCODE sc);
+
+// An automation server's own error.
+class COleDispatchException : public CException {
+    DECLARE_DYNAMIC(COleDispatchException)
+public:
+    COleDispatchException(LPCTSTR lpszDescription, UINT nHelpID, WORD wCode);
+
+    WORD m_wCode;
+    CString m_strDescription;
+    DWORD m_dwHelpContext;
+    CString m_strHelpFile;
+    CString m_strSource;
+    SCODE m_scError;
+};
+
+// Lets dialog templates of this module name ActiveX controls by class identifier.
+class COccManager;
+void AFX_CDECL AfxEnableControlContainer(COccManager* pOccManager = nullptr);
+
+// Argument types of InvokeHelper: one byte per argument, joined by string concatenation.
+#define VTS_I2 "\x02"
+#define VTS_I4 "\x03"
+#define VTS_R4 "\x04"
+#define VTS_R8 "\x05"
+#define VTS_BSTR "\x08" // LPCTSTR
+#define VTS_DISPATCH "\x09"
+#define VTS_SCODE "\x0A"
+#define VTS_BOOL "\x0B"    // BOOL
+#define VTS_VARIANT "\x0C" // const VARIANT*
+#define VTS_UNKNOWN "\x0D"
+#define VTS_PI4 "\x43"
+#define VTS_PBSTR "\x48"
+#define VTS_PVARIANT "\x4C"
+#define VTS_NONE nullptr
+#define VTS_COLOR VTS_I4

@@ -1,0 +1,157 @@
+// CDialog: modal dialogs.
+#include "win/DialogTemplate.h"
+#include "win/ThreadWindows.h"
+#include "win/OleContainer.h"
+
+#include <commctrl.h>
+
+IMPLEMENT_DYNAMIC(CDialog, CWnd)
+
+BEGIN_MESSAGE_MAP(CDialog, CWnd)
+    ON_COMMAND(IDOK, &CDialog::OnOK)
+    ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+    ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
+END_MESSAGE_MAP()
+
+namespace {
+
+// Takes no input from construction until Enable or the end of the scope.
+class CDisabledOwner {
+public:
+    explicit CDisabledOwner(HWND hWnd) : m_hWnd(hWnd != nullptr && ::IsWindowEnabled(hWnd) ? hWnd : nullptr) {
+        if (m_hWnd != nullptr) ::EnableWindow(m_hWnd, FALSE);
+    }
+    ~CDisabledOwner() { Enable(); }
+    CDisabledOwner(const CDisabledOwner&) = delete;
+    CDisabledOwner& operator=(const CDisabledOwner&) = delete;
+
+    void Enable() {
+        if (m_hWnd != nullptr) ::EnableWindow(m_hWnd, TRUE);
+        m_hWnd = nullptr;
+    }
+
+private:
+    HWND m_hWnd; // null when there is nothing to enable again
+};
+
+void RegisterCommonControls() {
+    INITCOMMONCONTROLSEX controls = {sizeof(controls), ICC_WIN95_CLASSES | ICC_DATE_CLASSES};
+    ::InitCommonControlsEx(&controls);
+}
+
+} // namespace
+
+CDialog::CDialog() : CDialog(0u) {}
+
+CDialog::CDialog(UINT nIDTemplate, CWnd* pParentWnd)
+    : m_lpszTemplateName(MAKEINTRESOURCE(nIDTemplate)), m_pParentWnd(pParentWnd), m_pTemplate(nullptr) {}
+
+CDialog::~CDialog() {
+    if (m_hWnd != nullptr) CWnd::DestroyWindow();
+}
+
+// The owner as the system wants it: a top-level window; without a parent, what the user works in.
+HWND CDialog::FindOwner(HWND hWndParent) {
+    HWND hWnd = hWndParent != nullptr ? hWndParent : AfxGetMainWnd()->GetSafeHwnd();
+    while (hWnd != nullptr && (::GetWindowLongPtr(hWnd, GWL_STYLE) & WS_CHILD))
+        hWnd = ::GetParent(hWnd);
+    return hWndParent == nullptr && hWnd != nullptr ? ::GetLastActivePopup(hWnd) : hWnd;
+}
+
+INT_PTR CDialog::DoModal() {
+    CDialogTemplate dialogTemplate;
+    if (!dialogTemplate.Load(m_lpszTemplateName)) return -1;
+    RegisterCommonControls();
+    if (!dialogTemplate.OleControls().empty()) OleContainer::Prepare();
+
+    m_pTemplate = &dialogTemplate;
+    m_nModalResult = -1;
+    m_nFlags |= WF_CONTINUEMODAL;
+    RunFromTemplate(FindOwner(m_pParentWnd->GetSafeHwnd()));
+    m_nFlags &= ~WF_CONTINUEMODAL;
+    m_pTemplate = nullptr;
+    return m_nModalResult;
+}
+
+void CDialog::RunFromTemplate(HWND hWndOwner) {
+    CThreadWindows& windows = CThreadWindows::Get();
+    CDisabledOwner owner(hWndOwner);
+    windows.m_pCreating = this;
+    const HWND hWnd = ::CreateDialogIndirectParam(AfxGetResourceHandle(), m_pTemplate->Get(), hWndOwner,
+                                                  &CDialog::DialogProc, 0);
+    windows.TakeCreated();
+    if (hWnd == nullptr) return;
+    if (m_nFlags & WF_CONTINUEMODAL) RunModalLoop(MLF_SHOWONIDLE);
+    if (m_hWnd == nullptr) return; // somebody destroyed the window
+
+    // Out of sight first, then back to an owner that takes input: otherwise another program comes to the front.
+    SetWindowPos(nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+    owner.Enable();
+    if (hWndOwner != nullptr && ::GetActiveWindow() == m_hWnd) ::SetActiveWindow(hWndOwner);
+    DestroyWindow();
+}
+
+// The window gets its object with the first message that the system hands over, before any control exists.
+INT_PTR CALLBACK CDialog::DialogProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    AFX_MANAGE_STATE(AfxGetStaticModuleState())
+    try {
+        CWnd* pWnd = FromHandlePermanent(hWnd);
+        if (pWnd == nullptr && (pWnd = CThreadWindows::Get().TakeCreated()) != nullptr) {
+            pWnd->SubclassWindow(hWnd);
+            // This very message came past the object.
+            if (message == WM_INITDIALOG) return AfxWndProc(hWnd, message, wParam, lParam);
+        }
+        if (message == WM_INITDIALOG && pWnd != nullptr) {
+            // The focus would bring a dialog to the front that has ended already.
+            return static_cast<CDialog*>(pWnd)->OnInitDialog() && pWnd->ContinueModal();
+        }
+    } catch (CException* e) {
+        e->Delete();
+    } catch (...) {
+    }
+    return message == WM_INITDIALOG;
+}
+
+LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {
+    CreateOleControls();
+    CRect rectBefore, rectAfter;
+    GetWindowRect(rectBefore);
+    const LRESULT lResult = Default();
+    // A dialog that placed or showed itself stays where it is.
+    if (m_hWnd == nullptr || IsWindowVisible() || (GetStyle() & WS_CHILD)) return lResult;
+    GetWindowRect(rectAfter);
+    if (rectBefore.TopLeft() == rectAfter.TopLeft() && CheckAutoCenter()) CenterWindow();
+    return lResult;
+}
+
+// A control that can't be made leaves its place empty.
+void CDialog::CreateOleControls() {
+    for (const CDialogTemplate::OleControl& control : m_pTemplate->OleControls())
+        OleContainer::CreateControl(::GetDlgItem(m_hWnd, control.nID), control.strClass);
+}
+
+BOOL CDialog::CheckAutoCenter() {
+    return m_pTemplate->HasFreePlace();
+}
+
+BOOL CDialog::OnInitDialog() {
+    // Puts the data into the controls; a failure has nowhere to be reported.
+    UpdateData(FALSE);
+    return TRUE;
+}
+
+void CDialog::EndDialog(int nResult) {
+    EndModalLoop(nResult);
+}
+
+void CDialog::OnOK() {
+    if (UpdateData(TRUE)) EndDialog(IDOK);
+}
+
+void CDialog::OnCancel() {
+    EndDialog(IDCANCEL);
+}
+
+BOOL CDialog::PreTranslateMessage(MSG* pMsg) {
+    return CWnd::PreTranslateMessage(pMsg) || OleContainer::TranslateKey(m_hWnd, pMsg) || PreTranslateInput(pMsg);
+}

@@ -1,0 +1,53 @@
+// Hosting of ActiveX controls through the system's ATL library.
+#include "win/OleContainer.h"
+
+#include <afxdisp.h>
+
+// Exports of atl.dll.
+extern "C" {
+BOOL WINAPI AtlAxWinInit();
+HRESULT WINAPI AtlAxCreateControl(LPCOLESTR lpszName, HWND hWnd, IStream* pStream, IUnknown** ppUnkContainer);
+HRESULT WINAPI AtlAxGetControl(HWND hWnd, IUnknown** ppUnkControl);
+}
+
+namespace {
+
+constexpr UINT WM_FORWARDMSG = 0x037F; // asks a host window to let its control translate a message
+
+bool g_bContainerEnabled = false;
+
+bool IsHostWindow(HWND hWnd) {
+    wchar_t szClass[16] = {};
+    return ::GetClassNameW(hWnd, szClass, _countof(szClass)) != 0 && ::lstrcmpiW(szClass, L"AtlAxWin") == 0;
+}
+
+} // namespace
+
+void AFX_CDECL AfxEnableControlContainer(COccManager*) {
+    // No more than a note: this is called while the library is being loaded.
+    g_bContainerEnabled = true;
+}
+
+void OleContainer::Prepare() {
+    if (g_bContainerEnabled) AtlAxWinInit();
+}
+
+bool OleContainer::CreateControl(HWND hWndHost, LPCWSTR pszClass) {
+    // The host would take any other text for the address of a document to show.
+    CLSID clsid;
+    return SUCCEEDED(::CLSIDFromString(pszClass, &clsid)) &&
+           SUCCEEDED(AtlAxCreateControl(pszClass, hWndHost, nullptr, nullptr));
+}
+
+IUnknown* OleContainer::GetControl(HWND hWndHost) {
+    IUnknown* pControl = nullptr;
+    return IsHostWindow(hWndHost) && SUCCEEDED(AtlAxGetControl(hWndHost, &pControl)) ? pControl : nullptr;
+}
+
+BOOL OleContainer::TranslateKey(HWND hWndDialog, MSG* pMsg) {
+    if (pMsg->message < WM_KEYFIRST || pMsg->message > WM_KEYLAST) return FALSE;
+    for (HWND hWnd = pMsg->hwnd; hWnd != nullptr && hWnd != hWndDialog; hWnd = ::GetParent(hWnd)) {
+        if (IsHostWindow(hWnd)) return ::SendMessageW(hWnd, WM_FORWARDMSG, 0, reinterpret_cast<LPARAM>(pMsg)) != 0;
+    }
+    return FALSE;
+}

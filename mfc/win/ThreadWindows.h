@@ -1,0 +1,70 @@
+// What the framework keeps per thread: which object stands for which handle, and the message in progress.
+#pragma once
+
+#include <afxwin.h>
+
+#include <memory>
+#include <unordered_map>
+
+// Temporary objects lend their handle; it must not go with them.
+struct LendingDelete {
+    void operator()(CWnd* pWnd) const;
+    void operator()(CDC* pDC) const;
+    void operator()(CGdiObject* pObject) const;
+};
+
+class CThreadWindows {
+public:
+    // The calling thread's record, made when first needed.
+    static CThreadWindows& Get();
+    // Null when the thread has none.
+    static CThreadWindows* Find();
+    // Frees the calling thread's record if it holds nothing more.
+    static void DropIfUnused();
+    // Frees the calling thread's record whatever it holds; the thread is about to end.
+    static void Drop();
+
+    CWnd* FindWindow(HWND hWnd) const;
+    // Gives the window to the object that waits for the window it is creating; null when none waits.
+    CWnd* TakeCreated();
+    void DeleteTemporaries();
+
+    std::unordered_map<HWND, CWnd*> m_windows;
+    std::unordered_map<HWND, std::unique_ptr<CWnd, LendingDelete>> m_temporaryWindows;
+    std::unordered_map<HDC, std::unique_ptr<CDC, LendingDelete>> m_temporaryContexts;
+    std::unordered_map<HGDIOBJ, std::unique_ptr<CGdiObject, LendingDelete>> m_temporaryObjects;
+
+    CWnd* m_pCreating = nullptr;
+    MSG m_message = {}; // the one being handled by a window procedure
+    int m_nMessageDepth = 0;
+    int m_nLoopDepth = 0;
+    TCHAR m_szClassName[96] = {};
+};
+
+// The message that a window procedure handles, until the end of the scope.
+class CMessageInProgress {
+public:
+    CMessageInProgress(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
+    ~CMessageInProgress();
+    CMessageInProgress(const CMessageInProgress&) = delete;
+    CMessageInProgress& operator=(const CMessageInProgress&) = delete;
+
+private:
+    CThreadWindows& m_windows;
+    MSG m_previous;
+};
+
+// A message loop, from construction to destruction.
+class CMessageLoop {
+public:
+    CMessageLoop();
+    ~CMessageLoop();
+    CMessageLoop(const CMessageLoop&) = delete;
+    CMessageLoop& operator=(const CMessageLoop&) = delete;
+
+    // To be called when no message waits.
+    void Idle();
+
+private:
+    CThreadWindows& m_windows;
+};

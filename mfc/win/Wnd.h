@@ -1,0 +1,174 @@
+// CWnd: a window's object. Its windows are found per thread; a window belongs to the thread that made it.
+#pragma once
+
+#include "win/CmdTarget.h"
+#include "win/Gdi.h"
+#include "win/WinExceptions.h"
+
+class CDataExchange;
+
+#define MLF_NOIDLEMSG 0x0001
+#define MLF_NOKICKIDLE 0x0002
+#define MLF_SHOWONIDLE 0x0004
+
+class CWnd : public CCmdTarget {
+    DECLARE_DYNAMIC(CWnd)
+public:
+    HWND m_hWnd; // first field, so that a window object of another module can be read
+
+    CWnd();
+    virtual ~CWnd(); // destroys a window that is still attached
+    CWnd(const CWnd&) = delete;
+    CWnd& operator=(const CWnd&) = delete;
+
+    operator HWND() const { return m_hWnd; }
+    BOOL operator==(const CWnd& wnd) const { return wnd.m_hWnd == m_hWnd; }
+    BOOL operator!=(const CWnd& wnd) const { return wnd.m_hWnd != m_hWnd; }
+    // May be called through a null pointer, which callers rely on for "no parent window".
+    HWND GetSafeHwnd() const { return reinterpret_cast<UINT_PTR>(this) == 0 ? nullptr : m_hWnd; }
+
+    // The object attached to the window by this thread, else a temporary one that lasts until the
+    // outermost modal loop is idle or ends. Null for a null handle.
+    static CWnd* PASCAL FromHandle(HWND hWnd);
+    // The attached object only, else null.
+    static CWnd* PASCAL FromHandlePermanent(HWND hWnd);
+    static void PASCAL DeleteTempMap();
+    BOOL Attach(HWND hWndNew);
+    HWND Detach();
+
+    virtual void PreSubclassWindow();
+    // Attach, and route the window's messages through this object; the window's own procedure is the default.
+    BOOL SubclassWindow(HWND hWnd);
+    BOOL SubclassDlgItem(UINT nID, CWnd* pParent);
+    HWND UnsubclassWindow();
+
+    virtual BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, int x,
+                          int y, int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu,
+                          LPVOID lpParam = nullptr);
+    virtual BOOL DestroyWindow();
+
+    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+
+    DWORD GetStyle() const;
+    DWORD GetExStyle() const;
+    BOOL ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
+    void SetWindowText(LPCTSTR lpszString);
+    int GetWindowText(LPTSTR lpszStringBuf, int nMaxCount) const; // nMaxCount with the terminator
+    void GetWindowText(CString& rString) const;
+    int GetWindowTextLength() const;
+    CFont* GetFont() const;
+    void SetFont(CFont* pFont, BOOL bRedraw = TRUE);
+
+    void MoveWindow(LPCRECT lpRect, BOOL bRepaint = TRUE);
+    void MoveWindow(int x, int y, int nWidth, int nHeight, BOOL bRepaint = TRUE);
+    BOOL SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags);
+    void GetWindowRect(LPRECT lpRect) const;
+    void GetClientRect(LPRECT lpRect) const;
+    void ScreenToClient(LPRECT lpRect) const;
+    void ClientToScreen(LPRECT lpRect) const;
+    // Over the alternate owner, else over the owner, else on the work area of the screen; a child within
+    // its parent. Never beyond the edges of the screen.
+    void CenterWindow(CWnd* pAlternateOwner = nullptr);
+    BOOL ShowWindow(int nCmdShow);
+    BOOL IsWindowVisible() const;
+    BOOL EnableWindow(BOOL bEnable = TRUE);
+    BOOL IsWindowEnabled() const;
+    void Invalidate(BOOL bErase = TRUE);
+    void InvalidateRect(LPCRECT lpRect, BOOL bErase = TRUE);
+    void UpdateWindow();
+
+    UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse, void(CALLBACK* lpfnTimer)(HWND, UINT, UINT_PTR, DWORD));
+    BOOL KillTimer(UINT_PTR nIDEvent);
+    int MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption = nullptr, UINT nType = MB_OK);
+
+    static CWnd* PASCAL GetFocus();
+    CWnd* SetFocus();
+    static CWnd* PASCAL GetActiveWindow();
+    CWnd* SetActiveWindow();
+    BOOL SetForegroundWindow();
+    static CWnd* PASCAL GetDesktopWindow();
+    CWnd* GetParent() const;
+    CWnd* GetWindow(UINT nCmd) const;
+
+    int GetDlgCtrlID() const;
+    CWnd* GetDlgItem(int nID) const;
+    void GetDlgItem(int nID, HWND* phWnd) const;
+    int GetDlgItemText(int nID, LPTSTR lpStr, int nMaxCount) const;
+    int GetDlgItemText(int nID, CString& rString) const;
+    void SetDlgItemText(int nID, LPCTSTR lpszString);
+    UINT GetDlgItemInt(int nID, BOOL* lpTrans = nullptr, BOOL bSigned = TRUE) const;
+    void SetDlgItemInt(int nID, UINT nValue, BOOL bSigned = TRUE);
+    void CheckDlgButton(int nIDButton, UINT nCheck);
+    UINT IsDlgButtonChecked(int nIDButton) const;
+    LRESULT SendDlgItemMessage(int nID, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+
+    // Runs DoDataExchange; FALSE when it failed.
+    BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
+
+    // ActiveX control in this window: its unknown (borrowed; null when there is none) and its members by
+    // identifier. Failures throw COleException or COleDispatchException.
+    LPUNKNOWN GetControlUnknown();
+    void AFX_CDECL InvokeHelper(DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRet,
+                                const BYTE* pbParamInfo, ...);
+    void AFX_CDECL SetProperty(DISPID dwDispID, VARTYPE vtProp, ...);
+    void GetProperty(DISPID dwDispID, VARTYPE vtProp, void* pvProp) const;
+
+    virtual BOOL PreTranslateMessage(MSG* pMsg);
+    BOOL PreTranslateInput(LPMSG lpMsg);
+    int RunModalLoop(DWORD dwFlags = 0);
+    virtual BOOL ContinueModal();
+    virtual void EndModalLoop(int nResult);
+    virtual BOOL CheckAutoCenter();
+    // Hands the message in progress to this control, which was reached through its parent.
+    BOOL SendChildNotifyLastMsg(LRESULT* pResult = nullptr);
+
+protected:
+    friend LRESULT CALLBACK AfxWndProc(HWND, UINT, WPARAM, LPARAM);
+
+    virtual void DoDataExchange(CDataExchange* pDX);
+    virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
+    virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    virtual void PostNcDestroy();
+    // Default processing of the message in progress.
+    LRESULT Default();
+    BOOL ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    static BOOL PASCAL ReflectLastMsg(HWND hWndChild, LRESULT* pResult = nullptr);
+
+    afx_msg void OnClose();
+    afx_msg void OnDestroy();
+    afx_msg void OnNcDestroy();
+    afx_msg void OnPaint();
+    afx_msg void OnTimer(UINT_PTR nIDEvent);
+    afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);
+    afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct);
+
+    WNDPROC m_pfnSuper; // the window's own procedure while it is subclassed
+    int m_nModalResult;
+    UINT m_nFlags;
+
+    void InvokeHelperV(DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRet, const BYTE* pbParamInfo,
+                       va_list argList);
+
+    DECLARE_MESSAGE_MAP()
+};
+
+#ifdef VARNOKE_MSABI
+static_assert(offsetof(CWnd, m_hWnd) == 0x40 && sizeof(CWnd) <= 0xE8, "CWnd lies as MFC's does");
+#endif
+
+// A modal loop is under way, and it is to go on.
+#define WF_MODALLOOP 0x0008
+#define WF_CONTINUEMODAL 0x0010
+
+LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
+// Registers a window class of this module with such a look unless it is there already. The name is good
+// until the thread's next call. Throws CResourceException.
+LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = nullptr, HBRUSH hbrBackground = nullptr,
+                                   HICON hIcon = nullptr);
+// Fetches and dispatches one message; FALSE for WM_QUIT.
+BOOL AFXAPI AfxPumpMessage();
+BOOL AFXAPI AfxPreTranslateMessage(MSG* pMsg);

@@ -1,0 +1,164 @@
+// CWnd: calling an ActiveX control's members by identifier.
+#include <afxdisp.h>
+#include <comdef.h>
+
+#include "win/OleContainer.h"
+
+#include <vector>
+
+_COM_SMARTPTR_TYPEDEF(IUnknown, __uuidof(IUnknown));
+_COM_SMARTPTR_TYPEDEF(IDispatch, __uuidof(IDispatch));
+
+namespace {
+
+// Marks an argument type as a pointer in the one-byte form.
+constexpr BYTE byReference = 0x40;
+
+_variant_t NextArgument(BYTE type, va_list& args) {
+    _variant_t value;
+    if (type & byReference) {
+        value.vt = static_cast<VARTYPE>((type & ~byReference) | VT_BYREF);
+        value.byref = va_arg(args, void*);
+        return value;
+    }
+    switch (type) {
+    case VT_I2:
+        return _variant_t(static_cast<short>(va_arg(args, int)));
+    case VT_I4:
+        return _variant_t(va_arg(args, long));
+    case VT_R4:
+        return _variant_t(static_cast<float>(va_arg(args, double)));
+    case VT_R8:
+        return _variant_t(va_arg(args, double));
+    case VT_BOOL:
+        return _variant_t(va_arg(args, int) != 0);
+    case VT_BSTR:
+        return _variant_t(va_arg(args, LPCWSTR));
+    case VT_VARIANT:
+        return _variant_t(*va_arg(args, const VARIANT*));
+    case VT_DISPATCH:
+        return _variant_t(va_arg(args, IDispatch*));
+    case VT_UNKNOWN:
+        return _variant_t(va_arg(args, IUnknown*));
+    case VT_ERROR:
+        value.vt = VT_ERROR;
+        value.scode = va_arg(args, SCODE);
+        return value;
+    default:
+        AfxThrowOleException(E_INVALIDARG);
+    }
+}
+
+// A member's arguments in the order that IDispatch wants: the last one first.
+std::vector<_variant_t> CollectArguments(const BYTE* pbTypes, va_list& args) {
+    const size_t nCount = pbTypes != nullptr ? strlen(reinterpret_cast<const char*>(pbTypes)) : 0;
+    std::vector<_variant_t> values(nCount);
+    for (size_t n = 0; n < nCount; ++n)
+        values[nCount - 1 - n] = NextArgument(pbTypes[n], args);
+    return values;
+}
+
+[[noreturn]] void ThrowServerError(EXCEPINFO& info) {
+    if (info.pfnDeferredFillIn != nullptr) info.pfnDeferredFillIn(&info);
+    const _bstr_t description(info.bstrDescription, false), source(info.bstrSource, false),
+        helpFile(info.bstrHelpFile, false);
+    auto* pException = new COleDispatchException(description, info.dwHelpContext, info.wCode);
+    pException->m_strSource = static_cast<LPCWSTR>(source);
+    pException->m_strHelpFile = static_cast<LPCWSTR>(helpFile);
+    pException->m_scError = info.scode;
+    throw pException;
+}
+
+// Hands the result over as the caller's type; what it holds then belongs to the caller.
+void StoreResult(_variant_t& result, VARTYPE vt, void* pvRet) {
+    if (vt == VT_VARIANT) {
+        *static_cast<VARIANT*>(pvRet) = result.Detach();
+        return;
+    }
+    const HRESULT hr = ::VariantChangeType(&result, &result, 0, vt);
+    if (FAILED(hr)) AfxThrowOleException(hr);
+    switch (vt) {
+    case VT_I2:
+        *static_cast<short*>(pvRet) = result.iVal;
+        break;
+    case VT_I4:
+        *static_cast<long*>(pvRet) = result.lVal;
+        break;
+    case VT_R4:
+        *static_cast<float*>(pvRet) = result.fltVal;
+        break;
+    case VT_R8:
+        *static_cast<double*>(pvRet) = result.dblVal;
+        break;
+    case VT_BOOL:
+        *static_cast<BOOL*>(pvRet) = result.boolVal != VARIANT_FALSE;
+        break;
+    case VT_BSTR:
+        *static_cast<CString*>(pvRet) = result.bstrVal;
+        break;
+    case VT_DISPATCH:
+    case VT_UNKNOWN:
+        *static_cast<IUnknown**>(pvRet) = result.Detach().punkVal;
+        break;
+    default:
+        AfxThrowOleException(E_INVALIDARG);
+    }
+}
+
+} // namespace
+
+LPUNKNOWN CWnd::GetControlUnknown() {
+    // The host window keeps the control alive.
+    const IUnknownPtr control(OleContainer::GetControl(m_hWnd), false);
+    return control;
+}
+
+void CWnd::InvokeHelperV(DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRet, const BYTE* pbParamInfo,
+                         va_list argList) {
+    IDispatchPtr dispatch;
+    const IUnknownPtr control(OleContainer::GetControl(m_hWnd), false);
+    if (control == nullptr) AfxThrowOleException(OLE_E_BLANK);
+    HRESULT hr = control->QueryInterface(IID_PPV_ARGS(&dispatch));
+    if (FAILED(hr)) AfxThrowOleException(hr);
+
+    std::vector<_variant_t> arguments = CollectArguments(pbParamInfo, argList);
+    DISPID dispidPut = DISPID_PROPERTYPUT;
+    const bool bPut = (wFlags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
+    DISPPARAMS parameters = {arguments.data(), bPut ? &dispidPut : nullptr, static_cast<UINT>(arguments.size()),
+                             bPut ? 1u : 0u};
+    _variant_t result;
+    EXCEPINFO info = {};
+    hr = dispatch->Invoke(dwDispID, IID_NULL, LOCALE_USER_DEFAULT, wFlags, &parameters,
+                          vtRet != VT_EMPTY ? &result : nullptr, &info, nullptr);
+    if (hr == DISP_E_EXCEPTION) ThrowServerError(info);
+    if (FAILED(hr)) AfxThrowOleException(hr);
+    if (vtRet != VT_EMPTY) StoreResult(result, vtRet, pvRet);
+}
+
+void AFX_CDECL CWnd::InvokeHelper(DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRet,
+                                  const BYTE* pbParamInfo, ...) {
+    va_list argList;
+    va_start(argList, pbParamInfo);
+    InvokeHelperV(dwDispID, wFlags, vtRet, pvRet, pbParamInfo, argList);
+    va_end(argList);
+}
+
+void AFX_CDECL CWnd::SetProperty(DISPID dwDispID, VARTYPE vtProp, ...) {
+    const BYTE types[] = {
+        static_cast<BYTE>(vtProp & VT_BYREF ? (vtProp & ~VT_BYREF) | byReference : vtProp), 0};
+    va_list argList;
+#ifdef __clang__
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wvarargs" // a short last parameter takes a whole slot here
+#endif
+    va_start(argList, vtProp);
+#ifdef __clang__
+#pragma clang diagnostic pop
+#endif
+    InvokeHelperV(dwDispID, DISPATCH_PROPERTYPUT, VT_EMPTY, nullptr, types, argList);
+    va_end(argList);
+}
+
+void CWnd::GetProperty(DISPID dwDispID, VARTYPE vtProp, void* pvProp) const {
+    const_cast<CWnd*>(this)->InvokeHelper(dwDispID, DISPATCH_PROPERTYGET, vtProp, pvProp, nullptr);
+}

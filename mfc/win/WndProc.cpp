@@ -1,0 +1,140 @@
+// How messages reach a window's object: the window procedure, dispatch through the maps, reflection.
+#include "win/ThreadWindows.h"
+
+BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
+    ON_WM_NCDESTROY()
+    ON_WM_DRAWITEM()
+    ON_WM_MEASUREITEM()
+END_MESSAGE_MAP()
+
+namespace {
+
+// The system sees an ordinary result where a handler failed.
+LRESULT ResultOfFailedHandler(HWND hWnd, UINT nMsg) {
+    switch (nMsg) {
+    case WM_CREATE:
+        return -1;
+    case WM_PAINT:
+        ValidateRect(hWnd, nullptr); // else the message would come again at once
+        return 0;
+    default:
+        return 0;
+    }
+}
+
+CWnd* FindOrAttachCreated(HWND hWnd) {
+    CThreadWindows& windows = CThreadWindows::Get();
+    CWnd* pWnd = windows.FindWindow(hWnd);
+    if (pWnd == nullptr && (pWnd = windows.TakeCreated()) != nullptr) pWnd->Attach(hWnd);
+    return pWnd;
+}
+
+} // namespace
+
+LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) {
+    AFX_MANAGE_STATE(AfxGetStaticModuleState())
+    try {
+        const CMessageInProgress progress(hWnd, nMsg, wParam, lParam);
+        CWnd* pWnd = FindOrAttachCreated(hWnd);
+        return pWnd != nullptr ? pWnd->WindowProc(nMsg, wParam, lParam) : ::DefWindowProc(hWnd, nMsg, wParam, lParam);
+    } catch (CException* e) {
+        e->Delete();
+    } catch (...) {
+    }
+    return ResultOfFailedHandler(hWnd, nMsg);
+}
+
+LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    LRESULT lResult = 0;
+    return OnWndMsg(message, wParam, lParam, &lResult) ? lResult : DefWindowProc(message, wParam, lParam);
+}
+
+LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    return m_pfnSuper != nullptr ? ::CallWindowProc(m_pfnSuper, m_hWnd, message, wParam, lParam)
+                                 : ::DefWindowProc(m_hWnd, message, wParam, lParam);
+}
+
+LRESULT CWnd::Default() {
+    const MSG message = CThreadWindows::Get().m_message;
+    return DefWindowProc(message.message, message.wParam, message.lParam);
+}
+
+BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    if (message == WM_COMMAND) {
+        if (!OnCommand(wParam, lParam)) return FALSE;
+        *pResult = 1;
+        return TRUE;
+    }
+    const AFX_MSGMAP_ENTRY* pEntry = FindMessageEntry(message, 0, 0);
+    if (pEntry == nullptr) return FALSE;
+    AFX_MSGCALL call = {message, wParam, lParam, 0};
+    pEntry->pfn(this, call); // may delete this object
+    *pResult = call.lResult;
+    return TRUE;
+}
+
+BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
+    const HWND hWndControl = reinterpret_cast<HWND>(lParam);
+    if (hWndControl != nullptr && ReflectLastMsg(hWndControl)) return TRUE;
+    const UINT nID = LOWORD(wParam);
+    if (nID == 0) return FALSE;
+    return OnCmdMsg(nID, hWndControl != nullptr ? HIWORD(wParam) : CN_COMMAND, nullptr, nullptr);
+}
+
+BOOL PASCAL CWnd::ReflectLastMsg(HWND hWndChild, LRESULT* pResult) {
+    CWnd* pChild = FromHandlePermanent(hWndChild);
+    return pChild != nullptr && pChild->SendChildNotifyLastMsg(pResult);
+}
+
+BOOL CWnd::SendChildNotifyLastMsg(LRESULT* pResult) {
+    const MSG message = CThreadWindows::Get().m_message;
+    return OnChildNotify(message.message, message.wParam, message.lParam, pResult);
+}
+
+BOOL CWnd::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    return ReflectChildNotify(message, wParam, lParam, pResult);
+}
+
+BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM, LRESULT*) {
+    return message == WM_COMMAND &&
+           OnCmdMsg(0, MAKELONG(HIWORD(wParam), WM_REFLECT_BASE + WM_COMMAND), nullptr, nullptr);
+}
+
+void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct) {
+    if (lpDrawItemStruct->CtlType != ODT_MENU && ReflectLastMsg(lpDrawItemStruct->hwndItem)) return;
+    Default();
+}
+
+void CWnd::OnMeasureItem(int, LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
+    if (lpMeasureItemStruct->CtlType != ODT_MENU &&
+        ReflectLastMsg(::GetDlgItem(m_hWnd, static_cast<int>(lpMeasureItemStruct->CtlID))))
+        return;
+    Default();
+}
+
+void CWnd::OnClose() {
+    Default();
+}
+
+void CWnd::OnDestroy() {
+    Default();
+}
+
+void CWnd::OnPaint() {
+    Default();
+}
+
+void CWnd::OnTimer(UINT_PTR) {
+    Default();
+}
+
+void CWnd::OnNcDestroy() {
+    Default();
+    if (m_pfnSuper != nullptr) SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_pfnSuper));
+    m_pfnSuper = nullptr;
+    if (m_nFlags & WF_CONTINUEMODAL) EndModalLoop(-1);
+    Detach();
+    PostNcDestroy();
+}
+
+void CWnd::PostNcDestroy() {}
