@@ -1,0 +1,272 @@
+// Reader and writer of the settings file: a table of all settings and thin accessors over it.
+#include "config/INIConfig.h"
+
+#include <cwchar>
+
+#include "module/Guarded.h"
+#include "module/ModulePaths.h"
+
+namespace {
+
+// -- The settings: section, key, default, which values are usable
+// ----------------------------------------------
+
+struct TextSetting {
+    const wchar_t* m_pszSection;
+    const wchar_t* m_pszKey;
+    const wchar_t* m_pszDefault;
+};
+
+struct IntegerSetting {
+    const wchar_t* m_pszSection;
+    const wchar_t* m_pszKey;
+    long m_nDefault;
+    bool (*m_pfnUsable)(long value);
+
+    long Normalized(long value) const { return m_pfnUsable(value) ? value : m_nDefault; }
+};
+
+struct NumberSetting {
+    const wchar_t* m_pszSection;
+    const wchar_t* m_pszKey;
+};
+
+bool Any(long) {
+    return true;
+}
+bool Positive(long value) {
+    return value >= 1;
+}
+bool NotNegative(long value) {
+    return value >= 0;
+}
+bool ScopeNumber(long value) {
+    return value >= 1 && value <= 3;
+}
+
+constexpr wchar_t kSignServer[] = L"SignServer";
+constexpr wchar_t kSignLog[] = L"SignLog";
+constexpr wchar_t kSign[] = L"Sign";
+constexpr wchar_t kSignDate[] = L"SignDate";
+constexpr wchar_t kSignScope[] = L"SignScope";
+constexpr wchar_t kSignLocation[] = L"SignLocation";
+constexpr wchar_t kSignDateLocation[] = L"SignDateLocation";
+constexpr wchar_t kDynDisp[] = L"DynDisp";
+
+constexpr TextSetting kServerIP = {kSignServer, L"ServerIP", L"127.0.0.1"};
+constexpr TextSetting kServerPort = {kSignServer, L"ServerPort", L"8089"};
+constexpr TextSetting kDesignDoMain = {kSignLog, L"DesignDoMain", L"standard"};
+constexpr TextSetting kLocalObjectConfigId = {kSignLog, L"LocalObjectConfigId", L"IQORM_OBJ_SIGN"};
+constexpr TextSetting kServerObjectConfigId = {kSignLog, L"ServerObjectConfigId", L"SIGN"};
+constexpr IntegerSetting kIndex = {kSign, L"Index", 0, Any};
+constexpr TextSetting kPin = {kSign, L"Pin", L"480317"};
+constexpr IntegerSetting kDelPre = {kSign, L"DelPre", 0, Any};
+constexpr TextSetting kDateStyle = {kSignDate, L"DateStyle", L"YYYY-MM-DD"};
+constexpr TextSetting kDateLocation = {kSignDate, L"DateLocation", L"左上"};
+constexpr IntegerSetting kDateFontSize = {kSignDate, L"DateFontSize", 8, Positive};
+constexpr IntegerSetting kDateTextColor = {kSignDate, L"DateTextColor", 0xFFFFFF, NotNegative};
+// The dialogs start from white, a signature without a set colour is placed in red.
+constexpr IntegerSetting kSignDateTextColor = {kDateTextColor.m_pszSection, kDateTextColor.m_pszKey, 0x0000FF,
+                                               NotNegative};
+constexpr NumberSetting kDateOffsetX = {kSignDate, L"DateOffsetX"};
+constexpr NumberSetting kDateOffsetY = {kSignDate, L"DateOffsetY"};
+constexpr TextSetting kDateFontName = {kSignDate, L"DateFontName", L"宋体"};
+constexpr IntegerSetting kScope = {kSignScope, L"Scope", 1, ScopeNumber};
+constexpr IntegerSetting kLocationStyle = {kSignLocation, L"LocationStyle", 0, Any};
+constexpr NumberSetting kLocationXCheck = {kSignLocation, L"LocationXCheck"};
+constexpr NumberSetting kLocationYCheck = {kSignLocation, L"LocationYCheck"};
+constexpr IntegerSetting kDateLocationStyle = {kSignDateLocation, L"LocationStyle", 0, Any};
+constexpr NumberSetting kDateLocationXCheck = {kSignDateLocation, L"LocationXCheck"};
+constexpr NumberSetting kDateLocationYCheck = {kSignDateLocation, L"LocationYCheck"};
+constexpr TextSetting kProgID = {kDynDisp, L"ProgID", L"Brevanix.Brevanix0"};
+
+/// The colour for a signature when even reading the settings fails.
+constexpr long kUnreadableColor = 200;
+
+// -- Access to the file
+// ----------------------------------------------------------------------------------------
+
+constexpr DWORD kBufferSize = 1023; // with the terminator
+
+CString Read(const CString& path, const TextSetting& setting) {
+    return varnoke::Guarded(CString(setting.m_pszDefault), [&] {
+        if (path.IsEmpty()) {
+            return CString(setting.m_pszDefault);
+        }
+        wchar_t buffer[kBufferSize] = {};
+        ::GetPrivateProfileStringW(setting.m_pszSection, setting.m_pszKey, setting.m_pszDefault, buffer,
+                                   kBufferSize, path);
+        CString text(buffer);
+        text.Trim();
+        return text.IsEmpty() ? CString(setting.m_pszDefault) : text;
+    });
+}
+
+/// A text whose key comes from outside and is its own default.
+CString ReadNamed(const CString& path, const wchar_t* section, const CString& key) {
+    return key.IsEmpty() ? CString() : Read(path, TextSetting{section, key, key});
+}
+
+long Read(const CString& path, const IntegerSetting& setting, long failure) {
+    return varnoke::Guarded(failure, [&] {
+        if (path.IsEmpty()) {
+            return setting.m_nDefault;
+        }
+        const UINT value =
+            ::GetPrivateProfileIntW(setting.m_pszSection, setting.m_pszKey, setting.m_nDefault, path);
+        return setting.Normalized(static_cast<long>(value));
+    });
+}
+
+long Read(const CString& path, const IntegerSetting& setting) {
+    return Read(path, setting, setting.m_nDefault);
+}
+
+double Read(const CString& path, const NumberSetting& setting) {
+    return varnoke::Guarded(0.0, [&] {
+        if (path.IsEmpty()) {
+            return 0.0;
+        }
+        wchar_t buffer[kBufferSize] = {};
+        ::GetPrivateProfileStringW(setting.m_pszSection, setting.m_pszKey, L"0.00", buffer, kBufferSize,
+                                   path);
+        return _wtof(buffer);
+    });
+}
+
+template <class Setting>
+long WriteText(const CString& path, const Setting& setting, const CString& value) {
+    return !path.IsEmpty() &&
+                   ::WritePrivateProfileStringW(setting.m_pszSection, setting.m_pszKey, value, path)
+               ? 1
+               : 0;
+}
+
+long Write(const CString& path, const TextSetting& setting, const CString& value) {
+    return varnoke::Guarded(0L, [&] { return WriteText(path, setting, value); });
+}
+
+long Write(const CString& path, const IntegerSetting& setting, long value) {
+    return varnoke::Guarded(0L, [&] {
+        CString text;
+        text.Format(L"%d", static_cast<int>(setting.Normalized(value)));
+        return WriteText(path, setting, text);
+    });
+}
+
+} // namespace
+
+CINIConfig::~CINIConfig() {
+    Uninitialize();
+}
+
+long CINIConfig::Initialize(CWnd* parent) {
+    m_pParentWnd = parent;
+    m_strPath = varnoke::SettingsFilePath();
+    return m_strPath.IsEmpty() ? 0 : 1;
+}
+
+long CINIConfig::Uninitialize() {
+    m_strPath.Empty();
+    m_pParentWnd = nullptr;
+    return 1;
+}
+
+CString CINIConfig::GetServerIP() const {
+    return Read(m_strPath, kServerIP);
+}
+CString CINIConfig::GetServerPort() const {
+    return Read(m_strPath, kServerPort);
+}
+CString CINIConfig::GetSignServer(const CString& key) const {
+    return ReadNamed(m_strPath, kSignServer, key);
+}
+CString CINIConfig::GetProgID() const {
+    return Read(m_strPath, kProgID);
+}
+CString CINIConfig::GetDynDisp(const CString& key) const {
+    return ReadNamed(m_strPath, kDynDisp, key);
+}
+
+CString CINIConfig::GetDesignDoMain() const {
+    return Read(m_strPath, kDesignDoMain);
+}
+CString CINIConfig::GetLocalObjectConfigId() const {
+    return Read(m_strPath, kLocalObjectConfigId);
+}
+CString CINIConfig::GetServerObjectConfigId() const {
+    return Read(m_strPath, kServerObjectConfigId);
+}
+
+long CINIConfig::GetIndex() const {
+    return Read(m_strPath, kIndex);
+}
+CString CINIConfig::GetPin() const {
+    return Read(m_strPath, kPin);
+}
+long CINIConfig::GetDelPre() const {
+    return Read(m_strPath, kDelPre);
+}
+
+CString CINIConfig::GetDateStyle() const {
+    return Read(m_strPath, kDateStyle);
+}
+long CINIConfig::SetDateStyle(const CString& value) {
+    return Write(m_strPath, kDateStyle, value.IsEmpty() ? CString(kDateStyle.m_pszDefault) : value);
+}
+CString CINIConfig::GetDateLocation() const {
+    return Read(m_strPath, kDateLocation);
+}
+long CINIConfig::SetDateLocation(const CString& value) {
+    return Write(m_strPath, kDateLocation, value);
+}
+long CINIConfig::GetDateFontSize() const {
+    return Read(m_strPath, kDateFontSize);
+}
+long CINIConfig::SetDateFontSize(long value) {
+    return Write(m_strPath, kDateFontSize, value);
+}
+long CINIConfig::GetDateTextColor() const {
+    return Read(m_strPath, kDateTextColor);
+}
+long CINIConfig::GetSignDateTextColor() const {
+    return Read(m_strPath, kSignDateTextColor, kUnreadableColor);
+}
+long CINIConfig::SetDateTextColor(long value) {
+    return Write(m_strPath, kDateTextColor, value);
+}
+double CINIConfig::GetDateOffsetX() const {
+    return Read(m_strPath, kDateOffsetX);
+}
+double CINIConfig::GetDateOffsetY() const {
+    return Read(m_strPath, kDateOffsetY);
+}
+CString CINIConfig::GetDateFontName() const {
+    return Read(m_strPath, kDateFontName);
+}
+
+long CINIConfig::GetScope() const {
+    return Read(m_strPath, kScope);
+}
+long CINIConfig::SetScope(long value) {
+    return Write(m_strPath, kScope, value);
+}
+
+long CINIConfig::GetLocationStyle() const {
+    return Read(m_strPath, kLocationStyle);
+}
+double CINIConfig::GetLocationXCheck() const {
+    return Read(m_strPath, kLocationXCheck);
+}
+double CINIConfig::GetLocationYCheck() const {
+    return Read(m_strPath, kLocationYCheck);
+}
+long CINIConfig::GetDateLocationStyle() const {
+    return Read(m_strPath, kDateLocationStyle);
+}
+double CINIConfig::GetDateLocationXCheck() const {
+    return Read(m_strPath, kDateLocationXCheck);
+}
+double CINIConfig::GetDateLocationYCheck() const {
+    return Read(m_strPath, kDateLocationYCheck);
+}

@@ -1,0 +1,8 @@
+// Marks what Varnoke.dll exports: exported while the library itself is built, imported by everybody else.
+#pragma once
+
+#if defined(Varnoke_EXPORTS)
+#define VARNOKE_API __declspec(dllexport)
+#else
+#define VARNOKE_API __declspec(dllimport)
+#endif

@@ -1,0 +1,57 @@
+// Release of the records that cross the exported interface.
+#include "module/SignRecords.h"
+
+#include "module/Guarded.h"
+#include "module/OwnedRecord.h"
+
+namespace {
+
+void DeleteRecord(SLoginInfo* record) {
+    delete record;
+}
+
+void DeleteRecord(SSignInfo* record) {
+    delete record;
+}
+
+void DeleteRecord(SSignType* record) {
+    while (!record->m_lstObj.IsEmpty()) {
+        // Taken off the list first, so that nothing is released twice if releasing it fails.
+        const varnoke::OwnedRecord<SSignObj> object(record->m_lstObj.RemoveHead());
+    }
+    delete record;
+}
+
+void DeleteRecord(SSignFileDUL* record) {
+    varnoke::DeleteElements(record->m_lstItem);
+    delete record;
+}
+
+template <class Record>
+long Release(Record* record) {
+    return varnoke::Guarded(0L, [record] {
+        if (record == nullptr) {
+            return 0L;
+        }
+        DeleteRecord(record);
+        return 1L;
+    });
+}
+
+} // namespace
+
+long Cmn_ReleaseLoginInfo(SLoginInfo* record) {
+    return Release(record);
+}
+
+long Cmn_ReleaseSignType(SSignType* record) {
+    return Release(record);
+}
+
+long Cmn_ReleaseSignFileDUL(SSignFileDUL* record) {
+    return Release(record);
+}
+
+long Cmn_ReleaseSignInfo(SSignInfo* record) {
+    return Release(record);
+}

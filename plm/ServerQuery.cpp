@@ -1,0 +1,40 @@
+// Queries of the server's objects.
+#include <afxwin.h>
+
+#include "plm/ServerQuery.h"
+#include "module/ModulePaths.h"
+#include "plm/XmlDocument.h"
+#include "plm/durvell.h"
+
+namespace varnoke {
+
+namespace {
+
+const wchar_t kFilterHead[] = L"<?xml version=\"1.0\"?><searchfilter><archivefilter>"
+                              L"<filter logiccode=\"and\" field=\"DEL\" comparetype=\"=\" value=\"0\"/>"
+                              L"<filter logiccode=\"and\" field=\"NAME\" comparetype=\"=\" value=\"";
+const wchar_t kFilterTail[] = L"\"/></archivefilter></searchfilter>";
+
+} // namespace
+
+CString QueryDrawingName(const CString& userName) {
+    // The server takes the name as it stands, without any escaping.
+    const CString filter = kFilterHead + userName + kFilterTail;
+    const CString resultFile = JoinPath(ModuleFolder(), L"USER.Xml");
+    ::DeleteFileW(resultFile);
+    dvl_QueryObjs(L"USER", L"", L"-1", L"0", L"", filter, L"", resultFile);
+    const CString location = ReadProperty(resultFile, L"LOCATION");
+    ::DeleteFileW(resultFile);
+    return location;
+}
+
+CString ReadProperty(const CString& xmlFile, const CString& name) {
+    if (xmlFile.IsEmpty() || name.IsEmpty()) return CString();
+    DomDocument document = CreateDocumentAsIs();
+    if (!LoadFile(document, xmlFile)) return CString();
+    DomElement property(SelectNode(document, L"root/objs/type/obj/pro[@name=\"" + name + L"\"]"));
+    CString value;
+    return property && AttributeReader(L"value").Read(property, value) ? value : CString();
+}
+
+} // namespace varnoke

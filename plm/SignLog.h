@@ -1,0 +1,21 @@
+// The local record of signatures and deletions, SignData\DocSignRecord.xml, and its way to the server.
+#pragma once
+
+#include <afxwin.h>
+#include "config/ModelConfig.h"
+#include "module/SignRecords.h"
+
+namespace varnoke {
+
+/// Logs a signature (kind "N") or a deletion (kind "D") of the document and role that the sign object
+/// names ("ID", "SIGN_ROLE"). A signature and its deletion cancel each other while unsent. Returns 1
+/// when the record file is in its intended state; else 0, with the file unchanged. May throw
+/// _com_error and CException*.
+long WriteDelOrSignLogToLocal(CModelConfig& config, const SSignObj* obj, const CString& folder,
+                              const CString& kind);
+
+/// Sends the record file to the server and deletes it, whatever the server says. Returns 0 for success,
+/// else 1; an exported caller must give 1 for a caught exception, too.
+long WriteSignLogToServer(const CString& folder);
+
+} // namespace varnoke

@@ -1,0 +1,112 @@
+// New entries of the sign log: filled from the sign object, and mapped to what the server gets.
+#include "plm/SignLogEntry.h"
+
+#include "module/NewGuid.h"
+
+using namespace QORMODEL;
+using _com_util::CheckError;
+
+namespace varnoke {
+
+namespace {
+
+CString ToText(const _bstr_t& text) {
+    return CString(static_cast<const wchar_t*>(text));
+}
+
+// The value of a property of the sign object; the last one of a name counts, empty when there is none.
+CString SignValue(const SSignObj& obj, const CString& name) {
+    CString value;
+    for (POSITION position = obj.GetHeadPosition(); position;) {
+        const SSignPro* property = obj.GetNext(position);
+        if (property && property->m_strName == name) value = property->m_strValue;
+    }
+    return value;
+}
+
+// An attribute of an entry of an object configuration or a map, empty when absent.
+template <class Config>
+CString EntryAttribute(Config* config, long index, const wchar_t* name) {
+    _bstr_t value;
+    CheckError(config->GetEntryAttribute(index, _bstr_t(name), value.GetAddress()));
+    return ToText(value);
+}
+
+// A new entry and its local object, which keeps the client's values apart from those mapped for the server.
+struct NewEntry {
+    NewEntry(IQORDataModel* model, const CString& type) {
+        CheckError(model->CreateEntry(ToBstr(type), &m_spEntry));
+        CheckError(m_spEntry->GetLocalObject(&m_spLocal));
+    }
+
+    void Set(const CString& name, const CString& value) {
+        const _bstr_t key = ToBstr(name), text = ToBstr(value);
+        CheckError(m_spEntry->SetProperty(key, text));
+        CheckError(m_spLocal->SetProperty(key, text));
+    }
+
+    IQORDataEntryPtr m_spEntry;
+    IQORDataObjectPtr m_spLocal;
+};
+
+void FillConfigured(NewEntry& entry, const SignLogSource& source) {
+    long count = 0;
+    CheckError(source.m_pLocal->GetCount(&count));
+    for (long index = 0; index < count; ++index) {
+        const CString name = EntryAttribute(source.m_pLocal, index, L"name");
+        if (!name.IsEmpty()) entry.Set(name, SignValue(source.m_obj, name));
+    }
+}
+
+// Comes after the configured properties: these identify the entry, whatever the configuration lists.
+void FillIdentity(NewEntry& entry, const SignLogSource& source) {
+    entry.Set(L"ID", NewGuid());
+    entry.Set(L"QORMFILEID", source.m_strDocumentId);
+    entry.Set(L"QORMROLE", source.m_strRole);
+    entry.Set(L"QORMTYPE", source.m_strKind);
+    entry.Set(L"SIGNSTATE", source.m_strKind);
+}
+
+void MapToServer(NewEntry& entry, IQORObjMapConfig* map) {
+    long count = 0;
+    CheckError(map->GetCount(&count));
+    for (long index = 0; index < count; ++index) {
+        const CString server = EntryAttribute(map, index, L"server");
+        if (server.IsEmpty()) continue;
+        const CString client = EntryAttribute(map, index, L"client");
+        const CString value = ReadProperty(entry.m_spLocal, client);
+        CheckError(entry.m_spEntry->SetProperty(ToBstr(server), ToBstr(value)));
+    }
+}
+
+} // namespace
+
+SignLogSource::SignLogSource(const SSignObj& obj, const CString& kind, IQORObjConfig* local,
+                             IQORObjMapConfig* map)
+    : m_obj(obj), m_pLocal(local), m_pMap(map), m_strKind(kind), m_strDocumentId(SignValue(obj, L"ID")),
+      m_strRole(SignValue(obj, L"SIGN_ROLE")) {
+    _bstr_t type;
+    CheckError(local->GetAttribute(_bstr_t(L"id"), type.GetAddress()));
+    m_strEntryType = ToText(type);
+}
+
+_bstr_t ToBstr(const CString& text) {
+    return _bstr_t(static_cast<const wchar_t*>(text));
+}
+
+CString ReadProperty(IQORDataObject* object, const wchar_t* name) {
+    _bstr_t value;
+    CheckError(object->GetProperty(_bstr_t(name), value.GetAddress()));
+    return ToText(value);
+}
+
+void AddEntry(IQORDataModel* model, const SignLogSource& source) {
+    NewEntry entry(model, source.m_strEntryType);
+    FillConfigured(entry, source);
+    FillIdentity(entry, source);
+    MapToServer(entry, source.m_pMap);
+    CheckError(entry.m_spEntry->SetState(_bstr_t(L"N")));
+    CheckError(model->AddEntry(entry.m_spEntry));
+}
+
+} // namespace varnoke

@@ -1,0 +1,68 @@
+// The local record file of the sign log, DocSignRecord.xml.
+#include "plm/SignRecordFile.h"
+
+#include "config/qorparser.h"
+#include "plm/SignDataFolder.h"
+#include "plm/TemporaryFile.h"
+
+using _com_util::CheckError;
+
+namespace varnoke {
+
+namespace {
+
+bool IsThere(const CString& path) {
+    return ::GetFileAttributesW(path) != INVALID_FILE_ATTRIBUTES;
+}
+
+// Copies a file that can't be read as a record to a name of its own, so that writing a new record loses
+// nothing.
+bool KeepCopy(const CString& signDataFolder) {
+    constexpr int kMostCopies = 1000;
+    for (int number = 1; number <= kMostCopies; ++number) {
+        CString copy;
+        copy.Format(L"%sDocSignRecord.unreadable%d.xml", static_cast<const wchar_t*>(signDataFolder), number);
+        if (::CopyFileW(SignRecordPath(signDataFolder), copy, TRUE)) return true;
+        if (::GetLastError() != ERROR_FILE_EXISTS) return false;
+    }
+    return false;
+}
+
+} // namespace
+
+CString SignRecordPath(const CString& signDataFolder) {
+    return signDataFolder + L"DocSignRecord.xml";
+}
+
+CString SignWorkPath(const CString& signDataFolder) {
+    return signDataFolder + L"DocTemt.xml";
+}
+
+bool CSignRecordFile::Create() {
+    // Like every use of a class factory by the smart pointer, this puts the object into the running state.
+    return SUCCEEDED(m_spModel.CreateInstance(QORMODEL::CLSID_QORDataModel, nullptr, CLSCTX_ALL)) &&
+           m_spModel;
+}
+
+void CSignRecordFile::Read(const CString& folder) {
+    m_strFolder = MakeSignDataFolder(folder);
+    const CString path = SignRecordPath(m_strFolder);
+    MakeWritable(path);
+    CQORXmlDataParser parser;
+    const int result = parser.parseDataFile(path, m_spModel, nullptr);
+    CheckError(result);
+    m_bUnreadable = result == 0 && IsThere(path);
+}
+
+bool CSignRecordFile::Save() {
+    TemporaryFile temporary(m_strFolder);
+    if (temporary.Path().IsEmpty()) return false;
+    CQORXmlDataParser parser;
+    const int result = parser.saveToFile(m_spModel, temporary.Path());
+    CheckError(result);
+    if (result == 0) return false;
+    if (m_bUnreadable && !KeepCopy(m_strFolder)) return false;
+    return temporary.MoveTo(SignRecordPath(m_strFolder));
+}
+
+} // namespace varnoke

@@ -1,0 +1,109 @@
+// Reading of the start-sign message: the signer's login, the sign steps and the documents to sign.
+#include <afxwin.h>
+
+#include "plm/StartSignMessage.h"
+#include "plm/SignDataFolder.h"
+
+namespace varnoke {
+
+namespace {
+
+/// The object's properties, in order; null when it has none or one of them is incomplete.
+OwnedRecord<SSignObj> ReadObject(IXMLDOMNode* node, PropertyReader& reader) {
+    OwnedRecord<SSignObj> object(new SSignObj);
+    for (DomNode child = FirstChild(node); child; MoveToNext(child)) {
+        auto property = std::make_unique<SSignPro>();
+        if (!reader.Read(child, property->m_strName, property->m_strValue)) return nullptr;
+        object->AddTail(property.get());
+        property.release();
+    }
+    return object->IsEmpty() ? nullptr : std::move(object);
+}
+
+bool AppendObject(SSignType& type, IXMLDOMNode* node, PropertyReader& reader) {
+    OwnedRecord<SSignObj> object = ReadObject(node, reader);
+    if (!object) return false;
+    type.m_lstObj.AddTail(object.get());
+    object.release();
+    return true;
+}
+
+} // namespace
+
+OwnedRecord<SLoginInfo> ReadLoginInfo(IXMLDOMDocument* document) {
+    const DomNode object = SelectNode(document, L"root/objs/type[@id=\"LoginInfo\"]/obj");
+    if (!object) return nullptr;
+
+    OwnedRecord<SLoginInfo> login(new SLoginInfo);
+    const struct {
+        const wchar_t* name;
+        CString& value;
+    } slots[] = {{L"UserName", login->m_strUserName},
+                 {L"Password", login->m_strPassword},
+                 {L"PLMServer", login->m_strPLMServer}};
+    int count = 0; // a repeated name counts again
+    PropertyReader reader;
+    for (DomNode child = FirstChild(object); child; MoveToNext(child)) {
+        CString name, value;
+        if (!reader.Read(child, name, value)) return nullptr;
+        for (const auto& slot : slots) {
+            if (name.CompareNoCase(slot.name) == 0) {
+                slot.value = value;
+                ++count;
+            }
+        }
+    }
+    return count == 3 ? std::move(login) : nullptr;
+}
+
+OwnedRecord<SSignType> ReadSignSteps(IXMLDOMDocument* document) {
+    OwnedRecord<SSignType> steps(new SSignType);
+    PropertyReader reader;
+    DomNodeList objects = SelectNodes(document, L"root/objs/type[@id=\"step\"]/obj");
+    while (const DomNode object = NextNode(objects)) {
+        if (!AppendObject(*steps, object, reader)) return nullptr;
+    }
+    return steps->m_lstObj.IsEmpty() ? nullptr : std::move(steps);
+}
+
+DomNode FindDocumentGroup(IXMLDOMDocument* document, CString& id) {
+    AttributeReader reader(L"id");
+    DomNodeList groups = SelectNodes(document, L"root/objs/type");
+    while (const DomNode group = NextNode(groups)) {
+        DomElement element(group);
+        if (!element || !reader.Read(element, id)) return nullptr;
+        if (id.CompareNoCase(L"LoginInfo") != 0 && id.CompareNoCase(L"Step") != 0) return group;
+    }
+    return nullptr;
+}
+
+OwnedRecord<SSignType> ReadSignFiles(IXMLDOMDocument* document) {
+    OwnedRecord<SSignType> files(new SSignType);
+    const DomNode group = FindDocumentGroup(document, files->m_strId);
+    if (!group) return nullptr;
+    PropertyReader reader;
+    for (DomNode object = FirstChild(group); object; MoveToNext(object)) {
+        if (!AppendObject(*files, object, reader)) return nullptr;
+    }
+    return files->m_lstObj.IsEmpty() ? nullptr : std::move(files);
+}
+
+CString KeptMessagePath(const CString& workFolder) {
+    return SignDataFolder(workFolder) + L"StartSign.Xml";
+}
+
+bool ParseStartSignMessage(const wchar_t* xml, const CString& workFolder, StartSignRecords& records) {
+    DomDocument document = CreateDocument();
+    if (!LoadText(document, xml)) return false;
+    MakeSignDataFolder(workFolder);
+    if (!SaveDocument(document, KeptMessagePath(workFolder))) return false;
+
+    records.login = ReadLoginInfo(document);
+    if (!records.login) return false;
+    records.steps = ReadSignSteps(document);
+    if (!records.steps) return false;
+    records.files = ReadSignFiles(document);
+    return records.files != nullptr;
+}
+
+} // namespace varnoke

@@ -1,0 +1,125 @@
+// Documents of the system's XML parser: loading without references to the outside, saving without
+// half-written files.
+#include <afxwin.h>
+
+#include "plm/XmlDocument.h"
+#include "module/ModulePaths.h"
+#include "plm/SignDataFolder.h"
+#include "plm/TemporaryFile.h"
+
+namespace varnoke {
+
+namespace {
+
+constexpr CLSID kDocument60 = {0x88d96a05, 0xf192, 0x11d4, {0xa6, 0x5f, 0x00, 0x40, 0x96, 0x32, 0x51, 0xe5}};
+
+bool HasDocumentType(DomDocument& document) {
+    IXMLDOMDocumentType* type = nullptr;
+    const bool found = document->get_doctype(&type) == S_OK && type;
+    const _com_ptr_t<_com_IIID<IXMLDOMDocumentType, &IID_IXMLDOMDocumentType>> owner(type, false);
+    return found;
+}
+
+} // namespace
+
+bool Succeeded(HRESULT result) {
+    if (FAILED(result)) _com_issue_error(result);
+    return result == S_OK;
+}
+
+DomDocument CreateDocumentAsIs() {
+    DomDocument document;
+    Succeeded(document.CreateInstance(kDocument60, nullptr, CLSCTX_INPROC_SERVER));
+    // A parser that refuses one of these lacks what it switches off.
+    document->setProperty(_bstr_t(L"ProhibitDTD"), _variant_t(true));
+    document->put_resolveExternals(VARIANT_FALSE);
+    document->put_validateOnParse(VARIANT_FALSE);
+    return document;
+}
+
+DomDocument CreateDocument() {
+    DomDocument document = CreateDocumentAsIs();
+    Succeeded(document->put_async(VARIANT_FALSE));
+    return document;
+}
+
+bool LoadText(DomDocument& document, const wchar_t* text) {
+    VARIANT_BOOL loaded = VARIANT_FALSE;
+    return Succeeded(document->loadXML(_bstr_t(text), &loaded)) && loaded && !HasDocumentType(document);
+}
+
+bool LoadFile(DomDocument& document, const CString& path) {
+    VARIANT_BOOL loaded = VARIANT_FALSE;
+    return Succeeded(document->load(_variant_t(path), &loaded)) && loaded && !HasDocumentType(document);
+}
+
+bool SaveDocument(IXMLDOMDocument* document, const CString& path) {
+    MakeWritable(path);
+    TemporaryFile temporary(FolderOfPath(path));
+    return !temporary.Path().IsEmpty() && SUCCEEDED(document->save(_variant_t(temporary.Path()))) &&
+           temporary.MoveTo(path);
+}
+
+DomNode SelectNode(IXMLDOMNode* context, const wchar_t* path) {
+    DomNode node;
+    Succeeded(context->selectSingleNode(_bstr_t(path), &node));
+    return node;
+}
+
+DomNodeList SelectNodes(IXMLDOMNode* context, const wchar_t* path) {
+    DomNodeList list;
+    Succeeded(context->selectNodes(_bstr_t(path), &list));
+    return list;
+}
+
+DomNode NextNode(DomNodeList& list) {
+    DomNode node;
+    Succeeded(list->nextNode(&node));
+    return node;
+}
+
+DomNode FirstChild(IXMLDOMNode* node) {
+    DomNode child;
+    Succeeded(node->get_firstChild(&child));
+    return child;
+}
+
+void MoveToNext(DomNode& node) {
+    IXMLDOMNode* next = nullptr;
+    Succeeded(node->get_nextSibling(&next));
+    node.Attach(next);
+}
+
+bool AttributeReader::Read(DomElement& element, CString& value) {
+    _variant_t attribute;
+    if (element->getAttribute(m_name, &attribute) != S_OK || attribute.vt != VT_BSTR) return false;
+    value.SetString(attribute.bstrVal, static_cast<int>(::SysStringLen(attribute.bstrVal)));
+    return true;
+}
+
+bool PropertyReader::Read(DomNode& node, CString& name, CString& value) {
+    DomElement element(node);
+    return element && m_name.Read(element, name) && m_value.Read(element, value);
+}
+
+DomElement ElementWriter::Append(IXMLDOMNode* parent, _bstr_t& tag) {
+    DomElement element;
+    Succeeded(m_document->createElement(tag, &element));
+    DomNode appended;
+    Succeeded(parent->appendChild(element, &appended));
+    return element;
+}
+
+DomElement ElementWriter::AppendObject(IXMLDOMNode* group) {
+    DomElement object = Append(group, m_object);
+    Succeeded(object->setAttribute(m_symbol, _variant_t(L"")));
+    return object;
+}
+
+void ElementWriter::AppendProperty(IXMLDOMNode* object, const wchar_t* name, const wchar_t* value) {
+    const DomElement property = Append(object, m_property);
+    Succeeded(property->setAttribute(m_name, _variant_t(name)));
+    Succeeded(property->setAttribute(m_value, _variant_t(value)));
+}
+
+} // namespace varnoke

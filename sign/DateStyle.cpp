@@ -1,0 +1,78 @@
+// Rendering of dates in a date style.
+#include "sign/DateStyle.h"
+
+#include <time.h>
+
+namespace varnoke {
+
+const wchar_t kDefaultDateStyle[] = L"YYYY-MM-DD";
+
+const wchar_t* const kDateStyles[kDateStyleCount] = {
+    kDefaultDateStyle,   L"YYYY年-MM月-DD日", L"YYYY/MM/DD",
+    L"YYYY年/MM月/DD日", L"YYYY.MM.DD",       L"YYYY年.MM月.DD日",
+};
+
+namespace {
+
+struct Token {
+    const wchar_t* m_pszText;
+    int m_nLength;
+    const wchar_t* m_pszFormat;
+    int CalendarDate::*m_pnPart;
+};
+
+// Longer tokens come before those that they begin with.
+constexpr Token kTokens[] = {
+    {L"YYYY", 4, L"%.4d", &CalendarDate::m_nYear}, {L"MM", 2, L"%.2d", &CalendarDate::m_nMonth},
+    {L"M", 1, L"%d", &CalendarDate::m_nMonth},     {L"DD", 2, L"%.2d", &CalendarDate::m_nDay},
+    {L"D", 1, L"%d", &CalendarDate::m_nDay},
+};
+
+const Token* TokenAt(const wchar_t* text) {
+    for (const Token& token : kTokens) {
+        if (wcsncmp(text, token.m_pszText, token.m_nLength) == 0) {
+            return &token;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+CalendarDate Today() {
+    const __time64_t now = _time64(nullptr);
+    tm local = {};
+    if (_localtime64_s(&local, &now) != 0) {
+        return CalendarDate();
+    }
+    return CalendarDate{local.tm_year + 1900, local.tm_mon + 1, local.tm_mday};
+}
+
+DateStyleFault CheckDateStyle(const CString& style) {
+    if (style.IsEmpty()) {
+        return DateStyleFault::Empty;
+    }
+    if (style.Find(L"YYYY") < 0) {
+        return DateStyleFault::NoYear;
+    }
+    if (style.Find(L'M') < 0) {
+        return DateStyleFault::NoMonth;
+    }
+    return style.Find(L'D') < 0 ? DateStyleFault::NoDay : DateStyleFault::None;
+}
+
+CString RenderDate(const CString& style, const CalendarDate& date) {
+    // One pass suffices: the digits put in for one token can never be part of another.
+    CString text;
+    for (const wchar_t* rest = style; *rest != L'\0';) {
+        if (const Token* token = TokenAt(rest)) {
+            text.AppendFormat(token->m_pszFormat, date.*token->m_pnPart);
+            rest += token->m_nLength;
+        } else {
+            text.AppendChar(*rest++);
+        }
+    }
+    return text;
+}
+
+} // namespace varnoke

@@ -1,0 +1,33 @@
+// Date styles: the texts that say how the date of a signature is written.
+#pragma once
+
+#include <afxwin.h>
+
+namespace varnoke {
+
+extern const wchar_t kDefaultDateStyle[]; ///< "YYYY-MM-DD"
+
+/// The styles offered to the user, in this order; the default comes first.
+constexpr int kDateStyleCount = 6;
+extern const wchar_t* const kDateStyles[kDateStyleCount];
+
+struct CalendarDate {
+    int m_nYear = 0;
+    int m_nMonth = 0; ///< from 1
+    int m_nDay = 0;   ///< from 1
+};
+
+/// Today in local time; zeros when the clock cannot be converted.
+CalendarDate Today();
+
+/// What a style lacks, in the order in which it is looked for.
+enum class DateStyleFault { None, Empty, NoYear, NoMonth, NoDay };
+
+/// Checks that a style names year ("YYYY"), month ("M") and day ("D"); gives the first fault.
+DateStyleFault CheckDateStyle(const CString& style);
+
+/// The date in the given style: "YYYY" becomes the year in at least four digits, "MM" and "DD" the month and
+/// the day in at least two, a single "M" and "D" in as many as needed; every other character stays as it is.
+CString RenderDate(const CString& style, const CalendarDate& date);
+
+} // namespace varnoke

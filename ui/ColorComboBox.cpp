@@ -1,0 +1,152 @@
+// Items carry their colour as item data; the last item is always the entry for more colours.
+#include "ui/ColorComboBox.h"
+
+#include <afxdlgs.h>
+#include "module/Owned.h"
+#include "ui/ColorText.h"
+#include "ui/ResourceText.h"
+#include "ui/resource.h"
+
+namespace {
+
+const int kItemHeight = 16;
+const int kTextLeft = 5;
+const int kTextRight = 100;
+const int kSwatchLeft = 102;
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CColorComboBox, CComboBox)
+ON_CONTROL_REFLECT(CBN_SELENDOK, &CColorComboBox::OnSelendok)
+END_MESSAGE_MAP()
+
+int CColorComboBox::AddColor(COLORREF color) {
+    return InsertAt(GetCount(), color);
+}
+
+int CColorComboBox::InsertColor(COLORREF color) {
+    return InsertAt(0, color);
+}
+
+int CColorComboBox::InsertAt(int index, COLORREF color) {
+    if (IsFull()) return 0;
+    const int item = InsertString(index, varnoke::ColorText(color));
+    return item >= 0 && SetItemData(item, color) != CB_ERR;
+}
+
+int CColorComboBox::SelectColor(int index) {
+    if (index < 0 || index >= GetCount()) return 0;
+    const int result = SetCurSel(index);
+    if (result != CB_ERR) m_nSelected = index;
+    return result;
+}
+
+int CColorComboBox::SetPickerOwner(CWnd* pOwner) {
+    m_pPickerOwner = pOwner;
+    return 1;
+}
+
+int CColorComboBox::FinishList() {
+    const int count = GetCount();
+    if (count == 0) {
+        AddColor(RGB(255, 0, 0));
+        AddColor(RGB(0, 255, 0));
+        AddColor(RGB(0, 0, 255));
+    }
+    if (count > m_nCapacity) return 0;
+    SelectColor(0);
+    return AddColor(RGB(0, 0, 0));
+}
+
+int CColorComboBox::FindColor(COLORREF color) const {
+    return FindStringExact(-1, varnoke::ColorText(color));
+}
+
+void CColorComboBox::FillWithStored(COLORREF stored, CWnd* pPickerOwner) {
+    ResetContent();
+    for (const COLORREF color : varnoke::kStandardColors)
+        AddColor(color);
+    SelectColor(0);
+    const int index = FindColor(stored);
+    if (index == CB_ERR) InsertColor(stored);
+    SelectColor(index == CB_ERR ? 0 : index);
+    SetPickerOwner(pPickerOwner);
+    // Finishing selects the first entry again, so only a colour outside the standard ones stays selected.
+    FinishList();
+}
+
+bool CColorComboBox::GetSelectedColor(int* pColor) const {
+    const int index = GetCurSel();
+    if (index < 0 || index >= GetCount()) return false;
+    *pColor = static_cast<int>(GetItemData(index));
+    return *pColor >= 0;
+}
+
+void CColorComboBox::PreSubclassWindow() {
+    CComboBox::PreSubclassWindow();
+    // A combo box of a template has asked for its item height before it is subclassed.
+    SetItemHeight(0, kItemHeight);
+}
+
+void CColorComboBox::MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
+    lpMeasureItemStruct->itemHeight = kItemHeight;
+}
+
+void CColorComboBox::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
+    const DRAWITEMSTRUCT& item = *lpDrawItemStruct;
+    const int count = GetCount();
+    if (item.itemID == static_cast<UINT>(-1) || count <= 0 || ::GetFocus() == nullptr) return;
+
+    const bool isLast = static_cast<int>(item.itemID) == count - 1;
+    const COLORREF color = static_cast<COLORREF>(GetItemData(item.itemID));
+    const CString text = isLast ? varnoke::ResourceText(IDS_MORE_COLORS) : varnoke::ColorText(color);
+    const bool isSelected = (item.itemState & ODS_SELECTED) != 0;
+
+    const int saved = ::SaveDC(item.hDC);
+    ::SetTextColor(item.hDC, ::GetSysColor(isSelected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+    ::SetBkColor(item.hDC, ::GetSysColor(isSelected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+    ::FillRect(item.hDC, &item.rcItem, ::GetSysColorBrush(isSelected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+    if (isSelected && ::GetFocus() == m_hWnd) ::DrawFocusRect(item.hDC, &item.rcItem);
+    RECT textRect = item.rcItem;
+    textRect.left = kTextLeft;
+    if (!isLast) {
+        DrawSwatch(item, color);
+        textRect.right = kTextRight;
+    }
+    ::DrawTextW(item.hDC, text, text.GetLength(), &textRect, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
+    ::RestoreDC(item.hDC, saved);
+}
+
+void CColorComboBox::DrawSwatch(const DRAWITEMSTRUCT& item, COLORREF color) {
+    RECT swatch = item.rcItem;
+    ::InflateRect(&swatch, -5, -2);
+    swatch.left = kSwatchLeft;
+    const varnoke::GdiObject<HBRUSH> brush(::CreateSolidBrush(color));
+    ::SelectObject(item.hDC, ::GetStockObject(BLACK_PEN));
+    const HGDIOBJ previous = ::SelectObject(item.hDC, brush.get());
+    ::Rectangle(item.hDC, swatch.left, swatch.top, swatch.right, swatch.bottom);
+    ::SelectObject(item.hDC, previous);
+}
+
+void CColorComboBox::OnSelendok() {
+    const int index = GetCurSel();
+    if (index == CB_ERR || index != GetCount() - 1 || IsFull()) return;
+    PickColor(index);
+}
+
+// The picked colour takes the place of the entry for more colours, and a new such entry follows it.
+void CColorComboBox::PickColor(int index) {
+    CColorDialog picker(RGB(0, 0, 0), 0, m_pPickerOwner);
+    if (picker.DoModal() == IDOK) {
+        SetItemData(index, picker.GetColor());
+        AddColor(picker.GetColor());
+        m_nSelected = index;
+        return;
+    }
+    if (m_nSelected < 0 || m_nSelected >= GetCount() - 1) m_nSelected = 0;
+    SelectColor(m_nSelected);
+}
+
+bool CColorComboBox::IsFull() const {
+    return GetCount() > m_nCapacity;
+}

@@ -1,0 +1,46 @@
+// Lists may hold null elements; those are passed over.
+#include "ui/DocumentCopy.h"
+
+namespace varnoke {
+
+CString PropertyValue(const SSignObj& object, const CString& name) {
+    for (POSITION pos = object.GetHeadPosition(); pos != nullptr;) {
+        const SSignPro* property = object.GetNext(pos);
+        if (property != nullptr && property->m_strName == name) return property->m_strValue;
+    }
+    return CString();
+}
+
+bool HasProperties(const SSignObj* object) {
+    return object != nullptr && !object->IsEmpty();
+}
+
+OwnedRecord<SSignObj> CopyObject(const SSignObj& object) {
+    OwnedRecord<SSignObj> copy(new SSignObj);
+    for (POSITION pos = object.GetHeadPosition(); pos != nullptr;) {
+        const SSignPro* property = object.GetNext(pos);
+        if (property == nullptr) continue;
+        std::unique_ptr<SSignPro> newProperty(new SSignPro(*property));
+        copy->AddTail(newProperty.get());
+        newProperty.release();
+    }
+    return copy;
+}
+
+OwnedRecord<SSignType> CopyFirstWithProperties(const SSignType& type) {
+    for (POSITION pos = type.m_lstObj.GetHeadPosition(); pos != nullptr;) {
+        const SSignObj* object = type.m_lstObj.GetNext(pos);
+        if (!HasProperties(object)) continue;
+        OwnedRecord<SSignType> copy(new SSignType);
+        AppendObject(*copy, CopyObject(*object));
+        return copy;
+    }
+    return nullptr;
+}
+
+void AppendObject(SSignType& type, OwnedRecord<SSignObj> object) {
+    type.m_lstObj.AddTail(object.get());
+    object.release();
+}
+
+} // namespace varnoke

@@ -1,0 +1,25 @@
+// Copies of documents and of their properties, for results that outlive the lists they were chosen from.
+#pragma once
+
+#include <afxwin.h>
+#include "module/OwnedRecord.h"
+
+namespace varnoke {
+
+/// The value of the first property of that name; empty when there is none.
+CString PropertyValue(const SSignObj& object, const CString& name);
+
+/// A document that is worth handing out: there, and with at least one property.
+bool HasProperties(const SSignObj* object);
+
+/// A copy of the object with copies of its properties, in order.
+OwnedRecord<SSignObj> CopyObject(const SSignObj& object);
+
+/// A new type without identifier that holds a copy of the first object with properties; null when there is
+/// none.
+OwnedRecord<SSignType> CopyFirstWithProperties(const SSignType& type);
+
+/// Appends an object to the type, which owns it from then on.
+void AppendObject(SSignType& type, OwnedRecord<SSignObj> object);
+
+} // namespace varnoke

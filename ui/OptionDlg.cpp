@@ -1,0 +1,46 @@
+// The colour is kept in the settings file only; nothing is written until OK.
+#include "ui/OptionDlg.h"
+
+#include "config/INIConfig.h"
+#include "module/Guarded.h"
+#include "module/InfoMessage.h"
+#include "ui/ResourceText.h"
+#include "ui/StoredColor.h"
+
+BEGIN_MESSAGE_MAP(COptionDlg, CDialog)
+ON_BN_CLICKED(IDC_CONFIRM, &COptionDlg::OnOK)
+ON_BN_CLICKED(IDC_DISMISS, &COptionDlg::OnCancel)
+END_MESSAGE_MAP()
+
+COptionDlg::COptionDlg(CWnd* pParent) : CDialog(IDD, pParent) {}
+
+int COptionDlg::SetSettings(CINIConfig* pSettings) {
+    if (pSettings == nullptr) return 0;
+    m_pSettings = pSettings;
+    return 1;
+}
+
+void COptionDlg::DoDataExchange(CDataExchange* pDX) {
+    CDialog::DoDataExchange(pDX);
+    DDX_Control(pDX, IDC_TEXT_COLOR, m_comboTextColor);
+}
+
+BOOL COptionDlg::OnInitDialog() {
+    CDialog::OnInitDialog();
+    varnoke::Guarded(0, [this] {
+        m_comboTextColor.FillWithStored(varnoke::StoredTextColor(m_pSettings), this);
+        return 1;
+    });
+    return TRUE;
+}
+
+void COptionDlg::OnOK() {
+    varnoke::Guarded(0, [this] {
+        int color = 0;
+        if (!m_comboTextColor.GetSelectedColor(&color))
+            return varnoke::ShowInfo(varnoke::ResourceText(IDS_BAD_TEXT_COLOR), this);
+        if (m_pSettings != nullptr) m_pSettings->SetDateTextColor(color);
+        EndDialog(IDOK);
+        return 1;
+    });
+}

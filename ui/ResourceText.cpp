@@ -1,0 +1,12 @@
+// The module state in force must be the library's, as it is inside every exported operation.
+#include "ui/ResourceText.h"
+
+namespace varnoke {
+
+CString ResourceText(UINT id) {
+    CString text;
+    if (!text.LoadString(id)) text.Empty();
+    return text;
+}
+
+} // namespace varnoke

@@ -1,0 +1,119 @@
+// How the sign dialog's controls start: the inputs, the settings and the fixed choices.
+#include "ui/SignDlg.h"
+
+#include "config/INIConfig.h"
+#include "module/Guarded.h"
+#include "sign/DateStyle.h"
+#include "ui/StoredColor.h"
+#include "ui/SignScope.h"
+
+using namespace varnoke;
+
+namespace {
+
+const wchar_t* const kDateLocations[] = {L"左上", L"左中", L"左下", L"中上", L"中中",
+                                         L"中下", L"右上", L"右中", L"右下"};
+
+const wchar_t* const kFontSizes[] = {L"8",  L"9",  L"10", L"11", L"12", L"14", L"16", L"18",
+                                     L"20", L"22", L"24", L"26", L"28", L"36", L"48", L"72"};
+const long kDefaultFontSize = 8;
+
+template <int count>
+void Fill(CComboBox& combo, const wchar_t* const (&texts)[count]) {
+    combo.ResetContent();
+    for (const wchar_t* text : texts)
+        combo.AddString(text);
+    combo.SetCurSel(0);
+}
+
+// A text that is not in the list goes to its top.
+void SelectOrInsert(CComboBox& combo, const CString& text) {
+    int index = combo.FindStringExact(-1, text);
+    if (index == CB_ERR) index = combo.InsertString(0, text);
+    combo.SetCurSel(index);
+}
+
+} // namespace
+
+void CSignDlg::DoDataExchange(CDataExchange* pDX) {
+    CDialog::DoDataExchange(pDX);
+    DDX_Control(pDX, IDC_USER_NAME, m_editUserName);
+    DDX_Control(pDX, IDC_ROLE, m_editRole);
+    DDX_Control(pDX, IDC_SEAL_NAME, m_editSealName);
+    DDX_Control(pDX, IDC_PREVIEW, m_preview);
+    DDX_Control(pDX, IDC_SIGN_TIME, m_pickerSignTime);
+    DDX_Control(pDX, IDC_DATE_FORMAT, m_comboDateFormat);
+    DDX_Control(pDX, IDC_DATE_LOCATION, m_comboDateLocation);
+    DDX_Control(pDX, IDC_FONT_SIZE, m_comboFontSize);
+    DDX_Control(pDX, IDC_TEXT_COLOR, m_comboTextColor);
+    DDX_Control(pDX, IDC_SCOPE_CURRENT, m_boxCurrent);
+    DDX_Control(pDX, IDC_SCOPE_OPENED, m_boxOpened);
+    DDX_Control(pDX, IDC_SCOPE_ALL, m_boxAll);
+}
+
+BOOL CSignDlg::OnInitDialog() {
+    CDialog::OnInitDialog();
+    Guarded(0, [this] {
+        FillControls();
+        return 1;
+    });
+    return TRUE;
+}
+
+void CSignDlg::FillControls() {
+    m_editUserName.SetWindowText(m_strUserNameIn);
+    m_editRole.SetWindowText(m_strRoleIn);
+    if (m_strSealNameIn.IsEmpty()) m_strSealNameIn = m_strUserNameIn + L"_" + m_strRoleIn;
+    m_editSealName.SetWindowText(m_strSealNameIn);
+    ShowPreview();
+    FillDateFormats();
+    FillDateLocations();
+    FillFontSizes();
+    m_comboTextColor.FillWithStored(StoredTextColor(m_pSettings), this);
+    InitScopeBoxes();
+}
+
+void CSignDlg::ShowPreview() {
+    // Without a viewer, or with a drawing it cannot show, the preview stays empty; signing goes on.
+    Guarded(0L, [this] { return m_preview.OpenDrawing(m_strSealDrawingPath); });
+}
+
+void CSignDlg::FillDateFormats() {
+    Fill(m_comboDateFormat, kDateStyles);
+    if (m_pSettings == nullptr) return;
+    const CString style = m_pSettings->GetDateStyle();
+    SelectOrInsert(m_comboDateFormat, style.IsEmpty() ? CString(kDefaultDateStyle) : style);
+}
+
+void CSignDlg::FillDateLocations() {
+    Fill(m_comboDateLocation, kDateLocations);
+    CString location;
+    if (m_pSettings != nullptr) location = m_pSettings->GetDateLocation();
+    if (location.IsEmpty()) location = kDateLocations[0];
+    const int index = m_comboDateLocation.FindStringExact(-1, location);
+    if (index != CB_ERR)
+        m_comboDateLocation.SetCurSel(index);
+    else
+        m_comboDateFormat.SetCurSel(0); // the formats, not the locations: kept as users know it
+}
+
+void CSignDlg::FillFontSizes() {
+    Fill(m_comboFontSize, kFontSizes);
+    long size = kDefaultFontSize;
+    if (m_pSettings != nullptr && m_pSettings->GetDateFontSize() >= 1) size = m_pSettings->GetDateFontSize();
+    CString text;
+    text.Format(L"%ld", size);
+    SelectOrInsert(m_comboFontSize, text);
+}
+
+void CSignDlg::InitScopeBoxes() {
+    CButton* const boxes[] = {&m_boxCurrent, &m_boxOpened, &m_boxAll};
+    for (CButton* box : boxes) {
+        box->EnableWindow(FALSE);
+        box->SetCheck(BST_CHECKED);
+    }
+    if (m_nScopeSelectable == 0) return;
+    int scope = kScopeCurrent;
+    if (m_pSettings != nullptr) scope = m_pSettings->GetScope();
+    ShowScope(scope);
+}

@@ -1,0 +1,42 @@
+// Nothing here knows a window.
+#include "ui/TransferRules.h"
+
+namespace varnoke {
+
+int ResultAfter(int result, ETransferStep step) {
+    if (step == kFileFailed) return kTransferFailed;
+    if (result != kTransferNone) return result;
+    switch (step) {
+    case kRunEnded:
+        return kTransferEnded;
+    case kRunInterrupted:
+        return kTransferInterrupted;
+    case kFileSkipped:
+        return kTransferSkipped;
+    default:
+        return result;
+    }
+}
+
+CString LogLine(const CString& text, const tm* time) {
+    CString line;
+    line.Format(L"%.2d:%.2d:%.2d", time != nullptr ? time->tm_hour : -1, time != nullptr ? time->tm_min : -1,
+                time != nullptr ? time->tm_sec : -1);
+    return line + L" -> " + text + L"\r\n";
+}
+
+CString WarningLine(const CString& path, const CString& complaint) {
+    return L"文档：" + path + L" " + complaint + L"\r\n";
+}
+
+CString CountText(const CString& label, int done, int count) {
+    CString text;
+    text.Format(L"\t%d / %d", done, count);
+    return label + text;
+}
+
+int NextActivityPosition(int position) {
+    return position < kActivityEnd ? position + 1 : 1;
+}
+
+} // namespace varnoke

@@ -1,0 +1,35 @@
+// What a transfer dialog shows and concludes from the steps of a run.
+#pragma once
+
+#include <afxwin.h>
+#include <time.h>
+#include "ui/TransferVariant.h"
+
+namespace varnoke {
+
+/// Result of a transfer dialog. A failure always wins; of the others the first one stays.
+enum ETransferResult : int {
+    kTransferNone = 0,
+    kTransferEnded = 1,
+    kTransferInterrupted = 2,
+    kTransferSkipped = 3,
+    kTransferFailed = 4
+};
+
+/// The result after a step, given the result before it.
+int ResultAfter(int result, ETransferStep step);
+
+/// The line that is logged for a text at a local time, with its line end. Without a time each part is -1.
+CString LogLine(const CString& text, const tm* time);
+
+/// The warning line for a file, with its line end; `complaint` says what is wrong with it.
+CString WarningLine(const CString& path, const CString& complaint);
+
+/// "<label><tab>done / count"
+CString CountText(const CString& label, int done, int count);
+
+/// The next position of the activity bar, which runs to 100 and starts again at 1.
+int NextActivityPosition(int position);
+constexpr int kActivityEnd = 100;
+
+} // namespace varnoke

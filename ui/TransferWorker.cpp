@@ -1,0 +1,167 @@
+// The worker never touches a control, nor its window once that is closed.
+#include "ui/TransferWorker.h"
+
+#include <comdef.h>
+#include <objbase.h>
+#include <process.h>
+#include <memory>
+#include "module/ModulePaths.h"
+
+using namespace varnoke;
+
+namespace {
+
+const UINT kMessageTextRoom = 1024;
+const DWORD kQueueFullWait = 10; // ms
+
+class CExclusiveLock {
+public:
+    explicit CExclusiveLock(SRWLOCK& lock) : m_lock(lock) { ::AcquireSRWLockExclusive(&m_lock); }
+    ~CExclusiveLock() { ::ReleaseSRWLockExclusive(&m_lock); }
+    CExclusiveLock(const CExclusiveLock&) = delete;
+    CExclusiveLock& operator=(const CExclusiveLock&) = delete;
+
+private:
+    SRWLOCK& m_lock;
+};
+
+// Null when there is no memory for the text.
+_bstr_t MessageText(const CString& strPath) {
+    const UINT length = static_cast<UINT>(strPath.GetLength());
+    const UINT room = length < kMessageTextRoom ? kMessageTextRoom : length;
+    const BSTR text = ::SysAllocStringLen(nullptr, room);
+    if (text == nullptr) return _bstr_t();
+    memset(text, 0, room * sizeof(wchar_t));
+    memcpy(text, strPath.GetString(), length * sizeof(wchar_t));
+    return _bstr_t(text, false);
+}
+
+} // namespace
+
+CTransferWorker::CTransferWorker(const STransferVariant& variant) : m_variant(variant) {}
+
+CTransferWorker::~CTransferWorker() {
+    Close();
+    Wait();
+}
+
+bool CTransferWorker::Start(SSignFileDUL* pList, HWND hWnd) {
+    m_pList = pList;
+    m_hWnd = hWnd;
+    m_hClosedEvent.reset(::CreateEventW(nullptr, TRUE, FALSE, nullptr));
+    if (m_hClosedEvent == nullptr) return false;
+    m_hThread.reset(reinterpret_cast<HANDLE>(_beginthreadex(nullptr, 0, &ThreadMain, this, 0, &m_nThreadId)));
+    return m_hThread != nullptr;
+}
+
+void CTransferWorker::Close() {
+    {
+        const CExclusiveLock lock(m_lock);
+        if (m_bClosed) return;
+        m_bClosed = true;
+    }
+    if (m_hClosedEvent != nullptr) ::SetEvent(m_hClosedEvent.get());
+    if (m_hWnd != nullptr) TakeBackMessages();
+}
+
+void CTransferWorker::TakeBackMessages() {
+    const UINT first = m_variant.m_nFirstMessage;
+    const UINT last = first + kTransferStepCount - 1;
+    bool quit = false;
+    MSG msg = {};
+    while (::PeekMessageW(&msg, m_hWnd, first, last, PM_REMOVE)) {
+        // The request to quit passes every filter.
+        if (msg.message == WM_QUIT) {
+            quit = true;
+            break;
+        }
+        if (msg.hwnd == m_hWnd) const _bstr_t text(reinterpret_cast<BSTR>(msg.wParam), false);
+    }
+    if (quit) {
+        TakeBackMessages();
+        ::PostQuitMessage(static_cast<int>(msg.wParam));
+    }
+}
+
+void CTransferWorker::Wait() {
+    const HANDLE thread = m_hThread.get();
+    while (thread != nullptr &&
+           ::MsgWaitForMultipleObjects(1, &thread, FALSE, INFINITE, QS_SENDMESSAGE) != WAIT_OBJECT_0) {
+        MSG msg = {};
+        ::PeekMessageW(&msg, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
+    }
+    m_hThread.reset();
+}
+
+unsigned __stdcall CTransferWorker::ThreadMain(void* pWorker) {
+    const HRESULT apartment = ::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    const unsigned result = apartment == S_OK ? static_cast<CTransferWorker*>(pWorker)->Run() : 0;
+    ::CoUninitialize();
+    return result;
+}
+
+unsigned CTransferWorker::Run() {
+    if (m_hWnd == nullptr || m_pList == nullptr || m_pList->m_lstItem.GetCount() < 1) return 0;
+    try {
+        TransferList();
+        Post(kRunEnded, nullptr);
+        return 1;
+    } catch (CException* exception) {
+        exception->Delete();
+    } catch (...) {
+    }
+    Post(kRunInterrupted, nullptr);
+    return 0;
+}
+
+void CTransferWorker::TransferList() {
+    CString folder = m_pList->m_strFolder;
+    if (!folder.IsEmpty() && folder.Right(1) != L"\\") folder += L"\\";
+    Post(kRunStarted, nullptr);
+    for (POSITION pos = m_pList->m_lstItem.GetHeadPosition(); pos != nullptr && !IsClosed();) {
+        SSignFileDULItem* item = m_pList->m_lstItem.GetNext(pos);
+        if (item == nullptr || item->m_strRemoteName.IsEmpty() || item->m_strLocalName.IsEmpty()) continue;
+        if (!TransferItem(*item, folder + item->m_strLocalName)) break;
+    }
+}
+
+// Returns false when the run cannot go on.
+bool CTransferWorker::TransferItem(SSignFileDULItem& item, const CString& strPath) {
+    if (m_variant.m_bNeedsLocalFile && !FileExists(strPath)) return PostFile(kFileSkipped, strPath);
+    if (!PostFile(kFileBegins, strPath)) return false;
+    const bool done = m_variant.m_pfnTransfer(strPath, item.m_strRemoteName, 0, 0) == 0;
+    item.m_nState = done ? 1 : 2;
+    return PostFile(done ? kFileDone : kFileFailed, strPath);
+}
+
+// Returns false when there is no memory for the text or nobody to receive it.
+bool CTransferWorker::PostFile(ETransferStep step, const CString& strPath) {
+    _bstr_t text = MessageText(strPath);
+    const BSTR posted = text.GetBSTR();
+    if (posted == nullptr || !Post(step, posted)) return false;
+    text.Detach();
+    return true;
+}
+
+// Waits while the window's message queue is full: a slow dialog loses no report.
+bool CTransferWorker::Post(ETransferStep step, BSTR text) {
+    EPostResult result = TryPost(step, text);
+    while (result == kQueueFull) {
+        ::WaitForSingleObject(m_hClosedEvent.get(), kQueueFullWait);
+        result = TryPost(step, text);
+    }
+    return result == kPosted;
+}
+
+CTransferWorker::EPostResult CTransferWorker::TryPost(ETransferStep step, BSTR text) {
+    const CExclusiveLock lock(m_lock);
+    if (m_bClosed) return kNobodyThere;
+    const UINT message = m_variant.m_nFirstMessage + step;
+    if (::PostMessageW(m_hWnd, message, reinterpret_cast<WPARAM>(text), 0)) return kPosted;
+    return ::IsWindow(m_hWnd) ? kQueueFull : kNobodyThere;
+}
+
+bool CTransferWorker::IsClosed() {
+    const CExclusiveLock lock(m_lock);
+    return m_bClosed;
+}

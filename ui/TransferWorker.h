@@ -1,0 +1,48 @@
+// CTransferWorker: the thread that transfers the documents of a list, one after the other.
+#pragma once
+
+#include <afxwin.h>
+#include "module/Owned.h"
+#include "module/SignRecords.h"
+#include "ui/TransferVariant.h"
+
+// Reports to its window by posted messages only. A message about a file carries its local path in wParam,
+// as a BSTR with room for at least 1024 characters, zero-filled; whoever handles the message frees it.
+// Use: one run per object. All members are for the window's thread; the window must call Close while it is
+// still there, and nobody may free the list before Wait has returned.
+class CTransferWorker {
+public:
+    explicit CTransferWorker(const varnoke::STransferVariant& variant);
+    ~CTransferWorker(); // closes and waits
+    CTransferWorker(const CTransferWorker&) = delete;
+    CTransferWorker& operator=(const CTransferWorker&) = delete;
+
+    // Starts the thread. The list is borrowed; the worker writes the state of its items.
+    bool Start(SSignFileDUL* pList, HWND hWnd);
+    // After the file in hand no further one is transferred and nothing more is posted; what was posted and
+    // not yet handled is taken back.
+    void Close();
+    // Returns when the thread has ended; until then messages that other threads send are answered.
+    void Wait();
+
+private:
+    static unsigned __stdcall ThreadMain(void* pWorker);
+    unsigned Run();
+    void TransferList();
+    bool TransferItem(SSignFileDULItem& item, const CString& strPath);
+    bool PostFile(varnoke::ETransferStep step, const CString& strPath);
+    enum EPostResult { kPosted, kQueueFull, kNobodyThere };
+    bool Post(varnoke::ETransferStep step, BSTR text);
+    EPostResult TryPost(varnoke::ETransferStep step, BSTR text);
+    bool IsClosed();
+    void TakeBackMessages();
+
+    const varnoke::STransferVariant& m_variant;
+    SSignFileDUL* m_pList = nullptr; // not owned
+    HWND m_hWnd = nullptr;           // not owned; not touched once closed
+    varnoke::KernelHandle m_hThread;
+    unsigned m_nThreadId = 0;
+    SRWLOCK m_lock = SRWLOCK_INIT;        // a post and closing exclude each other
+    bool m_bClosed = false;               // under m_lock
+    varnoke::KernelHandle m_hClosedEvent; // ends a wait for room in the message queue
+};
