@@ -1,0 +1,79 @@
+// Text, path and settings helpers of the stand-ins.
+#include "standins/common/Text.h"
+
+#include <windows.h>
+
+#include "standins/common/ThisModule.h"
+
+namespace standins {
+
+std::string ToUtf8(std::wstring_view text) {
+    const int length = static_cast<int>(text.size());
+    const int size = ::WideCharToMultiByte(CP_UTF8, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
+    std::string utf8(static_cast<size_t>(size), '\0');
+    ::WideCharToMultiByte(CP_UTF8, 0, text.data(), length, &utf8[0], size, nullptr, nullptr);
+    return utf8;
+}
+
+bool SameText(std::wstring_view a, std::wstring_view b) {
+    return a.size() == b.size() &&
+           (a.empty() || ::CompareStringOrdinal(a.data(), static_cast<int>(a.size()), b.data(),
+                                                static_cast<int>(b.size()), TRUE) == CSTR_EQUAL);
+}
+
+std::vector<std::wstring> Split(std::wstring_view text, wchar_t separator) {
+    std::vector<std::wstring> parts;
+    while (!text.empty()) {
+        const size_t end = text.find(separator);
+        parts.emplace_back(text.substr(0, end));
+        if (end == std::wstring_view::npos) break;
+        text.remove_prefix(end + 1);
+        if (text.empty()) parts.emplace_back();
+    }
+    return parts;
+}
+
+std::wstring JoinPath(std::wstring_view folder, std::wstring_view name) {
+    std::wstring path(folder);
+    if (!path.empty() && path.back() != L'\\') path += L'\\';
+    path.append(name);
+    return path;
+}
+
+bool FileExists(const std::wstring& path) {
+    const DWORD attributes = ::GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+std::wstring ModulePath() {
+    std::wstring path(MAX_PATH, L'\0');
+    for (;;) {
+        const DWORD length = ::GetModuleFileNameW(ThisModule(), &path[0], static_cast<DWORD>(path.size()));
+        if (length < path.size()) {
+            path.resize(length);
+            return path;
+        }
+        path.resize(path.size() * 2);
+    }
+}
+
+std::wstring ModuleFolder() {
+    const std::wstring path = ModulePath();
+    return path.substr(0, path.rfind(L'\\') + 1);
+}
+
+std::wstring EnvironmentText(const wchar_t* name) {
+    std::wstring value(::GetEnvironmentVariableW(name, nullptr, 0), L'\0');
+    if (value.empty()) return value;
+    value.resize(::GetEnvironmentVariableW(name, &value[0], static_cast<DWORD>(value.size())));
+    return value;
+}
+
+std::wstring IniText(const std::wstring& file, const wchar_t* section, const wchar_t* key) {
+    constexpr DWORD longestValue = 4096;
+    std::wstring value(longestValue, L'\0');
+    value.resize(::GetPrivateProfileStringW(section, key, L"", &value[0], longestValue, file.c_str()));
+    return value;
+}
+
+} // namespace standins

@@ -1,0 +1,36 @@
+// Text, path and settings helpers of the stand-ins.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace standins {
+
+std::string ToUtf8(std::wstring_view text);
+
+// Ordinal comparison without regard to case.
+bool SameText(std::wstring_view a, std::wstring_view b);
+
+// The parts between separators; an empty text has no parts.
+std::vector<std::wstring> Split(std::wstring_view text, wchar_t separator);
+
+// Folder and name with one backslash between them.
+std::wstring JoinPath(std::wstring_view folder, std::wstring_view name);
+
+bool FileExists(const std::wstring& path);
+
+// The folder of the DLL that this code is linked into, with its closing backslash.
+std::wstring ModuleFolder();
+
+// Full path of that DLL.
+std::wstring ModulePath();
+
+// Empty when the variable is not set.
+std::wstring EnvironmentText(const wchar_t* name);
+
+// A value of an INI file, empty when the file or the key is missing. The file is read in the system's code
+// page, or as UTF-16 when it starts with that byte order mark.
+std::wstring IniText(const std::wstring& file, const wchar_t* section, const wchar_t* key);
+
+} // namespace standins

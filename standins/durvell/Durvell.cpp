@@ -1,0 +1,94 @@
+// The exported functions: each checks its arguments, asks the fault plan, does its work and journals the
+// call.
+#include "plm/durvell.h"
+
+#include <string>
+#include <vector>
+
+#include "standins/common/Journal.h"
+#include "standins/durvell/FaultPlan.h"
+#include "standins/durvell/ObjectQuery.h"
+#include "standins/durvell/Vault.h"
+
+using namespace durvell;
+
+static std::wstring TextOf(const wchar_t* text) {
+    return text ? text : L"";
+}
+
+// Runs one call against the current vault. No exception leaves the DLL.
+template <class Work>
+static int RunCall(const wchar_t* function, const std::vector<const wchar_t*>& given, Work work) noexcept {
+    try {
+        std::vector<std::wstring> arguments;
+        for (const wchar_t* argument : given)
+            arguments.push_back(TextOf(argument));
+        const Vault vault;
+        if (!vault.Exists()) return ResultNoVault;
+        Result result = ResultInternal;
+        try {
+            result = work(vault, FaultPlan(vault.Folder()));
+        } catch (...) {
+            // Journaled like every other failure.
+        }
+        standins::AppendJournal(vault.JournalFile(), function, arguments, result);
+        return result;
+    } catch (...) {
+        return ResultInternal;
+    }
+}
+
+static bool HasText(const wchar_t* text) {
+    return text && *text;
+}
+
+extern "C" int dvl_DownloadFile(const wchar_t* localPath, const wchar_t* remoteName, int, int) {
+    return RunCall(L"dvl_DownloadFile", {localPath, remoteName},
+                   [&](const Vault& vault, const FaultPlan& faults) {
+                       if (faults.TransferFails(L"Download", TextOf(remoteName))) return ResultFault;
+                       if (!HasText(localPath)) return ResultBadArgument;
+                       return vault.Download(localPath, TextOf(remoteName));
+                   });
+}
+
+extern "C" int dvl_UploadFile(const wchar_t* localPath, const wchar_t* remoteName, int, int) {
+    return RunCall(L"dvl_UploadFile", {localPath, remoteName},
+                   [&](const Vault& vault, const FaultPlan& faults) {
+                       if (faults.TransferFails(L"Upload", TextOf(remoteName))) return ResultFault;
+                       if (!HasText(localPath)) return ResultBadArgument;
+                       return vault.Upload(localPath, TextOf(remoteName));
+                   });
+}
+
+extern "C" int dvl_QueryObjs(const wchar_t* objectType, const wchar_t* reserved1, const wchar_t* reserved2,
+                             const wchar_t* reserved3, const wchar_t* reserved4, const wchar_t* filterXml,
+                             const wchar_t* reserved5, const wchar_t* resultFile) {
+    return RunCall(L"dvl_QueryObjs",
+                   {objectType, reserved1, reserved2, reserved3, reserved4, filterXml, reserved5, resultFile},
+                   [&](const Vault& vault, const FaultPlan& faults) {
+                       if (faults.Fails(L"Query")) return ResultFault;
+                       if (!HasText(resultFile)) return ResultBadArgument;
+                       std::wstring objectFile;
+                       const Result found = vault.FindObjectFile(TextOf(objectType), &objectFile);
+                       return found == ResultOk
+                                  ? QueryObjects(objectFile, objectType, TextOf(filterXml), resultFile)
+                                  : found;
+                   });
+}
+
+extern "C" int dvl_SaveToServer(const wchar_t* recordFile, const wchar_t* workFile) {
+    return RunCall(L"dvl_SaveToServer", {recordFile, workFile},
+                   [&](const Vault& vault, const FaultPlan& faults) {
+                       if (faults.Fails(L"Save")) return ResultFault;
+                       if (!HasText(recordFile) || !HasText(workFile)) return ResultBadArgument;
+                       return vault.SaveRecord(recordFile, workFile);
+                   });
+}
+
+extern "C" int dvl_GetShareInfo(wchar_t* userName, wchar_t* password, wchar_t* serverAddress) {
+    return RunCall(L"dvl_GetShareInfo", {}, [&](const Vault& vault, const FaultPlan& faults) {
+        if (faults.Fails(L"Share")) return ResultFault;
+        if (!userName || !password || !serverAddress) return ResultBadArgument;
+        return vault.ShareInfo(userName, password, serverAddress);
+    });
+}

@@ -1,0 +1,46 @@
+// The search filter of a query: which objects match.
+#include "standins/durvell/SearchFilter.h"
+
+#include "standins/common/Text.h"
+
+namespace durvell {
+
+bool SearchFilter::Parse(const std::wstring& xml) {
+    m_conditions.clear();
+    const IXMLDOMDocument2Ptr document = LoadXmlText(xml);
+    if (!document) return false;
+    const IXMLDOMNodeListPtr filters = Select(document, L"/searchfilter/archivefilter/filter");
+    const long count = CountOf(filters);
+    for (long i = 0; i < count; ++i) {
+        const IXMLDOMNodePtr filter = ItemAt(filters, i);
+        Condition condition;
+        std::wstring logic, comparison;
+        if (!ReadAttribute(filter, L"logiccode", &logic) || !standins::SameText(logic, L"and")) return false;
+        if (!ReadAttribute(filter, L"comparetype", &comparison) || comparison != L"=") return false;
+        if (!ReadAttribute(filter, L"field", &condition.field) ||
+            !ReadAttribute(filter, L"value", &condition.value))
+            return false;
+        m_conditions.push_back(std::move(condition));
+    }
+    return count > 0;
+}
+
+static bool HasValue(IXMLDOMNodeList* properties, const std::wstring& field, const std::wstring& value) {
+    const long count = CountOf(properties);
+    for (long i = 0; i < count; ++i) {
+        const IXMLDOMNodePtr property = ItemAt(properties, i);
+        std::wstring name, text;
+        if (ReadAttribute(property, L"name", &name) && name == field)
+            return ReadAttribute(property, L"value", &text) && standins::SameText(text, value);
+    }
+    return false;
+}
+
+bool SearchFilter::Matches(IXMLDOMNode* object) const {
+    const IXMLDOMNodeListPtr properties = Select(object, L"pro");
+    for (const Condition& condition : m_conditions)
+        if (!HasValue(properties, condition.field, condition.value)) return false;
+    return true;
+}
+
+} // namespace durvell

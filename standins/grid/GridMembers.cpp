@@ -1,0 +1,171 @@
+// The grid control's automation members.
+#include "standins/common/Text.h"
+#include "standins/grid/GridControl.h"
+#include "ui/QORGridIds.h"
+
+using namespace standins;
+
+namespace grid {
+
+// More rows or columns than this are a caller's mistake.
+constexpr long mostRows = 1000000;
+constexpr long mostColumns = 1000;
+
+template <HRESULT (GridControl::*Method)(Arguments&, VARIANT&)>
+constexpr auto call = &Forward<GridControl, Method>;
+
+const DispatchTable& GridControl::Members() const {
+    using namespace varnoke;
+    constexpr WORD method = DISPATCH_METHOD, get = DISPATCH_PROPERTYGET, put = DISPATCH_PROPERTYPUT;
+    static const DispatchTable members = {
+        {kGridRowCount, L"RowCount", get, "", call<&GridControl::GetRowCount>},
+        {kGridRowCount, L"RowCount", put, "I", call<&GridControl::PutRowCount>},
+        {kGridColumnCount, L"ColumnCount", get, "", call<&GridControl::GetColumnCount>},
+        {kGridColumnCount, L"ColumnCount", put, "I", call<&GridControl::PutColumnCount>},
+        {kGridSortable, L"Sortable", get, "", call<&GridControl::GetSortable>},
+        {kGridSortable, L"Sortable", put, "I", call<&GridControl::PutSortable>},
+        {kGridShowHeader, L"ShowHeader", get, "", call<&GridControl::GetShowHeader>},
+        {kGridShowHeader, L"ShowHeader", put, "I", call<&GridControl::PutShowHeader>},
+        {kGridSetCellText, L"SetCellText", method, "IIS", call<&GridControl::SetCellText>},
+        {kGridGetCellText, L"GetCellText", method, "II", call<&GridControl::GetCellText>},
+        {kGridSetColumnText, L"SetColumnText", method, "IS", call<&GridControl::SetColumnText>},
+        {kGridSetColumnWidth, L"SetColumnWidth", method, "II", call<&GridControl::SetColumnWidth>},
+        {kGridSetColumnEditor, L"SetColumnEditor", method, "IS", call<&GridControl::SetColumnEditor>},
+        {kGridSetSelectionMode, L"SetSelectionMode", method, "I", call<&GridControl::SetSelectionMode>},
+        {kGridSetFixedColumns, L"SetFixedColumns", method, "I", call<&GridControl::SetFixedCount>},
+        {kGridSetFixedRows, L"SetFixedRows", method, "I", call<&GridControl::SetFixedCount>},
+        {kGridAppendRow, L"AppendRow", method, "", call<&GridControl::AppendRow>},
+        {kGridRowValue, L"RowValue", get, "I", call<&GridControl::GetRowValue>},
+        {kGridRowValue, L"RowValue", put, "II", call<&GridControl::PutRowValue>},
+        {kGridSetColumnKind, L"SetColumnKind", method, "II", call<&GridControl::SetColumnKind>},
+        {kGridSetGridLines, L"SetGridLines", method, "I", call<&GridControl::SetGridLines>},
+    };
+    return members;
+}
+
+HRESULT GridControl::GetRowCount(Arguments&, VARIANT& result) {
+    return GiveLong(result, m_model.RowCount());
+}
+
+HRESULT GridControl::ResizeRows(long count) {
+    if (count < 0 || count > mostRows) return E_INVALIDARG;
+    m_model.SetRowCount(count);
+    m_view.ShowRows();
+    return S_OK;
+}
+
+HRESULT GridControl::PutRowCount(Arguments& arguments, VARIANT&) {
+    return ResizeRows(arguments[0].lVal);
+}
+
+HRESULT GridControl::AppendRow(Arguments&, VARIANT&) {
+    return ResizeRows(m_model.RowCount() + 1L);
+}
+
+HRESULT GridControl::GetColumnCount(Arguments&, VARIANT& result) {
+    return GiveLong(result, m_model.ColumnCount());
+}
+
+HRESULT GridControl::PutColumnCount(Arguments& arguments, VARIANT&) {
+    const long count = arguments[0].lVal;
+    if (count < 0 || count > mostColumns) return E_INVALIDARG;
+    m_model.SetColumnCount(count);
+    m_view.ShowColumns();
+    return S_OK;
+}
+
+HRESULT GridControl::GetSortable(Arguments&, VARIANT& result) {
+    return GiveLong(result, m_look.sortable);
+}
+
+HRESULT GridControl::PutSortable(Arguments& arguments, VARIANT&) {
+    m_look.sortable = arguments[0].lVal != 0;
+    return S_OK;
+}
+
+HRESULT GridControl::GetShowHeader(Arguments&, VARIANT& result) {
+    return GiveLong(result, m_look.showHeader);
+}
+
+HRESULT GridControl::PutShowHeader(Arguments& arguments, VARIANT&) {
+    m_look.showHeader = arguments[0].lVal != 0;
+    m_view.ShowLook();
+    return S_OK;
+}
+
+HRESULT GridControl::SetSelectionMode(Arguments& arguments, VARIANT&) {
+    if (arguments[0].lVal != 0 && arguments[0].lVal != 1) return E_INVALIDARG;
+    m_look.selectRows = arguments[0].lVal == 1;
+    m_view.ShowLook();
+    return S_OK;
+}
+
+HRESULT GridControl::SetGridLines(Arguments& arguments, VARIANT&) {
+    m_look.showLines = arguments[0].lVal != 0;
+    m_view.ShowLook();
+    return S_OK;
+}
+
+HRESULT GridControl::SetFixedCount(Arguments& arguments, VARIANT&) {
+    return arguments[0].lVal == 0 ? S_OK : E_NOTIMPL;
+}
+
+HRESULT GridControl::SetCellText(Arguments& arguments, VARIANT&) {
+    const long row = arguments[0].lVal, column = arguments[1].lVal;
+    if (!m_model.HasCell(row, column)) return DISP_E_BADINDEX;
+    m_model.SetCellText(row, column, BstrText(arguments[2]));
+    m_view.ShowRow(row);
+    return S_OK;
+}
+
+HRESULT GridControl::GetCellText(Arguments& arguments, VARIANT& result) {
+    const long row = arguments[0].lVal, column = arguments[1].lVal;
+    return m_model.HasCell(row, column) ? GiveText(result, m_model.CellText(row, column)) : DISP_E_BADINDEX;
+}
+
+HRESULT GridControl::SetColumnText(Arguments& arguments, VARIANT&) {
+    if (!m_model.HasColumn(arguments[0].lVal)) return DISP_E_BADINDEX;
+    m_model.ColumnAt(arguments[0].lVal).header = BstrText(arguments[1]);
+    m_view.ShowColumns();
+    return S_OK;
+}
+
+HRESULT GridControl::SetColumnWidth(Arguments& arguments, VARIANT&) {
+    if (!m_model.HasColumn(arguments[0].lVal)) return DISP_E_BADINDEX;
+    if (arguments[1].lVal < 0) return E_INVALIDARG;
+    m_model.ColumnAt(arguments[0].lVal).width = static_cast<int>(arguments[1].lVal);
+    m_view.ShowColumns();
+    return S_OK;
+}
+
+HRESULT GridControl::SetColumnEditor(Arguments& arguments, VARIANT&) {
+    if (!m_model.HasColumn(arguments[0].lVal)) return DISP_E_BADINDEX;
+    const std::wstring plugIn = BstrText(arguments[1]);
+    const bool isCheckEditor = SameText(plugIn, L"QORCheckBoxEdit.dll");
+    if (!plugIn.empty() && !isCheckEditor) return E_INVALIDARG;
+    m_model.ColumnAt(arguments[0].lVal).hasCheckEditor = isCheckEditor;
+    m_view.ShowRows();
+    return S_OK;
+}
+
+HRESULT GridControl::SetColumnKind(Arguments& arguments, VARIANT&) {
+    const long kind = arguments[1].lVal;
+    if (!m_model.HasColumn(arguments[0].lVal)) return DISP_E_BADINDEX;
+    if (kind != varnoke::kGridColumnText && kind != varnoke::kGridColumnCheck) return E_INVALIDARG;
+    m_model.ColumnAt(arguments[0].lVal).isCheckKind = kind == varnoke::kGridColumnCheck;
+    m_view.ShowRows();
+    return S_OK;
+}
+
+HRESULT GridControl::GetRowValue(Arguments& arguments, VARIANT& result) {
+    const long row = arguments[0].lVal;
+    return m_model.HasRow(row) ? GiveLong(result, m_model.RowValue(row)) : DISP_E_BADINDEX;
+}
+
+HRESULT GridControl::PutRowValue(Arguments& arguments, VARIANT&) {
+    if (!m_model.HasRow(arguments[0].lVal)) return DISP_E_BADINDEX;
+    m_model.SetRowValue(arguments[0].lVal, arguments[1].lVal);
+    return S_OK;
+}
+
+} // namespace grid

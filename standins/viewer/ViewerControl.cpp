@@ -1,0 +1,64 @@
+// The DWG viewer control and what DwgViewer.dll serves.
+#include "standins/viewer/ViewerControl.h"
+
+#include "standins/common/ClassFactory.h"
+#include "standins/common/ComServer.h"
+#include "ui/DwgViewerIds.h"
+
+namespace viewer {
+
+const CLSID& ViewerControl::ClassId() const {
+    return varnoke::kDwgViewerClass;
+}
+
+const standins::DispatchTable& ViewerControl::Members() const {
+    static const standins::DispatchTable members = {
+        {varnoke::kDwgViewerOpen, L"Open", DISPATCH_METHOD, "S",
+         &standins::Forward<ViewerControl, &ViewerControl::Open>},
+    };
+    return members;
+}
+
+HRESULT ViewerControl::Open(standins::Arguments& arguments, VARIANT& result) {
+    m_picture.Clear();
+    const bool shown = m_picture.Load(ReadPreview(standins::BstrText(arguments[0])));
+    ViewChanged();
+    return standins::GiveLong(result, shown ? 1 : 0);
+}
+
+LRESULT ViewerControl::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_ERASEBKGND:
+        return 1;
+    case WM_PAINT: {
+        PAINTSTRUCT paint = {};
+        RECT client = {};
+        ::GetClientRect(window, &client);
+        DrawContent(::BeginPaint(window, &paint), client);
+        ::EndPaint(window, &paint);
+        return 0;
+    }
+    case WM_PRINTCLIENT: {
+        RECT client = {};
+        ::GetClientRect(window, &client);
+        DrawContent(reinterpret_cast<HDC>(wParam), client);
+        return 0;
+    }
+    default:
+        return ::DefWindowProcW(window, message, wParam, lParam);
+    }
+}
+
+void ViewerControl::DrawContent(HDC dc, const RECT& bounds) {
+    RECT inside = bounds;
+    ::FrameRect(dc, &bounds, ::GetSysColorBrush(COLOR_3DSHADOW));
+    ::InflateRect(&inside, -1, -1);
+    m_picture.Draw(dc, inside);
+}
+
+} // namespace viewer
+
+std::vector<standins::ServedClass> standins::ServedClasses() {
+    return {{varnoke::kDwgViewerClass, L"DwgViewer.Viewer", L"DWG viewer control", true,
+             &MakeFactory<viewer::ViewerControl>}};
+}
