@@ -1,0 +1,144 @@
+// What is measured: each function does one piece of work on a number of documents and gives its milliseconds.
+#include <afxwin.h>
+
+#include "bench/Measures.h"
+#include "bench/MessageText.h"
+#include "bench/Stopwatch.h"
+
+#include <comdef.h>
+#include <msxml2.h>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+namespace bench {
+
+namespace {
+
+constexpr int kProperties = 10;
+constexpr CLSID kDocument60 = {0x88d96a05, 0xf192, 0x11d4, {0xa6, 0x5f, 0x00, 0x40, 0x96, 0x32, 0x51, 0xe5}};
+using Document = _com_ptr_t<_com_IIID<IXMLDOMDocument, &IID_IXMLDOMDocument>>;
+
+void Require(bool condition, const char* what) {
+    if (condition) return;
+    std::printf("failed: %s\n", what);
+    std::exit(2);
+}
+
+Document LoadBare(const std::wstring& text) {
+    Document document;
+    VARIANT_BOOL loaded = VARIANT_FALSE;
+    Require(SUCCEEDED(document.CreateInstance(kDocument60)), "creating a document");
+    document->put_async(VARIANT_FALSE);
+    document->loadXML(_bstr_t(text.c_str()), &loaded);
+    Require(loaded != VARIANT_FALSE, "loading a message");
+    return document;
+}
+
+void SaveBare(const Document& document, const std::wstring& path) {
+    Require(SUCCEEDED(document->save(_variant_t(path.c_str()))), "saving a message");
+}
+
+struct Records {
+    SLoginInfo* login = nullptr;
+    SSignType* steps = nullptr;
+    SSignType* files = nullptr;
+
+    void Release() {
+        Cmn_ReleaseLoginInfo(login);
+        Cmn_ReleaseSignType(steps);
+        Cmn_ReleaseSignType(files);
+    }
+};
+
+void Read(CPLMInteract& interact, std::wstring text, std::wstring folder, Records& records, int documents) {
+    Require(interact.StartSignForBackSign(&text[0], &folder[0], &records.login, &records.steps,
+                                          &records.files) == 1 &&
+                records.files->m_lstObj.GetCount() == documents,
+            "reading a message");
+}
+
+struct ListDeleter {
+    void operator()(SSignFileDUL* list) const {
+        while (!list->m_lstItem.IsEmpty())
+            delete list->m_lstItem.RemoveHead();
+        delete list;
+    }
+};
+
+} // namespace
+
+ReadingTime MeasureReading(const Workspace& workspace, CPLMInteract& interact, int documents) {
+    const std::wstring text = MessageText(L"drawing", documents, kProperties);
+    Records records;
+    ReadingTime time = {};
+    time.parser = Milliseconds([&] { SaveBare(LoadBare(text), workspace.Path(L"bare.xml")); });
+    time.reading = Milliseconds([&] { Read(interact, text, workspace.Path(), records, documents); });
+    time.release = Milliseconds([&] { records.Release(); });
+    return time;
+}
+
+MergeTime MeasureMerge(const Workspace& workspace, CPLMInteract& interact, int documents) {
+    const std::wstring kept = MessageText(L"kept", documents, kProperties);
+    std::wstring added = MessageText(L"added", documents, kProperties);
+    std::wstring folder = workspace.Path();
+    Records records;
+    Read(interact, kept, folder, records, documents);
+    records.Release();
+
+    MergeTime time = {};
+    const Document merged = LoadBare(MessageText(L"merged", 2 * documents, kProperties));
+    time.parser = Milliseconds([&] {
+        const Document source = LoadBare(added), target = LoadBare(kept);
+        SaveBare(merged, workspace.Path(L"bare.xml"));
+    });
+    time.merge = Milliseconds([&] {
+        Require(interact.AppendParserStartSignXmlString(&added[0], &folder[0], &records.login, &records.steps,
+                                                        &records.files) == 1 &&
+                    records.files->m_lstObj.GetCount() == documents,
+                "merging a message");
+    });
+    records.Release();
+    return time;
+}
+
+double MeasureTags(const Workspace& workspace, CPLMInteract& interact, int documents) {
+    const std::unique_ptr<SSignFileDUL, ListDeleter> list(new SSignFileDUL);
+    list->m_strFolder = workspace.Path().c_str();
+    for (int document = 0; document < documents; ++document) {
+        list->m_lstItem.AddTail(new SSignFileDULItem);
+        list->m_lstItem.GetTail()->m_strLocalName.Format(L"drawing%d.dwg", document);
+    }
+    const auto update = [&] {
+        Require(interact.UpdateDocsSignTag(list.get(), 1) == 1, "resetting tags");
+        Require(interact.UpdateDocsSignTimeTag(list.get()) == 1, "recording times");
+    };
+    update();
+    const double time = Milliseconds(update);
+    std::wstring folder = workspace.Path();
+    std::wstring last = L"drawing" + std::to_wstring(documents - 1) + L".dwg";
+    long changed = 0;
+    Require(interact.GetDocSignTimeTag(&folder[0], &last[0], &changed) == 0 && changed == 0,
+            "the last time tag");
+    return time;
+}
+
+double MeasureReturnFile(const Workspace& workspace, CPLMInteract& interact, int documents) {
+    Records records;
+    Read(interact, MessageText(L"drawing", documents, kProperties), workspace.Path(), records, documents);
+    records.Release();
+    CStringList names;
+    for (int document = 0; document < documents; ++document) {
+        CString name;
+        name.Format(L"drawing%d.dwg", document);
+        names.AddTail(name);
+    }
+    wchar_t key[] = L"FNAME";
+    std::wstring folder = workspace.Path(), file = workspace.Path(L"return.xml");
+    return Milliseconds([&] {
+        Require(interact.NotifyPLMSignForBackSignRet(names, key, &folder[0], &file[0]) == 1,
+                "writing the return file");
+    });
+}
+
+} // namespace bench

@@ -1,0 +1,24 @@
+// A folder of the program's own under the temporary folder.
+#pragma once
+
+#include <string>
+
+namespace bench {
+
+/// Deletes itself with everything that the measures leave in it.
+class Workspace {
+public:
+    Workspace();
+    ~Workspace();
+    Workspace(const Workspace&) = delete;
+    Workspace& operator=(const Workspace&) = delete;
+
+    /// Full path of a name in the folder; the folder's own for an empty one.
+    std::wstring Path(const std::wstring& name = std::wstring()) const;
+    void CreateFiles(const wchar_t* prefix, int count) const;
+
+private:
+    std::wstring m_folder;
+};
+
+} // namespace bench

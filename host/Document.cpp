@@ -1,0 +1,65 @@
+// One document of a start-sign message.
+#include <afxwin.h>
+
+#include <algorithm>
+
+#include "host/Document.h"
+
+namespace host {
+
+namespace {
+
+constexpr wchar_t kDefaultRole[] = L"设计";
+
+std::vector<CString> ValuesOf(const SSignObj& object, const wchar_t* name) {
+    std::vector<CString> values;
+    for (POSITION position = object.GetHeadPosition(); position;) {
+        const SSignPro* property = object.GetNext(position);
+        if (property && property->m_strName.CompareNoCase(name) == 0) values.push_back(property->m_strValue);
+    }
+    return values;
+}
+
+CString FirstValueOf(const SSignObj& object, const wchar_t* name, const CString& otherwise) {
+    const std::vector<CString> values = ValuesOf(object, name);
+    return values.empty() || values.front().IsEmpty() ? otherwise : values.front();
+}
+
+} // namespace
+
+CDocument::CDocument(SSignObj& object)
+    : m_pObject(&object), m_strName(FirstValueOf(object, kNameProperty, CString())),
+      m_strRemoteName(FirstValueOf(object, L"LOCATION", m_strName)),
+      m_strId(FirstValueOf(object, L"ID", CString())),
+      m_strRole(FirstValueOf(object, L"SIGN_ROLE", kDefaultRole)), m_names(ValuesOf(object, kNameProperty)) {}
+
+void CDocument::FillEmpty(const wchar_t* name, const CString& value) const {
+    for (POSITION position = m_pObject->GetHeadPosition(); position;) {
+        SSignPro* property = m_pObject->GetNext(position);
+        const bool wanted = property && property->m_strName.CompareNoCase(name) == 0;
+        if (wanted && property->m_strValue.IsEmpty()) property->m_strValue = value;
+    }
+}
+
+bool CDocument::SharesName(const CDocument& other) const {
+    return std::any_of(m_names.begin(), m_names.end(), [&other](const CString& mine) {
+        return std::any_of(other.m_names.begin(), other.m_names.end(), [&mine](const CString& name) {
+            return !mine.IsEmpty() && SameFileName(mine, name);
+        });
+    });
+}
+
+std::vector<CDocument> DocumentsOf(const SSignType& files) {
+    std::vector<CDocument> documents;
+    for (POSITION position = files.m_lstObj.GetHeadPosition(); position;) {
+        SSignObj* object = files.m_lstObj.GetNext(position);
+        if (object) documents.emplace_back(*object);
+    }
+    return documents;
+}
+
+bool SameFileName(const CString& a, const CString& b) {
+    return ::CompareStringOrdinal(a, a.GetLength(), b, b.GetLength(), TRUE) == CSTR_EQUAL;
+}
+
+} // namespace host

@@ -1,0 +1,54 @@
+// One document of a start-sign message, as the host sees it.
+#pragma once
+
+#include <afxwin.h>
+
+#include <vector>
+
+#include "host/DocumentName.h"
+#include "host/Records.h"
+
+namespace host {
+
+/// Property of a document that holds its file name in the work folder; the result file is keyed by it too.
+constexpr wchar_t kNameProperty[] = L"FNAME";
+
+class CDocument {
+public:
+    /// `object` is borrowed from the message's records, which must outlive this.
+    explicit CDocument(SSignObj& object);
+
+    /// The object that the sign log takes.
+    SSignObj* Object() const { return m_pObject; }
+    const CString& Name() const { return m_strName; }
+    /// "LOCATION", the server's name of the file; the file name without one.
+    const CString& RemoteName() const { return m_strRemoteName; }
+    const CString& Id() const { return m_strId; }
+    /// "SIGN_ROLE", the role in which the document is signed; the designer's without one.
+    const CString& Role() const { return m_strRole; }
+
+    /// Gives a property that the message left empty its value; one that the document doesn't have stays away.
+    void FillEmpty(const wchar_t* name, const CString& value) const;
+
+    /// Why the document is refused; None for one that may be fetched.
+    ENameFault NameFault() const { return CheckDocumentName(m_strName); }
+    /// Whether both documents carry the same file name. All values of the name property count: the result
+    /// file finds a document by any of them.
+    bool SharesName(const CDocument& other) const;
+
+private:
+    SSignObj* m_pObject; // weak
+    CString m_strName;
+    CString m_strRemoteName;
+    CString m_strId;
+    CString m_strRole;
+    std::vector<CString> m_names;
+};
+
+/// The documents of a message, in message order.
+std::vector<CDocument> DocumentsOf(const SSignType& files);
+
+/// Equal as file names are: without regard to case.
+bool SameFileName(const CString& a, const CString& b);
+
+} // namespace host

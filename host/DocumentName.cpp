@@ -1,0 +1,50 @@
+// Judgement of document names.
+#include <afxwin.h>
+
+#include "host/DocumentName.h"
+
+namespace host {
+
+namespace {
+
+constexpr const wchar_t* kDevices[] = {L"CON", L"PRN", L"AUX", L"NUL", L"CONIN$", L"CONOUT$", L"CLOCK$"};
+
+bool IsPortNumber(wchar_t c) {
+    // The superscript digits one to three count as digits here.
+    return (c >= L'0' && c <= L'9') || c == 0xB9 || c == 0xB2 || c == 0xB3;
+}
+
+/// Devices answer to their name with any extension and with blanks after it.
+bool IsDevice(const CString& name) {
+    const int extension = name.Find(L'.');
+    CString stem = extension < 0 ? name : name.Left(extension);
+    stem.TrimRight();
+    for (const wchar_t* device : kDevices) {
+        if (stem.CompareNoCase(device) == 0) return true;
+    }
+    const CString kind = stem.Left(3);
+    const bool port = kind.CompareNoCase(L"COM") == 0 || kind.CompareNoCase(L"LPT") == 0;
+    return port && stem.GetLength() == 4 && IsPortNumber(stem[3]);
+}
+
+bool HasForbiddenCharacter(const CString& name) {
+    for (int i = 0; i < name.GetLength(); ++i) {
+        if (name[i] < L' ') return true;
+    }
+    return name.FindOneOf(L"<>\"|?*") >= 0;
+}
+
+} // namespace
+
+ENameFault CheckDocumentName(const CString& name) {
+    if (name.IsEmpty()) return ENameFault::Empty;
+    if (name.FindOneOf(L"\\/:") >= 0 || name == L"." || name == L"..") return ENameFault::Path;
+    if (IsDevice(name)) return ENameFault::Device;
+    const wchar_t last = name[name.GetLength() - 1];
+    if (last == L'.' || last == L' ') return ENameFault::Ending;
+    if (HasForbiddenCharacter(name)) return ENameFault::Character;
+    if (name.CompareNoCase(L"SignData") == 0) return ENameFault::SignData;
+    return ENameFault::None;
+}
+
+} // namespace host

@@ -1,0 +1,146 @@
+// Reading of a start-sign message file.
+#include <afxwin.h>
+
+#include <string>
+
+#include "host/MessageFile.h"
+#include "host/Texts.h"
+#include "module/Owned.h"
+
+namespace host {
+
+namespace {
+
+constexpr LONGLONG kMaxFileSize = 64 * 1024 * 1024;
+constexpr UINT kUtf16 = 1200;
+constexpr UINT kUtf16BigEndian = 1201;
+
+struct SEncodingName {
+    const char* m_pszName;
+    UINT m_nCodePage;
+};
+
+constexpr SEncodingName kEncodingNames[] = {
+    {"utf-8", CP_UTF8}, {"gbk", 936},        {"gb2312", 936},       {"cp936", 936},
+    {"gb18030", 54936}, {"us-ascii", 20127}, {"iso-8859-1", 28591},
+};
+
+bool ReadBytes(const CString& path, std::string& bytes, CString& error) {
+    const varnoke::FileHandle file = varnoke::OwnFile(::CreateFileW(
+        path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    LARGE_INTEGER size;
+    if (!file || !::GetFileSizeEx(file.get(), &size)) {
+        error = Text(EText::FileUnreadable, {path});
+        return false;
+    }
+    if (size.QuadPart > kMaxFileSize) {
+        error = Text(EText::FileTooLarge, {path});
+        return false;
+    }
+    bytes.resize(static_cast<size_t>(size.QuadPart));
+    DWORD read = 0;
+    if (!::ReadFile(file.get(), &bytes[0], static_cast<DWORD>(bytes.size()), &read, nullptr) ||
+        read != bytes.size()) {
+        error = Text(EText::FileUnreadable, {path});
+        return false;
+    }
+    return true;
+}
+
+/// The value of encoding="..." in the XML declaration, in lower case; empty without one.
+std::string DeclaredEncoding(const std::string& bytes) {
+    if (bytes.compare(0, 5, "<?xml") != 0) return {};
+    const std::string declaration = bytes.substr(0, bytes.find("?>"));
+    const size_t name = declaration.find("encoding");
+    if (name == std::string::npos) return {};
+    const size_t open = declaration.find_first_of("\"'", name);
+    if (open == std::string::npos) return {};
+    const size_t close = declaration.find(declaration[open], open + 1);
+    if (close == std::string::npos) return {};
+    std::string value = declaration.substr(open + 1, close - open - 1);
+    for (char& c : value) {
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    }
+    return value;
+}
+
+bool StartsWith(const std::string& bytes, const char* mark, size_t size) {
+    return bytes.compare(0, size, mark, size) == 0;
+}
+
+/// Finds the encoding and removes a byte order mark. False for an encoding that is declared but not known
+/// here.
+bool DetectEncoding(std::string& bytes, UINT& codePage, CString& error) {
+    if (StartsWith(bytes, "\xEF\xBB\xBF", 3)) {
+        codePage = CP_UTF8;
+        bytes.erase(0, 3);
+    } else if (StartsWith(bytes, "\xFF\xFE", 2) || StartsWith(bytes, "\xFE\xFF", 2)) {
+        codePage = bytes[0] == '\xFF' ? kUtf16 : kUtf16BigEndian;
+        bytes.erase(0, 2);
+    } else if (StartsWith(bytes, "<\0", 2) || StartsWith(bytes, "\0<", 2)) {
+        codePage = bytes[0] == '<' ? kUtf16 : kUtf16BigEndian;
+    } else {
+        codePage = CP_UTF8;
+        const std::string declared = DeclaredEncoding(bytes);
+        if (declared.empty()) return true;
+        for (const SEncodingName& known : kEncodingNames) {
+            if (declared != known.m_pszName) continue;
+            codePage = known.m_nCodePage;
+            return true;
+        }
+        error =
+            Text(EText::UnknownEncoding, {CString(std::wstring(declared.begin(), declared.end()).c_str())});
+        return false;
+    }
+    return true;
+}
+
+bool DecodeUtf16(std::string bytes, bool bigEndian, CString& text) {
+    if (bytes.size() % 2 != 0) return false;
+    for (size_t i = 0; bigEndian && i < bytes.size(); i += 2) {
+        std::swap(bytes[i], bytes[i + 1]);
+    }
+    text = CString(reinterpret_cast<const wchar_t*>(bytes.data()), static_cast<int>(bytes.size() / 2));
+    return true;
+}
+
+bool DecodeCodePage(const std::string& bytes, UINT codePage, CString& text) {
+    const int size = static_cast<int>(bytes.size());
+    const int length = ::MultiByteToWideChar(codePage, MB_ERR_INVALID_CHARS, bytes.data(), size, nullptr, 0);
+    if (length <= 0) return size == 0;
+    ::MultiByteToWideChar(codePage, MB_ERR_INVALID_CHARS, bytes.data(), size, text.GetBuffer(length), length);
+    text.ReleaseBuffer(length);
+    return true;
+}
+
+bool Decode(const std::string& bytes, UINT codePage, CString& text) {
+    const bool decoded = codePage == kUtf16 || codePage == kUtf16BigEndian
+                             ? DecodeUtf16(bytes, codePage == kUtf16BigEndian, text)
+                             : DecodeCodePage(bytes, codePage, text);
+    // A zero character would cut the message short on its way to the library.
+    return decoded && static_cast<int>(wcslen(text)) == text.GetLength();
+}
+
+void RemoveDeclaration(CString& text) {
+    if (text.Left(5) != L"<?xml") return;
+    const int end = text.Find(L"?>");
+    if (end >= 0) text = text.Mid(end + 2);
+}
+
+} // namespace
+
+bool ReadMessageFile(const CString& path, CString& message, CString& error) {
+    std::string bytes;
+    UINT codePage = CP_UTF8;
+    if (!ReadBytes(path, bytes, error) || !DetectEncoding(bytes, codePage, error)) return false;
+    CString text;
+    if (!Decode(bytes, codePage, text)) {
+        error = Text(EText::BadEncoding, {path});
+        return false;
+    }
+    RemoveDeclaration(text);
+    message = text;
+    return true;
+}
+
+} // namespace host

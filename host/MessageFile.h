@@ -1,0 +1,15 @@
+// Reads a start-sign message file into the text that the library takes.
+#pragma once
+
+#include <afxwin.h>
+
+namespace host {
+
+/// The message as UTF-16 text without byte order mark and XML declaration: an encoding named there is that of
+/// the file and would mislead the parser, which gets characters. The encoding is told by the byte order mark,
+/// else by the declaration (UTF-8, UTF-16, GBK and its relatives, US-ASCII, ISO-8859-1), else it is UTF-8.
+/// False, with an explanation in `error`, for a file that can't be read or whose bytes don't fit its
+/// encoding.
+bool ReadMessageFile(const CString& path, CString& message, CString& error);
+
+} // namespace host

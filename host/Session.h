@@ -1,0 +1,41 @@
+// One use of the library: main window, the two exported objects, and their beginning and end.
+#pragma once
+
+#include <afxwin.h>
+
+#include "host/MainWindow.h"
+#include "plm/PLMInteract.h"
+#include "sign/SignOpt.h"
+
+namespace host {
+
+class CSession {
+public:
+    CSession() = default;
+    /// Ends what was begun, in reverse order.
+    ~CSession();
+    CSession(const CSession&) = delete;
+    CSession& operator=(const CSession&) = delete;
+
+    /// Makes the main window and begins the exchange with the PLM side. False when there is no window. A
+    /// missing model configuration only means that no sign log can be written; see HasModel().
+    bool Open(bool visible);
+    /// Connects to the signing server that the settings name.
+    bool ConnectSignServer();
+    bool Login(const SLoginInfo& login);
+
+    bool HasModel() const { return m_bModel; }
+    CMainWindow& Window() { return m_window; }
+    CPLMInteract& Plm() { return m_plm; }
+    CSignOpt& SignOpt() { return m_signOpt; }
+
+private:
+    CMainWindow m_window; // outlives the objects that show dialogs over it
+    CPLMInteract m_plm;
+    CSignOpt m_signOpt;
+    bool m_bPlm = false;
+    bool m_bModel = false;
+    bool m_bSignOpt = false;
+};
+
+} // namespace host

@@ -1,0 +1,93 @@
+// status: the sign tags of a folder's documents.
+#include <afxwin.h>
+
+#include <algorithm>
+
+#include "host/Console.h"
+#include "host/Document.h"
+#include "host/Paths.h"
+#include "host/StatusCommand.h"
+#include "host/Texts.h"
+
+namespace host {
+
+namespace {
+
+constexpr wchar_t kFolder[] = L"DIR";
+
+/// A tag file's section is named as the file is.
+constexpr const wchar_t* kTags[] = {L"DocSignTimeTag", L"DocSignTag", L"DocSignLogTag"};
+
+/// The keys of a tag file: names of documents.
+std::vector<CString> KeysOf(const CString& folder, const CString& tag) {
+    const CString file = SignDataFile(folder, tag + L".ini");
+    std::vector<wchar_t> keys(4096);
+    // A list that didn't fit comes back two characters short of the buffer.
+    while (::GetPrivateProfileStringW(tag, nullptr, L"", keys.data(), static_cast<DWORD>(keys.size()),
+                                      file) == keys.size() - 2) {
+        keys.resize(keys.size() * 2);
+    }
+    std::vector<CString> names;
+    for (const wchar_t* key = keys.data(); *key; key += wcslen(key) + 1) {
+        names.push_back(key);
+    }
+    return names;
+}
+
+/// Every document that has a tag of any kind, once.
+std::vector<CString> TaggedDocuments(const CString& folder) {
+    std::vector<CString> documents;
+    for (const wchar_t* tag : kTags) {
+        for (const CString& name : KeysOf(folder, tag)) {
+            const bool known =
+                std::any_of(documents.begin(), documents.end(),
+                            [&name](const CString& document) { return SameFileName(document, name); });
+            if (!known) documents.push_back(name);
+        }
+    }
+    return documents;
+}
+
+} // namespace
+
+std::vector<SOptionRule> CStatusCommand::Rules() {
+    return {{kFolder, nullptr, true}};
+}
+
+int CStatusCommand::Run(const COptions& options) {
+    const CString folder = FullPath(options.Value(kFolder));
+    if (!FolderExists(folder)) {
+        PrintError(Text(EText::NoFolder, {options.Value(kFolder)}));
+        return exitRefused;
+    }
+    m_rows = {{Text(EText::ColumnDocument), Text(EText::ColumnSign), Text(EText::ColumnLog),
+               Text(EText::ColumnChange)}};
+    for (const CString& name : TaggedDocuments(folder)) {
+        AddRow(folder, name);
+    }
+    if (m_rows.size() == 1) {
+        PrintLine(Text(EText::NoDocuments));
+        return exitNone;
+    }
+    PrintTable(m_rows);
+    return exitDone;
+}
+
+void CStatusCommand::AddRow(const CString& folder, const CString& name) {
+    long signTag = 0;
+    long logTag = 0;
+    long changed = 0;
+    m_plm.GetDocSignTag(InText(folder), InText(name), &signTag);
+    m_plm.GetDocSignLogTag(InText(folder), InText(name), &logTag);
+    m_plm.GetDocSignTimeTag(InText(folder), InText(name), &changed);
+    EText state = changed ? EText::Changed : EText::Unchanged;
+    if (!FileExists(JoinPath(folder, name))) state = EText::Missing;
+
+    CString sign;
+    CString log;
+    sign.Format(L"%ld", signTag);
+    log.Format(L"%ld", logTag);
+    m_rows.push_back({name, sign, log, Text(state)});
+}
+
+} // namespace host

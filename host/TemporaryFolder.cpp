@@ -1,0 +1,28 @@
+// A private temporary folder.
+#include <afxwin.h>
+
+#include "host/Paths.h"
+#include "host/TemporaryFolder.h"
+
+namespace host {
+
+CTemporaryFolder::CTemporaryFolder() {
+    wchar_t root[MAX_PATH + 1];
+    if (!::GetTempPathW(MAX_PATH + 1, root)) return;
+    // Only a folder that didn't exist before is ours to remove, so a taken name means trying the next one.
+    for (DWORD attempt = 0; attempt < 100; ++attempt) {
+        CString name;
+        name.Format(L"varnoke-host-%lu-%lu", ::GetCurrentProcessId(), ::GetTickCount() + attempt);
+        const CString path = JoinPath(root, name);
+        if (::CreateDirectoryW(path, nullptr)) {
+            m_strPath = path;
+            return;
+        }
+    }
+}
+
+CTemporaryFolder::~CTemporaryFolder() {
+    if (!m_strPath.IsEmpty()) RemoveFolder(m_strPath);
+}
+
+} // namespace host

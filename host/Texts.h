@@ -1,0 +1,120 @@
+// Every text that the host prints or shows, in English and in Chinese, in one table.
+#pragma once
+
+#include <afxwin.h>
+
+#include <initializer_list>
+
+namespace host {
+
+enum class EText {
+    // Usage
+    Usage,
+    UsageEnd,
+    PurposeBackSign,
+    PurposeAppend,
+    PurposeLog,
+    PurposeStatus,
+    PurposeSign,
+    PurposeOption,
+    UnknownCommand,
+    UnknownOption,
+    MissingOption,
+    MissingValue,
+    RepeatedOption,
+    UnexpectedArgument,
+    MissingArgument,
+    // Files and folders
+    NoVault,
+    NoWorkFolder,
+    NoReturnFolder,
+    NoPictureFolder,
+    NoTemporaryFolder,
+    NoFolder,
+    FileUnreadable,
+    FileTooLarge,
+    BadEncoding,
+    UnknownEncoding,
+    // Start of a run
+    FrameworkFailed,
+    MessageRefused,
+    NothingChosen,
+    NothingKept,
+    NothingMerged,
+    Merged,
+    NoModel,
+    // Lines of documents
+    Document,
+    Signed,
+    Ready,
+    NoSignServer,
+    NotLoggedIn,
+    FailedDownload,
+    FailedSignInfo,
+    FailedSign,
+    FailedUpload,
+    NotInVault,
+    RefusedEmpty,
+    RefusedPath,
+    RefusedDevice,
+    RefusedEnding,
+    RefusedCharacter,
+    RefusedSignData,
+    RefusedTwice,
+    // End of a run
+    LogNotWritten,
+    LogNotSent,
+    LogKept,
+    LogSent,
+    Summary,
+    ReturnFile,
+    ReturnFileFailed,
+    // Dry run
+    DryMessage,
+    DryVault,
+    DrySettings,
+    DryDefaults,
+    DryDate,
+    DrySignServer,
+    DryNoSignServer,
+    DrySummary,
+    // Other commands
+    Cancelled,
+    OptionStored,
+    PictureFailed,
+    NoRecord,
+    RecordUnreadable,
+    NoDocuments,
+    ColumnDocument,
+    ColumnRole,
+    ColumnKind,
+    ColumnState,
+    ColumnSign,
+    ColumnLog,
+    ColumnChange,
+    KindSigned,
+    KindDeleted,
+    StateNew,
+    Changed,
+    Unchanged,
+    Missing,
+    // Main window
+    StepStart,
+    StepDownload,
+    StepSign,
+    StepUpload,
+    WindowTitle,
+    Count
+};
+
+/// The text in the user's language: Chinese for a Chinese user interface, English otherwise. VARNOKE_LANGUAGE
+/// ("zh" or "en") in the environment overrides it.
+const wchar_t* Text(EText id);
+
+/// The same with "%1", "%2" ... replaced by the arguments. A replaced text is not looked at again.
+CString Text(EText id, std::initializer_list<CString> arguments);
+
+/// A count as an argument.
+CString NumberText(size_t number);
+
+} // namespace host

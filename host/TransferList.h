@@ -1,0 +1,29 @@
+// The list with which one document goes through the library's transfers.
+#pragma once
+
+#include <afxwin.h>
+
+#include "host/Document.h"
+
+namespace host {
+
+/// A list of its own for every document: the library's silent download stops at the first item that fails,
+/// and the result of its upload is that of the last item only.
+class CTransferList {
+public:
+    CTransferList(const CString& folder, const CDocument& document);
+    CTransferList(const CTransferList&) = delete;
+    CTransferList& operator=(const CTransferList&) = delete;
+
+    /// For one library call at a time; forgets the state of the transfer before.
+    SSignFileDUL* Start();
+    /// Whether the transfer moved the file. The library's own result also calls a skipped item a success.
+    bool Moved() const { return m_item.m_nState == 1; }
+    SSignFileDUL* List() { return &m_list; }
+
+private:
+    SSignFileDULItem m_item;
+    SSignFileDUL m_list;
+};
+
+} // namespace host

@@ -1,0 +1,54 @@
+// varnoke-host.exe: a host program that uses Varnoke.dll as a drawing program does.
+#include <afxwin.h>
+#include <objbase.h>
+
+#include "host/Command.h"
+#include "host/CommandTable.h"
+#include "host/Paths.h"
+#include "module/Owned.h"
+
+namespace {
+
+/// The framework's application object of this program.
+CWinApp theApp;
+
+/// COM on the main thread, for the library's operations.
+class CComThread {
+public:
+    CComThread() : m_bReady(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
+    ~CComThread() {
+        if (m_bReady) ::CoUninitialize();
+    }
+    CComThread(const CComThread&) = delete;
+    CComThread& operator=(const CComThread&) = delete;
+
+    bool IsReady() const { return m_bReady; }
+
+private:
+    bool m_bReady;
+};
+
+/// The product's local services, whose folder holds the model configuration. Without them the library looks
+/// beside this program.
+varnoke::LibraryHandle LoadLocalServices() {
+    return varnoke::LibraryHandle(
+        ::LoadLibraryW(host::JoinPath(host::ModuleFolder(nullptr), L"QORLocal.dll")));
+}
+
+} // namespace
+
+int wmain(int argc, wchar_t** argv) {
+    const CComThread com;
+    if (!AfxWinInit(::GetModuleHandleW(nullptr), nullptr, ::GetCommandLineW(), SW_SHOWNORMAL) ||
+        !com.IsReady()) {
+        return host::exitFailed;
+    }
+    const varnoke::LibraryHandle localServices = LoadLocalServices();
+    try {
+        return host::RunCommand(std::vector<CString>(argv + 1, argv + argc));
+    } catch (CException* exception) {
+        exception->Delete();
+    } catch (...) {
+    }
+    return host::exitFailed;
+}

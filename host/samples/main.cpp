@@ -1,0 +1,74 @@
+// varnoke-samples.exe: makes a server folder, messages and settings to try the reference host with.
+#include <afxwin.h>
+
+#include "host/Console.h"
+#include "host/Paths.h"
+#include "host/samples/Bytes.h"
+#include "host/samples/DrawingFile.h"
+#include "host/samples/Picture.h"
+#include "host/samples/SampleData.h"
+
+using host::JoinPath;
+
+namespace samples {
+
+namespace {
+
+/// Writes a server file, with the folders that its name asks for.
+bool WriteServerFile(const CString& files, CString remoteName, const Bytes& bytes) {
+    remoteName.Replace(L'/', L'\\');
+    for (int slash = remoteName.Find(L'\\'); slash >= 0; slash = remoteName.Find(L'\\', slash + 1)) {
+        if (!host::EnsureFolder(JoinPath(files, remoteName.Left(slash)))) return false;
+    }
+    return WriteFileBytes(JoinPath(files, remoteName), bytes);
+}
+
+bool WriteDrawings(const CString& files) {
+    int variant = 0;
+    for (const SSampleDocument& document : SampleDocuments()) {
+        const Bytes picture = DrawSheet(document.m_pszTitle, document.m_pszId, variant++);
+        if (!WriteServerFile(files, document.m_pszRemoteName,
+                             MakeDrawing(document.m_pszFileVersion, picture))) {
+            return false;
+        }
+    }
+    for (const SSampleUser& user : SampleUsers()) {
+        const Bytes picture = DrawSignature(user.m_pszPerson);
+        if (!WriteServerFile(files, user.m_pszSignature, MakeDrawing("AC1015", picture))) return false;
+    }
+    return true;
+}
+
+bool WriteVault(const CString& vault) {
+    const CString files = JoinPath(vault, L"files");
+    const CString objects = JoinPath(vault, L"objects");
+    return host::EnsureFolder(vault) && host::EnsureFolder(files) && host::EnsureFolder(objects) &&
+           WriteDrawings(files) && WriteFileBytes(JoinPath(objects, L"USER.xml"), Utf8Of(UserObjects())) &&
+           WriteFileBytes(JoinPath(vault, L"session.ini"), Utf16Of(SessionSettings()));
+}
+
+bool WriteSamples(const CString& folder) {
+    return host::EnsureFolder(folder) && WriteVault(JoinPath(folder, L"vault")) &&
+           host::EnsureFolder(JoinPath(folder, L"work")) &&
+           WriteFileBytes(JoinPath(folder, L"message.xml"), Utf8Of(StartMessage())) &&
+           WriteFileBytes(JoinPath(folder, L"message-append.xml"), Utf8Of(FurtherMessage())) &&
+           WriteFileBytes(JoinPath(folder, L"Varnoke.ini"), Utf16Of(LibrarySettings()));
+}
+
+} // namespace
+
+} // namespace samples
+
+int wmain(int argc, wchar_t** argv) {
+    if (argc != 2) {
+        host::PrintError(L"usage: varnoke-samples.exe OUTDIR");
+        return 2;
+    }
+    const CString folder = host::FullPath(argv[1]);
+    if (!samples::WriteSamples(folder)) {
+        host::PrintError(CString(L"the samples could not be written to ") + folder);
+        return 1;
+    }
+    host::PrintLine(folder);
+    return 0;
+}
