@@ -1,0 +1,45 @@
+// A host with its main window, settings file and server folder, for tests that show dialogs.
+#pragma once
+#include <afxwin.h>
+#include <gtest/gtest.h>
+#include "plm/PLMInteract.h"
+#include "sign/SignOpt.h"
+#include "tests/support/DialogDriver.h"
+#include "tests/support/HostWindow.h"
+#include "tests/support/SettingsFile.h"
+#include "tests/support/TempFolder.h"
+
+namespace tests {
+
+// A text that exported functions may take as wchar_t*.
+class Text {
+public:
+    Text(std::wstring text) : m_text(std::move(text)) {}
+    operator wchar_t*() { return m_text.data(); }
+
+private:
+    std::wstring m_text;
+};
+
+class DialogFixture : public testing::Test {
+protected:
+    DialogFixture();
+    ~DialogFixture() override;
+
+    std::filesystem::path Vault() const { return m_folder / L"vault"; }
+    void SetFault(const wchar_t* key, const wchar_t* value) const;
+    // Expects exactly these messages to have been shown, each in the library's own box, owned by the
+    // dialog of that caption.
+    void ExpectBoxes(const wchar_t* owner, const std::vector<std::wstring>& texts) const;
+    // Numbers of kernel handles and window system objects of the process.
+    static std::vector<DWORD> Handles();
+
+    TempFolder m_folder;
+    SettingsFile m_settings;
+    HostWindow m_host;
+    DialogDriver m_driver;
+    CSignOpt m_signOpt;
+    CPLMInteract m_plm;
+};
+
+} // namespace tests

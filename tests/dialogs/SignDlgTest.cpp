@@ -1,0 +1,229 @@
+// The sign dialog, shown by CSignOpt::GetSignInfo.
+#include "tests/dialogs/DialogFixture.h"
+#include "tests/support/MemoryUse.h"
+#include <commctrl.h>
+
+namespace {
+
+using namespace tests;
+
+enum { User = 4023, Role = 4025, Seal = 4027, Time = 4031, Format = 4033, Location = 4035, Size = 4037 };
+enum { Color = 4039, Current = 4042, Opened = 4043, All = 4044, Confirm = 4001, Dismiss = 4002 };
+
+class SignDlg : public DialogFixture {
+protected:
+    ~SignDlg() override {
+        if (m_info) Cmn_ReleaseSignInfo(m_info);
+    }
+    long Sign(long selectable, DialogDriver::Script script, const wchar_t* role = L"审核") {
+        m_driver.Next(std::move(script));
+        return m_signOpt.GetSignInfo(Text(L"a.dwg"), selectable, Text(role), &m_info);
+    }
+    static void Cancel(HWND dialog) { Click(dialog, Dismiss); }
+    static std::wstring Selected(HWND dialog, int combo) {
+        const int index = Selection(dialog, combo);
+        return index < 0 ? L"<none>" : Items(dialog, combo)[index];
+    }
+    // Checked and enabled state of the three scope boxes, narrowest first: "C" checked, "c" checked and
+    // disabled, "E" enabled, "e" disabled.
+    static std::string Scope(HWND dialog) {
+        std::string state;
+        for (const int box : {Current, Opened, All}) {
+            const char letter = Checked(dialog, box) ? 'C' : 'E';
+            state += Enabled(dialog, box) ? letter : static_cast<char>(letter + 32);
+        }
+        return state;
+    }
+
+    SSignInfo* m_info = nullptr;
+};
+
+TEST_F(SignDlg, Open_WithoutSettingsShowsTheDefaults) {
+    EXPECT_EQ(0, Sign(0, [](HWND dialog) {
+                  EXPECT_EQ(L"wang", TextOf(dialog, User));
+                  EXPECT_EQ(L"审核", TextOf(dialog, Role));
+                  EXPECT_EQ(L"wang_审核", TextOf(dialog, Seal));
+                  EXPECT_EQ(
+                      (std::vector<std::wstring>{L"YYYY-MM-DD", L"YYYY年-MM月-DD日", L"YYYY/MM/DD",
+                                                 L"YYYY年/MM月/DD日", L"YYYY.MM.DD", L"YYYY年.MM月.DD日"}),
+                      Items(dialog, Format));
+                  EXPECT_EQ(0, Selection(dialog, Format));
+                  EXPECT_EQ(9u, Items(dialog, Location).size());
+                  EXPECT_EQ(L"左上", Selected(dialog, Location));
+                  EXPECT_EQ(16u, Items(dialog, Size).size());
+                  EXPECT_EQ(L"8", Selected(dialog, Size));
+                  EXPECT_EQ((std::vector<std::wstring>{L"RGB(000, 000, 000)", L"RGB(255, 000, 000)",
+                                                       L"RGB(000, 255, 000)", L"RGB(000, 000, 255)",
+                                                       L"RGB(255, 255, 255)", L"RGB(000, 000, 000)"}),
+                            Items(dialog, Color));
+                  EXPECT_EQ(0, Selection(dialog, Color))
+                      << "white is stored by default, but finishing the list selects black";
+                  EXPECT_EQ("ccc", Scope(dialog));
+                  for (const int hidden : {4026, static_cast<int>(Seal), 4034, static_cast<int>(Location),
+                                           4036, static_cast<int>(Size)})
+                      EXPECT_FALSE(Visible(dialog, hidden)) << hidden;
+                  Cancel(dialog);
+              }));
+    EXPECT_EQ(nullptr, m_info);
+    EXPECT_FALSE(std::filesystem::exists(m_settings.Path())) << "cancelling writes nothing";
+}
+
+TEST_F(SignDlg, Open_UnknownUserIsTheLogonName) {
+    std::filesystem::remove(Vault() / L"session.ini");
+    wchar_t logon[256];
+    DWORD size = 256;
+    GetUserNameW(logon, &size);
+    Sign(0, [&](HWND dialog) {
+        EXPECT_EQ(logon, TextOf(dialog, User));
+        EXPECT_EQ(logon + std::wstring(L"_审核"), TextOf(dialog, Seal));
+        Cancel(dialog);
+    });
+}
+
+TEST_F(SignDlg, Open_ShowsStoredChoices) {
+    struct {
+        const wchar_t *key, *value;
+        int combo;
+        const wchar_t* selected;
+        size_t items;
+    } const cases[] = {
+        {L"DateStyle", L"YYYY/MM/DD", Format, L"YYYY/MM/DD", 6},
+        {L"DateStyle", L"DD.MM.YYYY", Format, L"DD.MM.YYYY", 7},
+        {L"DateLocation", L"右下", Location, L"右下", 9},
+        {L"DateFontSize", L"72", Size, L"72", 16},
+        {L"DateFontSize", L"15", Size, L"15", 17},
+        {L"DateFontSize", L"0", Size, L"8", 16},
+        {L"DateTextColor", L"255", Color, L"RGB(000, 000, 000)", 6}, // red is there, black gets selected
+        {L"DateTextColor", L"-1", Color, L"RGB(000, 000, 000)", 6},
+        {L"DateTextColor", L"2113664", Color, L"RGB(128, 064, 032)", 7},
+    };
+    for (const auto& test : cases) {
+        m_settings.Remove();
+        m_settings.Set(L"SignDate", test.key, test.value);
+        Sign(1, [&](HWND dialog) {
+            EXPECT_EQ(test.selected, Selected(dialog, test.combo)) << ToUtf8(test.value);
+            EXPECT_EQ(test.items, Items(dialog, test.combo).size()) << ToUtf8(test.value);
+            Cancel(dialog);
+        });
+    }
+}
+
+TEST_F(SignDlg, Open_UnknownLocationResetsTheDateFormat) {
+    m_settings.Set(L"SignDate", L"DateStyle", L"YYYY/MM/DD");
+    m_settings.Set(L"SignDate", L"DateLocation", L"中");
+    Sign(0, [](HWND dialog) {
+        EXPECT_EQ(0, Selection(dialog, Location));
+        EXPECT_EQ(L"YYYY-MM-DD", Selected(dialog, Format));
+        Cancel(dialog);
+    });
+}
+
+TEST_F(SignDlg, Scope_ClicksKeepNarrowerScopesIncluded) {
+    for (const auto& [stored, state] :
+         {std::pair{L"1", "CEE"}, {L"2", "cCE"}, {L"3", "ccC"}, {L"4", "CEE"}}) {
+        m_settings.Set(L"SignScope", L"Scope", stored);
+        Sign(1, [&, state = state](HWND dialog) {
+            EXPECT_EQ(state, Scope(dialog));
+            Cancel(dialog);
+        });
+    }
+    Sign(1, [](HWND dialog) {
+        const std::pair<int, const char*> clicks[] = {{Current, "CEE"}, {Opened, "cCE"}, {All, "ccC"},
+                                                      {All, "cCE"},     {Opened, "CEE"}, {All, "ccC"}};
+        for (const auto& [box, state] : clicks) {
+            Click(dialog, box);
+            EXPECT_EQ(state, Scope(dialog)) << box;
+        }
+        Cancel(dialog);
+    });
+}
+
+TEST_F(SignDlg, Confirm_TellsTheFirstFaultAndStaysOpen) {
+    // Each fault is found before the ones that were made earlier. Without a text the selection is taken away.
+    const struct {
+        int control;
+        const wchar_t *text, *message;
+    } faults[] = {
+        {Color, nullptr, L"文字颜色非法。"},
+        {Size, L"-3", L"字体大小不能小于等于零。"},
+        {Size, L"x9", L"字体大小不能小于等于零。"},
+        {Size, L"", L"字体大小不能为空。"},
+        {Location, nullptr, L"时间位置不能为空。"},
+        {Format, L"YYYY-MM", L"时间格式没有日期。"},
+        {Format, L"YYYY", L"时间格式没有月份。"},
+        {Format, L"YY-MM-DD", L"时间格式没有年份。"},
+        {Format, L"", L"时间格式不能为空。"},
+        {Seal, L"", L"印章名不能为空。"},
+        {Role, L"", L"角色不能为空。"},
+        {User, L"", L"用户名不能为空。"},
+    };
+    std::vector<std::wstring> messages = {L"没有指定签名范围。"};
+    Sign(1, [&](HWND dialog) {
+        CheckDlgButton(dialog, Current, BST_UNCHECKED);
+        Click(dialog, Confirm);
+        for (const auto& fault : faults) {
+            if (fault.text)
+                SetText(dialog, fault.control, fault.text);
+            else
+                SendDlgItemMessageW(dialog, fault.control, CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+            Click(dialog, Confirm);
+            messages.push_back(fault.message);
+        }
+        Cancel(dialog);
+    });
+    ExpectBoxes(L"签名", messages);
+    EXPECT_EQ(nullptr, m_info);
+    EXPECT_FALSE(std::filesystem::exists(m_settings.Path()));
+}
+
+TEST_F(SignDlg, Confirm_HandsOutAndStoresTheChoices) {
+    const long result = Sign(1, [](HWND dialog) {
+        const SYSTEMTIME july = {2015, 7, 0, 5, 23, 59, 0, 0};
+        SendDlgItemMessageW(dialog, Time, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&july));
+        SetText(dialog, Format, L"YYYY-M-D 100%d");
+        SetText(dialog, Size, L"13pt");
+        Choose(dialog, Location, 4);
+        Choose(dialog, Color, 3);
+        Click(dialog, Opened);
+        SendMessageW(dialog, WM_COMMAND, IDOK, 0); // as Enter does in an edit box
+    });
+    ASSERT_EQ(1, result);
+    EXPECT_EQ(m_info->m_strUserName, L"wang");
+    EXPECT_EQ(m_info->m_strRole, L"审核");
+    EXPECT_EQ(m_info->m_strSealName, L"wang_审核");
+    EXPECT_EQ(m_info->m_strDlgDateText, L"2015-7-5 100%d");
+    EXPECT_EQ(m_info->m_strDateText, m_info->m_strDlgDateText);
+    EXPECT_EQ(m_info->m_strDlgDateFormat, L"YYYY-M-D 100%d");
+    EXPECT_EQ(m_info->m_strDlgDateLocation, L"中中");
+    EXPECT_EQ(m_info->m_strDlgDateFontSize, L"13pt");
+    EXPECT_EQ(m_info->m_strDlgDateTextColor, L"16711680");
+    EXPECT_EQ(m_info->m_nScope, 2);
+    EXPECT_EQ(m_settings.Get(L"SignDate", L"DateStyle"), L"YYYY-M-D 100%d");
+    EXPECT_EQ(m_settings.Get(L"SignDate", L"DateLocation"), L"中中");
+    EXPECT_EQ(m_settings.Get(L"SignDate", L"DateFontSize"), L"13");
+    EXPECT_EQ(m_settings.Get(L"SignDate", L"DateTextColor"), L"16711680");
+    EXPECT_EQ(m_settings.Get(L"SignScope", L"Scope"), L"2");
+}
+
+TEST_F(SignDlg, Confirm_FixedScopeIsAllDocuments) {
+    m_settings.Set(L"SignScope", L"Scope", L"1");
+    ASSERT_EQ(1, Sign(0, [](HWND dialog) { Click(dialog, Confirm); }));
+    EXPECT_EQ(m_info->m_nScope, 3);
+    EXPECT_EQ(m_settings.Get(L"SignScope", L"Scope"), L"3");
+}
+
+TEST_F(SignDlg, Close_IsNoSignature) {
+    EXPECT_EQ(0, Sign(1, [](HWND dialog) { PostMessageW(dialog, WM_CLOSE, 0, 0); }));
+    EXPECT_EQ(nullptr, m_info);
+}
+
+TEST_F(SignDlg, Runs_LeaveNothingBehind) {
+    const auto run = [this] { Sign(1, &SignDlg::Cancel); };
+    run();
+    const std::vector<DWORD> before = Handles();
+    const long long growth = MemoryGrowth(50, run);
+    EXPECT_EQ(before, Handles());
+    EXPECT_LT(growth, 512 * 1024);
+}
+
+} // namespace

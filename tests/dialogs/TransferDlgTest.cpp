@@ -1,0 +1,221 @@
+// The transfer dialogs, shown by CPLMInteract::DownloadDoc and UploadDoc.
+#include "tests/dialogs/DialogFixture.h"
+#include <commctrl.h>
+#include <fstream>
+
+namespace {
+
+using namespace tests;
+
+struct Variant {
+    const wchar_t *title, *verb;
+    UINT firstMessage;
+    int fileLabel, fileBar, totalLabel, totalBar, log;
+};
+const Variant kDownload = {L"下载文档", L"下载", 2024, 4003, 4004, 4006, 4007, 4009};
+const Variant kUpload = {L"上传文档", L"上传", 2031, 4010, 4012, 4014, 4015, 4017};
+enum Step { Started, Begins, Done, Ended, Skipped, Failed, Interrupted };
+
+class TransferDlg : public DialogFixture, public testing::WithParamInterface<const Variant*> {
+protected:
+    TransferDlg() {
+        m_list.m_strFolder = Local().c_str();
+        std::filesystem::create_directories(Local());
+        std::filesystem::create_directories(Vault() / L"files");
+    }
+    ~TransferDlg() override {
+        while (!m_list.m_lstItem.IsEmpty())
+            delete m_list.m_lstItem.RemoveHead();
+    }
+    std::filesystem::path Local() const { return m_folder / L"drawings"; }
+    std::wstring Path(const wchar_t* name) const { return (Local() / name).wstring(); }
+    const SSignFileDULItem* Add(const wchar_t* remote, const wchar_t* local) {
+        auto* item = new SSignFileDULItem;
+        item->m_strRemoteName = remote;
+        item->m_strLocalName = local;
+        m_list.m_lstItem.AddTail(item);
+        return item;
+    }
+    // A document that is there on both sides.
+    const SSignFileDULItem* AddFile(const wchar_t* name) {
+        WriteBytes(Local() / name, "x");
+        WriteBytes(Vault() / L"files" / name, "x");
+        return Add(name, name);
+    }
+    // Runs the dialog with the script and keeps what it showed at its end.
+    long Transfer(
+        const Variant& variant, DialogDriver::Script script = [](HWND) {}) {
+        m_driver.Next(std::move(script));
+        m_driver.AtEnd([&](HWND dialog) {
+            m_fileLabel = TextOf(dialog, variant.fileLabel);
+            m_totalLabel = TextOf(dialog, variant.totalLabel);
+            m_filePosition = SendDlgItemMessageW(dialog, variant.fileBar, PBM_GETPOS, 0, 0);
+            m_totalPosition = SendDlgItemMessageW(dialog, variant.totalBar, PBM_GETPOS, 0, 0);
+            m_log = TextOf(dialog, variant.log);
+        });
+        return &variant == &kDownload ? m_plm.DownloadDoc(&m_list) : m_plm.UploadDoc(&m_list);
+    }
+    // The log's texts; each line must begin with a time.
+    std::vector<std::wstring> Log() const {
+        std::vector<std::wstring> lines;
+        for (size_t start = 0; start < m_log.size();) {
+            const size_t end = m_log.find(L"\r\n", start);
+            const std::wstring line = m_log.substr(start, end - start);
+            EXPECT_TRUE(line.size() > 12 && line[2] == L':' && line[5] == L':' &&
+                        line.substr(8, 4) == L" -> ")
+                << ToUtf8(line);
+            lines.push_back(line.substr(std::min<size_t>(12, line.size())));
+            start = end == std::wstring::npos ? m_log.size() : end + 2;
+        }
+        return lines;
+    }
+    std::vector<std::pair<UINT, std::wstring>> Steps(const Variant& variant) const {
+        std::vector<std::pair<UINT, std::wstring>> steps;
+        for (const SeenMessage& message : m_driver.Messages())
+            steps.emplace_back(message.m_message - variant.firstMessage, message.m_text);
+        return steps;
+    }
+    size_t ServerCalls() const {
+        std::ifstream journal(Vault() / L"journal.log");
+        return std::count(std::istreambuf_iterator<char>(journal), {}, '\n');
+    }
+
+    SSignFileDUL m_list;
+    std::wstring m_fileLabel, m_totalLabel, m_log;
+    LRESULT m_filePosition = -1, m_totalPosition = -1;
+};
+
+TEST_P(TransferDlg, AFailureInTheMiddle_IsToldAtTheEnd) {
+    const Variant& variant = *GetParam();
+    const std::wstring verb = variant.verb;
+    const auto* first = AddFile(L"a.dwg");
+    const auto* second = AddFile(L"b&b.dwg");
+    const auto* third = AddFile(L"三.dwg");
+    SetFault(&variant == &kDownload ? L"DownloadFail" : L"UploadFail", L"2");
+    EXPECT_EQ(4, Transfer(variant));
+    EXPECT_EQ((std::vector<long>{1, 2, 1}),
+              (std::vector<long>{first->m_nState, second->m_nState, third->m_nState}));
+    const std::wstring a = Path(L"a.dwg"), b = Path(L"b&b.dwg"), c = Path(L"三.dwg");
+    EXPECT_EQ((std::vector<std::pair<UINT, std::wstring>>{{Started, L""},
+                                                          {Begins, a},
+                                                          {Done, a},
+                                                          {Begins, b},
+                                                          {Failed, b},
+                                                          {Begins, c},
+                                                          {Done, c},
+                                                          {Ended, L""}}),
+              Steps(variant));
+    const std::wstring begins = L"正在" + verb + L"：", done = verb + L"完成：";
+    EXPECT_EQ((std::vector<std::wstring>{L"开始" + verb + L"文档...", begins + a, done + a, begins + b,
+                                         begins + c, done + c, L"文档" + verb + L"结束。"}),
+              Log());
+    ExpectBoxes(variant.title, {L"文档：" + b + L" " + verb + L"失败。\r\n"});
+    EXPECT_EQ(done + c, m_fileLabel);
+    EXPECT_EQ(verb + L"进度：\t2 / 3", m_totalLabel);
+    EXPECT_EQ(100, m_filePosition);
+    EXPECT_EQ(0, m_totalPosition) << "the overall bar stays at its start";
+}
+
+TEST_P(TransferDlg, NothingToDo_EndsByItself) {
+    const Variant& variant = *GetParam();
+    EXPECT_EQ(0, Transfer(variant));
+    ExpectBoxes(variant.title, {std::wstring(L"没有文档需要") + variant.verb + L"。"});
+
+    m_list.m_lstItem.AddTail(static_cast<SSignFileDULItem*>(nullptr));
+    const auto* unnamed = Add(L"", L"a.dwg");
+    Add(L"a.dwg", L"");
+    EXPECT_EQ(1, Transfer(variant));
+    EXPECT_EQ((std::vector<std::pair<UINT, std::wstring>>{{Started, L""}, {Ended, L""}}), Steps(variant));
+    EXPECT_EQ(2u, Log().size());
+    EXPECT_EQ(0, unnamed->m_nState);
+    EXPECT_EQ(1u, m_driver.Boxes().size());
+    EXPECT_EQ(0u, ServerCalls());
+}
+
+TEST_P(TransferDlg, ClosedEarly_FinishesTheFileInHandOnly) {
+    const Variant& variant = *GetParam();
+    const auto* first = AddFile(L"a.dwg");
+    const auto* second = AddFile(L"b.dwg");
+    SetFault(L"DelayMs", L"300");
+    m_driver.After(variant.firstMessage + Begins, 1,
+                   [](HWND dialog) { PostMessageW(dialog, WM_CLOSE, 0, 0); });
+    EXPECT_EQ(0, Transfer(variant));
+    EXPECT_EQ(1, first->m_nState) << "the call must not return while the worker writes to the list";
+    EXPECT_EQ(0, second->m_nState);
+    EXPECT_EQ(1u, ServerCalls());
+    EXPECT_TRUE(m_driver.Boxes().empty());
+}
+
+TEST_P(TransferDlg, ClosedBeforeTheRun_TransfersNothing) {
+    AddFile(L"a.dwg");
+    EXPECT_EQ(0, Transfer(*GetParam(), [](HWND dialog) { PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0); }));
+    EXPECT_EQ(0u, ServerCalls());
+}
+
+TEST_P(TransferDlg, Activity_WrapsAndEnterIsIgnored) {
+    const Variant& variant = *GetParam();
+    AddFile(L"a.dwg");
+    SetFault(L"DelayMs", L"300");
+    m_driver.After(variant.firstMessage + Begins, 1, [&](HWND dialog) {
+        const auto position = [&] { return SendDlgItemMessageW(dialog, variant.fileBar, PBM_GETPOS, 0, 0); };
+        EXPECT_EQ(0, position());
+        SendDlgItemMessageW(dialog, variant.fileBar, PBM_SETPOS, 99, 0);
+        for (const int expected : {100, 1, 2}) {
+            SendMessageW(dialog, WM_TIMER, 2, 0);
+            EXPECT_EQ(expected, position());
+        }
+        SendMessageW(dialog, WM_COMMAND, IDOK, 0);
+    });
+    EXPECT_EQ(1, Transfer(variant));
+    EXPECT_EQ(1u, ServerCalls());
+}
+
+TEST_P(TransferDlg, LongList_LogsEveryLine) {
+    const Variant& variant = *GetParam();
+    const int count = 400; // more text than an edit box holds by default
+    for (int i = 0; i < count; ++i)
+        AddFile((std::to_wstring(i) + L" of a list that is long.dwg").c_str());
+    EXPECT_EQ(1, Transfer(variant));
+    EXPECT_EQ(2u * count + 2, Log().size());
+    EXPECT_EQ(variant.verb + std::wstring(L"进度：\t400 / 400"), m_totalLabel);
+}
+
+INSTANTIATE_TEST_SUITE_P(Both, TransferDlg, testing::Values(&kDownload, &kUpload),
+                         [](const auto& info) { return info.param == &kDownload ? "Download" : "Upload"; });
+
+using Upload = TransferDlg;
+
+TEST_F(Upload, MissingLocalFiles_AreSkipped) {
+    const auto* item = Add(L"a", L"a.dwg");
+    Add(L"b", L"b.dwg");
+    EXPECT_EQ(3, Transfer(kUpload));
+    EXPECT_EQ((std::vector<std::wstring>{L"开始上传文档...", L"文档上传结束。"}), Log());
+    ExpectBoxes(L"上传文档",
+                {L"文档：" + Path(L"a.dwg") + L" 不存在。\r\n文档：" + Path(L"b.dwg") + L" 不存在。\r\n"});
+    EXPECT_EQ(0, item->m_nState);
+    EXPECT_EQ(0u, ServerCalls());
+}
+
+TEST_F(Upload, AFailureOutweighsASkip) {
+    Add(L"a", L"a.dwg");
+    AddFile(L"b.dwg");
+    SetFault(L"UploadFail", L"*");
+    EXPECT_EQ(4, Transfer(kUpload));
+}
+
+TEST_F(Upload, Runs_LeaveNothingBehind) {
+    for (int i = 0; i < 20; ++i)
+        AddFile((std::to_wstring(i) + L".dwg").c_str());
+    const auto run = [this](int steps) {
+        m_driver.After(kUpload.firstMessage + Begins, steps,
+                       [](HWND dialog) { PostMessageW(dialog, WM_CLOSE, 0, 0); });
+        Transfer(kUpload);
+    };
+    run(1);
+    const std::vector<DWORD> before = Handles();
+    for (int round = 0; round < 10; ++round)
+        run(1 + round);
+    EXPECT_EQ(before, Handles());
+}
+
+} // namespace

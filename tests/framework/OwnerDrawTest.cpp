@@ -1,0 +1,90 @@
+// An owner-drawn combo box draws itself and takes its own notifications.
+#include "tests/framework/ScriptedDialog.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class CSwatchCombo : public CComboBox {
+public:
+    int m_nDrawn = 0, m_nMeasured = 0, m_nChosen = 0;
+    COLORREF m_clrDrawn = 0, m_clrText = 0;
+
+    void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override {
+        ++m_nDrawn;
+        CDC* pDC = CDC::FromHandle(lpDrawItemStruct->hDC);
+        const CRect rect(lpDrawItemStruct->rcItem);
+        CPen pen(PS_SOLID, 1, RGB(0, 0, 0));
+        CBrush brush(RGB(10, 200, 30));
+        CPen* pOldPen = pDC->SelectObject(&pen);
+        CBrush* pOldBrush = pDC->SelectObject(&brush);
+        pDC->Rectangle(rect);
+        m_clrDrawn = pDC->GetPixel(rect.left + 3, rect.top + 3);
+        EXPECT_EQ(static_cast<HGDIOBJ>(pen), ::SelectObject(*pDC, *pOldPen));
+        pDC->SelectObject(pOldBrush);
+        pDC->FillSolidRect(CRect(rect.left, rect.top, rect.left + 2, rect.bottom), RGB(1, 2, 3));
+        m_clrText = pDC->GetPixel(rect.left, rect.top);
+    }
+    void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) override {
+        ++m_nMeasured;
+        lpMeasureItemStruct->itemHeight = 31;
+    }
+
+protected:
+    afx_msg void OnSelEndOk() { ++m_nChosen; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CSwatchCombo, CComboBox)
+    ON_CONTROL_REFLECT(CBN_SELENDOK, &CSwatchCombo::OnSelEndOk)
+END_MESSAGE_MAP()
+
+void Notify(CWnd& combo, WORD code) {
+    combo.GetParent()->SendMessage(WM_COMMAND, MAKEWPARAM(combo.GetDlgCtrlID(), code),
+                                   reinterpret_cast<LPARAM>(combo.m_hWnd));
+}
+
+} // namespace
+
+TEST(OwnerDraw, Combo_DrawsItemsAndHearsItsOwnNotification) {
+    CScriptedDialog dialog;
+    CSwatchCombo combo;
+    dialog.m_init = [&](CScriptedDialog& d) {
+        ASSERT_TRUE(combo.SubclassDlgItem(IDC_COLORS, &d));
+        EXPECT_EQ(0, combo.AddString(_T("green")));
+        EXPECT_EQ(0, combo.InsertString(0, _T("greenish")));
+        combo.SetItemData(0, 5);
+    };
+    dialog.m_script = [&](CScriptedDialog& d) {
+        EXPECT_EQ(1, combo.FindStringExact(-1, _T("GREEN"))) << "whole text, any case";
+        combo.SetCurSel(0);
+        combo.UpdateWindow();
+        Notify(combo, CBN_SELENDOK);
+        Notify(combo, CBN_CLOSEUP);
+        CString text;
+        combo.GetLBText(0, text);
+        EXPECT_STREQ(L"greenish", text);
+        EXPECT_EQ(5u, combo.GetItemData(0));
+        EXPECT_THROW(combo.GetLBText(7, text), CInvalidArgException*);
+        d.EndDialog(1);
+    };
+    EXPECT_EQ(1, dialog.DoModal());
+    EXPECT_GT(combo.m_nDrawn, 0);
+    EXPECT_EQ(RGB(10, 200, 30), combo.m_clrDrawn);
+    EXPECT_EQ(RGB(1, 2, 3), combo.m_clrText);
+    EXPECT_EQ(1, combo.m_nChosen);
+}
+
+TEST(OwnerDraw, MeasureItem_IsAskedOfTheAttachedControl) {
+    CScriptedDialog dialog;
+    CSwatchCombo combo;
+    dialog.m_init = [&](CScriptedDialog& d) {
+        ASSERT_TRUE(combo.SubclassDlgItem(IDC_COLORS, &d));
+        MEASUREITEMSTRUCT measure = {ODT_COMBOBOX, IDC_COLORS, 0, 0, 0, 0};
+        EXPECT_EQ(TRUE, d.SendMessage(WM_MEASUREITEM, IDC_COLORS, reinterpret_cast<LPARAM>(&measure)));
+        EXPECT_EQ(31u, measure.itemHeight);
+        d.EndDialog(1);
+    };
+    EXPECT_EQ(1, dialog.DoModal());
+    EXPECT_EQ(1, combo.m_nMeasured);
+}

@@ -1,0 +1,177 @@
+// Usage, message files of all encodings, and the commands beside the silent run.
+#include "tests/host/HostFixture.h"
+
+#include <algorithm>
+
+namespace fs = std::filesystem;
+
+namespace tests {
+
+namespace {
+
+std::string Utf16(const std::wstring& text, bool bigEndian, bool mark) {
+    std::string bytes;
+    for (const wchar_t c : (mark ? L"\xFEFF" : L"") + text) {
+        const char low = static_cast<char>(c & 0xFF);
+        const char high = static_cast<char>(c >> 8);
+        bytes += bigEndian ? high : low;
+        bytes += bigEndian ? low : high;
+    }
+    return bytes;
+}
+
+std::string Gbk(const std::wstring& text) {
+    std::string bytes(text.size() * 2, 0);
+    bytes.resize(WideCharToMultiByte(936, 0, text.data(), static_cast<int>(text.size()), bytes.data(),
+                                     static_cast<int>(bytes.size()), nullptr, nullptr));
+    return bytes;
+}
+
+using CommandLineTest = HostTest;
+
+TEST_F(CommandLineTest, BadUsage_IsRefusedWithTheReason) {
+    const std::vector<std::pair<std::vector<std::wstring>, std::string>> cases = {
+        {{}, "usage: varnoke-host.exe"},
+        {{L"resign"}, "unknown command: resign"},
+        {{L"back-sign", L"--message", L"m.xml"}, "option --vault is required"},
+        {{L"log", L"--work", L"a", L"--work", L"b"}, "option --work was given twice"},
+        {{L"log", L"--work"}, "option --work needs a value: DIR"},
+        {{L"log", L"--fold", L"a"}, "unknown option: --fold"},
+        {{L"status"}, "argument DIR is required"},
+        {{L"status", L"a", L"b"}, "unexpected argument: b"},
+        {{L"status", L"no such folder"}, "there is no such folder"},
+    };
+    for (const auto& usage : cases) {
+        const HostResult result = RunHost(usage.first);
+        EXPECT_EQ(2u, result.exitCode) << usage.second;
+        EXPECT_NE(std::string::npos, result.err.find(usage.second)) << result.Text();
+        EXPECT_EQ("", result.out);
+    }
+    const HostResult help = RunHost({L"--help"});
+    EXPECT_EQ(0u, help.exitCode);
+    EXPECT_NE(std::string::npos,
+              help.out.find("back-sign --message FILE --vault DIR --work DIR --return FILE [--dry-run]"));
+}
+
+TEST_F(CommandLineTest, Texts_AreInTheUsersLanguage) {
+    SetEnvironmentVariableW(L"VARNOKE_LANGUAGE", L"zh");
+    EXPECT_NE(std::string::npos, RunHost({}).err.find("用法：varnoke-host.exe"));
+}
+
+TEST_F(CommandLineTest, MessageFile_IsReadInEveryEncoding) {
+    const std::vector<TestDocument> documents = {{L"图纸.dwg"}};
+    const auto declared = [&](const wchar_t* encoding) {
+        return MessageText(documents,
+                           std::wstring(L"<?xml version='1.0' encoding='") + encoding + L"'?>\r\n");
+    };
+    Store(L"图纸.dwg");
+    const std::vector<std::string> files = {
+        ToUtf8(declared(L"UTF-8")),
+        "\xEF\xBB\xBF" + ToUtf8(declared(L"utf-8")),
+        Utf16(declared(L"UTF-16"), false, true),
+        Utf16(declared(L"UTF-16"), true, true),
+        Utf16(declared(L"UTF-16"), false, false),
+        Gbk(declared(L"GBK")),
+        Gbk(declared(L"gb2312")),
+    };
+    for (size_t i = 0; i < files.size(); ++i) {
+        WriteBytes(Message(), files[i]);
+        const HostResult result = BackSign({L"--dry-run"});
+        EXPECT_EQ(0u, result.exitCode) << "file " << i << ": " << result.Text();
+        EXPECT_TRUE(result.Said("图纸.dwg: ready")) << "file " << i << ": " << result.Text();
+    }
+}
+
+TEST_F(CommandLineTest, RefusedMessage_SignsNothing) {
+    Prepare({{L"a.dwg"}});
+    const std::string good = ReadBytes(Message());
+    std::string withoutSteps = good;
+    withoutSteps.replace(withoutSteps.find("\"step\""), 6, "\"Step\"");
+    const std::string zero = good + std::string(1, '\0') + good;
+    const std::vector<std::string> files = {"",
+                                            "no xml",
+                                            withoutSteps,
+                                            zero,
+                                            "\xFF\xFE<",
+                                            "<a>\xFF\xC3</a>",
+                                            "<?xml version='1.0' encoding='x-klingon'?>" + good};
+    for (size_t i = 0; i < files.size(); ++i) {
+        WriteBytes(Message(), files[i]);
+        EXPECT_EQ(2u, BackSign().exitCode) << "file " << i;
+        EXPECT_EQ(2u, BackSign({L"--dry-run"}).exitCode) << "file " << i;
+    }
+    fs::remove(Message());
+    EXPECT_EQ(2u, BackSign().exitCode);
+    EXPECT_FALSE(fs::exists(Vault() / L"journal.log"));
+    EXPECT_EQ("", ReturnValues());
+}
+
+TEST_F(CommandLineTest, MissingFolders_AreRefusedBeforeAnythingHappens) {
+    Prepare({{L"a.dwg"}});
+    for (const auto& missing :
+         {std::pair<size_t, const wchar_t*>{4, L"nowhere"}, {6, L"no\\where"}, {8, L"no\\r.xml"}}) {
+        std::vector<std::wstring> arguments = {
+            L"back-sign",     L"--message",      Message().wstring(),
+            L"--vault",       Vault().wstring(), L"--work",
+            Work().wstring(), L"--return",       (m_folder / L"ret.xml").wstring()};
+        arguments[missing.first] = (m_folder / missing.second).wstring();
+        EXPECT_EQ(2u, RunHost(arguments).exitCode) << missing.first;
+    }
+    EXPECT_FALSE(fs::exists(Vault() / L"journal.log"));
+}
+
+TEST_F(CommandLineTest, Append_AddsNewDocumentsToTheKeptMessage) {
+    Prepare({{L"a.dwg"}});
+    const std::vector<std::wstring> append = {L"append",       L"--message",      Message().wstring(),
+                                              L"--vault",      Vault().wstring(), L"--work",
+                                              Work().wstring()};
+    EXPECT_EQ(2u, RunHost(append).exitCode) << "no message is kept yet";
+    ASSERT_EQ(0u, BackSign().exitCode);
+    EXPECT_EQ(4u, RunHost(append).exitCode) << "the document is kept already";
+
+    WriteBytes(Message(), ToUtf8(MessageText({{L"A.DWG"}, {L"new.dwg"}})));
+    const HostResult merged = RunHost(append);
+    EXPECT_EQ(0u, merged.exitCode) << merged.Text();
+    EXPECT_TRUE(merged.Said("merged: new.dwg")) << merged.Text();
+    const std::string kept = ReadBytes(Work() / L"SignData" / L"StartSign.Xml");
+    EXPECT_NE(std::string::npos, kept.find("a.dwg"));
+    EXPECT_NE(std::string::npos, kept.find("new.dwg"));
+}
+
+TEST_F(CommandLineTest, Status_TellsTagsAndChanges) {
+    EXPECT_EQ(4u, RunHost({L"status", Work().wstring()}).exitCode);
+    Prepare({{L"a.dwg"}, {L"图.dwg"}, {L"c.dwg"}});
+    Fault(L"UploadFailNames", L"c.dwg");
+    ASSERT_EQ(3u, BackSign().exitCode);
+    WritePrivateProfileStringW(L"DocSignTimeTag", L"图.dwg", L"2015-07-14_09:05:00",
+                               (Work() / L"SignData" / L"DocSignTimeTag.ini").c_str());
+    fs::remove(Work() / L"c.dwg");
+    const HostResult status = RunHost({L"status", Work().wstring()});
+    EXPECT_EQ(0u, status.exitCode);
+    EXPECT_TRUE(status.Said("Document  Sign tag  Log tag  File")) << status.Text();
+    EXPECT_TRUE(status.Said("a.dwg     1         1        unchanged")) << status.Text();
+    EXPECT_TRUE(status.Said("图.dwg    1         1        changed")) << status.Text();
+    EXPECT_TRUE(status.Said("c.dwg     0         0        missing")) << status.Text();
+}
+
+TEST_F(CommandLineTest, Sign_WalksThroughItsDialogsUnattended) {
+    Prepare({{L"a.dwg"}});
+    const fs::path pictures = m_folder / L"pictures";
+    const HostResult result =
+        RunHost({L"sign", L"--message", Message().wstring(), L"--vault", Vault().wstring(), L"--work",
+                 Work().wstring(), L"--pictures", pictures.wstring(), L"--auto", L"--keep-log"});
+    EXPECT_EQ(0u, result.exitCode) << result.Text();
+    EXPECT_TRUE(result.Said("a.dwg: downloaded, signed, uploaded")) << result.Text();
+    EXPECT_EQ(1, SignCalls("Sign", "\twang\t校对\t"));
+    EXPECT_EQ(1, Tag(L"DocSignTag", L"a.dwg"));
+    // Download, sign dialog, upload.
+    for (const wchar_t* name : {L"01.png", L"02.png", L"03.png"}) {
+        ASSERT_TRUE(fs::exists(pictures / name)) << result.Text();
+        EXPECT_EQ("\x89PNG\r\n\x1A\n", ReadBytes(pictures / name).substr(0, 8));
+    }
+    EXPECT_EQ(0u, RunHost({L"log", L"--work", Work().wstring()}).exitCode) << "the log was to be kept";
+}
+
+} // namespace
+
+} // namespace tests

@@ -1,0 +1,58 @@
+// A server folder, a work folder and messages for runs of the reference host.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "tests/host/HostProcess.h"
+#include "tests/support/TempFolder.h"
+
+namespace tests {
+
+// One document of a message: file name, and the server's name where it is another.
+struct TestDocument {
+    std::wstring name;
+    std::wstring remote = L"";
+};
+
+class HostTest : public testing::Test {
+protected:
+    HostTest();
+    ~HostTest() override;
+
+    std::filesystem::path Vault() const { return m_folder / L"vault"; }
+    std::filesystem::path Work() const { return m_folder / L"work"; }
+    std::filesystem::path Message() const { return m_folder / L"message.xml"; }
+    std::filesystem::path ReturnFile() const { return m_folder / L"ret_Ret.Xml"; }
+
+    // Puts a drawing on the server, or a text of its own.
+    void Store(const std::wstring& remote, const std::string& bytes = "AC1015 drawing") const;
+    std::string Stored(const std::wstring& remote) const;
+    // Document i (from 1) has the identifier "D<i>".
+    static std::wstring MessageText(const std::vector<TestDocument>& documents,
+                                    const std::wstring& declaration = L"");
+    // Writes the message file and puts every document on the server.
+    void Prepare(const std::vector<TestDocument>& documents) const;
+    // [Fault] of the server: see its documentation.
+    void Fault(const wchar_t* key, const wchar_t* value) const;
+
+    HostResult BackSign(const std::vector<std::wstring>& further = {},
+                        const std::function<void(DWORD)>& whileRunning = nullptr) const;
+    // "SignRet" values of the return file in order, such as "101"; empty without a file.
+    std::string ReturnValues() const;
+    long Tag(const wchar_t* tag, const wchar_t* document) const;
+    // Lines of a journal that name the call.
+    int Calls(const char* call, const std::string& containing = "") const;
+    int SignCalls(const char* call, const std::string& containing = "") const;
+    // Every sign record that the server got, one after the other.
+    std::string ServerLog() const;
+    // Path, attributes and content of everything below the test's folder.
+    std::string Snapshot() const;
+
+    TempFolder m_folder;
+};
+
+} // namespace tests

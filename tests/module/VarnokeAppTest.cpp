@@ -1,0 +1,55 @@
+// Tests of the way into the library; it is loaded as a copy beside the one that the test is linked with.
+#include <afxwin.h>
+#include <objbase.h>
+#include <thread>
+#include <gtest/gtest.h>
+#include "module/Guarded.h"
+#include "tests/support/TempFolder.h"
+
+namespace {
+
+// Kind of the thread's apartment; -1 without COM.
+int Apartment() {
+    APTTYPE type;
+    APTTYPEQUALIFIER qualifier;
+    const bool own = SUCCEEDED(CoGetApartmentType(&type, &qualifier)) && qualifier == APTTYPEQUALIFIER_NONE;
+    return own ? type : -1;
+}
+
+TEST(VarnokeApp, LoadAndUnload_LeaveTheThreadsComAsItWas) {
+    tests::TempFolder folder;
+    const auto copy = folder / "VarnokeCopy.dll";
+    wchar_t library[MAX_PATH];
+    GetModuleFileNameW(GetModuleHandleW(L"Varnoke.dll"), library, MAX_PATH);
+    std::filesystem::copy_file(library, copy);
+    for (const bool mta : {false, true, false}) {
+        std::thread([&] {
+            if (mta) CoInitializeEx(nullptr, COINIT_MULTITHREADED);
+            const HMODULE module = LoadLibraryW(copy.c_str());
+            EXPECT_NE(module, nullptr) << GetLastError();
+            EXPECT_EQ(Apartment(), mta ? APTTYPE_MTA : APTTYPE_STA);
+            FreeLibrary(module);
+            EXPECT_EQ(GetModuleHandleW(copy.c_str()), nullptr) << "still loaded";
+            EXPECT_EQ(Apartment(), mta ? APTTYPE_MTA : -1);
+            if (mta) CoUninitialize();
+        }).join();
+    }
+}
+
+TEST(Guarded, SwitchesTheModuleStateAndEndsEveryException) {
+    AFX_MODULE_STATE host = {};
+    AFX_MODULE_STATE* const before = AfxSetModuleState(&host);
+    const auto run = [](auto&& raise) {
+        return varnoke::Guarded(-1, [&] {
+            EXPECT_EQ(AfxGetModuleState(), AfxGetStaticModuleState());
+            raise();
+            return 1;
+        });
+    };
+    EXPECT_EQ(run([] {}), 1);
+    EXPECT_EQ(run([] { throw 1; }), -1);
+    EXPECT_EQ(run([] { AfxThrowMemoryException(); }), -1);
+    EXPECT_EQ(AfxSetModuleState(before), &host) << "the caller's state comes back";
+}
+
+} // namespace

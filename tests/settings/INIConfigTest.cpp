@@ -1,0 +1,165 @@
+// Tests of the settings reader on real files.
+#include <afxwin.h>
+#include <gtest/gtest.h>
+#include "config/INIConfig.h"
+#include "module/ModulePaths.h"
+#include "tests/support/TempFolder.h"
+
+static CString settingsPath;
+
+CString varnoke::SettingsFilePath() {
+    return settingsPath;
+}
+
+namespace {
+
+template <auto Getter>
+std::wstring Read(const CINIConfig& config) {
+    const auto value = (config.*Getter)();
+    if constexpr (std::is_arithmetic_v<decltype((config.*Getter)())>)
+        return std::to_wstring(value);
+    else
+        return value.GetString();
+}
+
+struct Setting {
+    const wchar_t *section, *key, *fallback, *stored; // the stored one as the getter gives it
+    std::wstring (*read)(const CINIConfig&);
+};
+
+const Setting kSettings[] = {
+    {L"SignServer", L"ServerIP", L"127.0.0.1", L"10.1.2.3", Read<&CINIConfig::GetServerIP>},
+    {L"SignServer", L"ServerPort", L"8089", L"81", Read<&CINIConfig::GetServerPort>},
+    {L"SignLog", L"DesignDoMain", L"standard", L"机械", Read<&CINIConfig::GetDesignDoMain>},
+    {L"SignLog", L"LocalObjectConfigId", L"IQORM_OBJ_SIGN", L"LO", Read<&CINIConfig::GetLocalObjectConfigId>},
+    {L"SignLog", L"ServerObjectConfigId", L"SIGN", L"SO", Read<&CINIConfig::GetServerObjectConfigId>},
+    {L"Sign", L"Index", L"0", L"-7", Read<&CINIConfig::GetIndex>},
+    {L"Sign", L"Pin", L"480317", L"55 66", Read<&CINIConfig::GetPin>},
+    {L"Sign", L"DelPre", L"0", L"1", Read<&CINIConfig::GetDelPre>},
+    {L"SignDate", L"DateStyle", L"YYYY-MM-DD", L"YYYY年M月D日", Read<&CINIConfig::GetDateStyle>},
+    {L"SignDate", L"DateLocation", L"左上", L"右下", Read<&CINIConfig::GetDateLocation>},
+    {L"SignDate", L"DateFontSize", L"8", L"15", Read<&CINIConfig::GetDateFontSize>},
+    {L"SignDate", L"DateTextColor", L"16777215", L"65280", Read<&CINIConfig::GetDateTextColor>},
+    {L"SignDate", L"DateTextColor", L"255", L"65280", Read<&CINIConfig::GetSignDateTextColor>},
+    {L"SignDate", L"DateOffsetX", L"0.000000", L"1.250000", Read<&CINIConfig::GetDateOffsetX>},
+    {L"SignDate", L"DateOffsetY", L"0.000000", L"-2.500000", Read<&CINIConfig::GetDateOffsetY>},
+    {L"SignDate", L"DateFontName", L"宋体", L"黑体", Read<&CINIConfig::GetDateFontName>},
+    {L"SignScope", L"Scope", L"1", L"3", Read<&CINIConfig::GetScope>},
+    {L"SignLocation", L"LocationStyle", L"0", L"4", Read<&CINIConfig::GetLocationStyle>},
+    {L"SignLocation", L"LocationXCheck", L"0.000000", L"3.500000", Read<&CINIConfig::GetLocationXCheck>},
+    {L"SignLocation", L"LocationYCheck", L"0.000000", L"4.500000", Read<&CINIConfig::GetLocationYCheck>},
+    {L"SignDateLocation", L"LocationStyle", L"0", L"5", Read<&CINIConfig::GetDateLocationStyle>},
+    {L"SignDateLocation", L"LocationXCheck", L"0.000000", L"5.500000",
+     Read<&CINIConfig::GetDateLocationXCheck>},
+    {L"SignDateLocation", L"LocationYCheck", L"0.000000", L"6.500000",
+     Read<&CINIConfig::GetDateLocationYCheck>},
+    {L"DynDisp", L"ProgID", L"Brevanix.Brevanix0", L"Other.Server", Read<&CINIConfig::GetProgID>},
+};
+
+class INIConfig : public testing::Test {
+protected:
+    INIConfig() {
+        settingsPath = m_file.c_str();
+        EXPECT_EQ(m_config.Initialize(nullptr), 1);
+    }
+    void Store(const wchar_t* section, const wchar_t* key, const std::wstring& value) const {
+        ASSERT_TRUE(WritePrivateProfileStringW(section, key, value.c_str(), m_file.c_str()));
+    }
+    static void ExpectAll(const CINIConfig& config, const wchar_t* Setting::*expected) {
+        for (const Setting& setting : kSettings)
+            EXPECT_EQ(setting.read(config), setting.*expected) << tests::ToUtf8(setting.key);
+    }
+
+    tests::TempFolder m_folder;
+    const std::filesystem::path m_file = m_folder / L"设置.ini";
+    CINIConfig m_config;
+};
+
+TEST_F(INIConfig, Default_WithoutPathFileOrValues) {
+    ExpectAll(m_config, &Setting::fallback);
+    EXPECT_FALSE(std::filesystem::exists(m_file)) << "reading must not create the file";
+    tests::WriteBytes(m_file, "");
+    ExpectAll(m_config, &Setting::fallback);
+
+    Store(L"SignServer", L"ServerIP", L"stored");
+    EXPECT_EQ(m_config.GetServerIP(), L"stored") << "changes are seen at the next read";
+    EXPECT_EQ(m_config.Uninitialize(), 1);
+    ExpectAll(m_config, &Setting::fallback);
+    EXPECT_EQ(m_config.GetSignServer(L"ServerIP"), L"ServerIP");
+    EXPECT_EQ(m_config.SetScope(2) + m_config.SetDateStyle(L"x"), 0);
+    settingsPath.Empty();
+    EXPECT_EQ(m_config.Initialize(nullptr), 0);
+}
+
+TEST_F(INIConfig, Stored_IsReadByEachGetterInBothEncodings) {
+    for (const std::string mark : {"", "\xFF\xFE"}) {
+        tests::WriteBytes(m_file, mark);
+        for (const Setting& setting : kSettings)
+            Store(setting.section, setting.key, std::wstring(L"  ") + setting.stored + L" \t");
+        EXPECT_EQ(tests::ReadBytes(m_file).substr(0, 2) == "\xFF\xFE", !mark.empty());
+        ExpectAll(m_config, &Setting::stored);
+    }
+}
+
+TEST_F(INIConfig, Text_BlankGivesDefaultAndLongIsCut) {
+    for (const wchar_t* blank : {L"", L"   ", L"\" \t \"", L"　"}) {
+        Store(L"SignServer", L"ServerIP", blank);
+        Store(L"SignServer", L"王工", blank);
+        EXPECT_EQ(m_config.GetServerIP(), L"127.0.0.1");
+        EXPECT_EQ(m_config.GetSignServer(L"王工"), L"王工");
+    }
+    Store(L"SignLog", L"DesignDoMain", std::wstring(1022, L'a') + L"b");
+    EXPECT_EQ(m_config.GetDesignDoMain(), std::wstring(1022, L'a').c_str());
+    Store(L"SignServer", L"王工", L" wang.sign ");
+    EXPECT_EQ(m_config.GetSignServer(L"王工"), L"wang.sign");
+    EXPECT_EQ(m_config.GetDynDisp(L"Sign"), L"Sign");
+    EXPECT_EQ(m_config.GetDynDisp(L""), L"");
+}
+
+TEST_F(INIConfig, Number_UnusableOneIsReplacedWhenRead) {
+    const struct {
+        const wchar_t *section, *key, *stored, *expected;
+        std::wstring (*read)(const CINIConfig&);
+    } kCases[] = {
+        {L"SignScope", L"Scope", L"0", L"1", Read<&CINIConfig::GetScope>},
+        {L"SignScope", L"Scope", L"4", L"1", Read<&CINIConfig::GetScope>},
+        {L"SignDate", L"DateFontSize", L"0", L"8", Read<&CINIConfig::GetDateFontSize>},
+        {L"SignDate", L"DateTextColor", L"-1", L"16777215", Read<&CINIConfig::GetDateTextColor>},
+        {L"SignDate", L"DateTextColor", L"-1", L"255", Read<&CINIConfig::GetSignDateTextColor>},
+        {L"SignDate", L"DateTextColor", L"0", L"0", Read<&CINIConfig::GetSignDateTextColor>},
+        {L"SignDate", L"DateOffsetX", L"abc", L"0.000000", Read<&CINIConfig::GetDateOffsetX>},
+        {L"SignDate", L"DateOffsetX", L"", L"0.000000", Read<&CINIConfig::GetDateOffsetX>},
+    };
+    for (const auto& c : kCases) {
+        Store(c.section, c.key, c.stored);
+        EXPECT_EQ(c.read(m_config), c.expected) << tests::ToUtf8(c.key) << " = " << tests::ToUtf8(c.stored);
+    }
+}
+
+TEST_F(INIConfig, Setters_RoundTripThroughASecondReader) {
+    CINIConfig second;
+    second.Initialize(nullptr);
+    const auto written = [&second] {
+        return second.GetDateStyle() + L"|" + second.GetDateLocation() + L"|" +
+               std::to_wstring(second.GetDateFontSize()).c_str() + L"|" +
+               std::to_wstring(second.GetSignDateTextColor()).c_str() + L"|" +
+               std::to_wstring(second.GetScope()).c_str();
+    };
+    const auto write = [this](const wchar_t* style, long size, long color, long scope) {
+        return m_config.SetDateStyle(style) + m_config.SetDateLocation(L"中中") +
+               m_config.SetDateFontSize(size) + m_config.SetDateTextColor(color) + m_config.SetScope(scope);
+    };
+    EXPECT_EQ(write(L"D/M/YYYY", 48, 254, 3), 5);
+    EXPECT_EQ(written(), L"D/M/YYYY|中中|48|254|3");
+    EXPECT_EQ(write(L"", 0, -1, 5), 5);
+    EXPECT_EQ(written(), L"YYYY-MM-DD|中中|8|16777215|1") << "unusable values are not stored";
+    // A read-only file would not do: it does not stop the administrator under Wine.
+    const HANDLE heldByAnother =
+        CreateFileW(m_file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(heldByAnother, INVALID_HANDLE_VALUE);
+    EXPECT_EQ(write(L"D/M/YYYY", 48, 254, 3), 0);
+    EXPECT_EQ(written(), L"YYYY-MM-DD|中中|8|16777215|1");
+    CloseHandle(heldByAnother);
+}
+
+} // namespace

@@ -1,0 +1,204 @@
+// Tests of the signing operations through the library's interface, against a server in this process.
+#include <afxwin.h>
+#include <optional>
+#include "sign/SignOpt.h"
+#include "tests/sign/FakeServer.h"
+#include "tests/support/MemoryUse.h"
+#include "tests/support/SettingsFile.h"
+#include "tests/support/TempFolder.h"
+
+namespace {
+
+// A text that exported functions may take as wchar_t*.
+struct Text : std::wstring {
+    using std::wstring::wstring;
+    operator wchar_t*() { return data(); }
+};
+
+class SignOpt : public testing::Test {
+protected:
+    SignOpt() {
+        DISPID id = 0;
+        for (const wchar_t* method :
+             {L"Login", L"Sign", L"SignatureDelete", L"DeleteAllSign", L"SignatureValidate",
+              L"SignatureInvalidDelete", L"Test", L"CancelSign", L"Renamed"})
+            m_server.m_methods[method] = ++id;
+        m_settings.Set(L"DynDisp", L"ProgID", m_server.m_progID.c_str());
+        EXPECT_EQ(m_opt->Initialize(nullptr), 1);
+        m_info.m_strFirstText = L"图号-1";
+        m_info.m_strUserName = L"王工";
+        m_info.m_strRole = L"校对";
+        m_info.m_strDateText = L"2015年";
+        for (int i = 0; i < 8; ++i) // A to H
+            (&m_info.m_dA)[i] = 2 << i;
+    }
+
+    // What the server sees of a call that is expected to succeed.
+    template <class Call>
+    std::wstring Seen(Call call) {
+        EXPECT_EQ(call(), 1);
+        return m_server.LastSeen();
+    }
+
+    tests::SettingsFile m_settings;
+    tests::FakeServer m_server;
+    std::optional<CSignOpt> m_opt{std::in_place};
+    SSignInfo m_info;
+    // The host's drawing is never touched: any use of this one would crash.
+    IDispatch* const m_drawing = reinterpret_cast<IDispatch*>(0x1000);
+    Text m_text = L"甲";
+    Text m_empty;
+};
+
+TEST_F(SignOpt, Lifecycle_ServerLivesFromInitializeToDestruction) {
+    EXPECT_EQ(m_opt->Logout() + m_opt->Uninitialize(), 2);
+    EXPECT_EQ(m_server.LastSeen(), L"") << "neither reaches the server";
+    m_opt.reset();
+    EXPECT_EQ(m_server.m_objects, 0);
+    m_settings.Set(L"DynDisp", L"ProgID", L"No.Such.Server");
+    CSignOpt without;
+    EXPECT_EQ(without.Initialize(nullptr), 0);
+    EXPECT_EQ(without.Login(m_text, m_text, m_text) + without.Sign(m_drawing, &m_info), 0);
+}
+
+TEST_F(SignOpt, Login_SendsTheMappedUserAndTheConfiguredAddress) {
+    const auto login = [this] { return m_opt->Login(m_text, m_empty, m_text); };
+    EXPECT_EQ(Seen(login), L"1(甲||127.0.0.1|8089)");
+    m_settings.Set(L"SignServer", L"甲", L" jia.sign ");
+    m_settings.Set(L"SignServer", L"ServerIP", L"10.0.0.1");
+    EXPECT_EQ(Seen(login), L"1(jia.sign||10.0.0.1|8089)");
+}
+
+TEST_F(SignOpt, Operations_CallTheirMethodByItsConfiguredName) {
+    const struct {
+        const wchar_t *key, *identifier, *arguments;
+        std::function<long()> call;
+    } kOperations[] = {
+        {L"Sign", L"2", L"(图号-1||2015年|王工|校对|2|-12|32|-192|8|16|128|256)",
+         [&] { return m_opt->Sign(m_drawing, &m_info); }},
+        {L"SignatureDelete", L"3", L"(图号-1|王工|校对)",
+         [&] { return m_opt->DeleteSignForBackSign(m_drawing, &m_info); }},
+        {L"DeleteAllSign", L"4", L"(甲)", [&] { return m_opt->DeleteAllSignForBackSign(m_drawing, m_text); }},
+        {L"SignatureValidate", L"5", L"(甲)",
+         [&] { return m_opt->SignatureValidateForBackSign(m_drawing, m_text); }},
+        {L"SignatureInvalidDelete", L"6", L"(甲)",
+         [&] { return m_opt->ClearInvalidSignForBackSign(m_drawing, m_text); }},
+    };
+    for (const auto& operation : kOperations) {
+        EXPECT_EQ(Seen(operation.call), std::wstring(operation.identifier) + operation.arguments);
+        m_settings.Set(L"DynDisp", operation.key, L"Renamed");
+        EXPECT_EQ(Seen(operation.call), std::wstring(L"9") + operation.arguments);
+        m_settings.Set(L"DynDisp", operation.key, L"Unknown");
+        EXPECT_EQ(operation.call(), 0);
+    }
+    for (const wchar_t* fixed : {L"SignatureDelete", L"CancelSign", L"Test"}) // no matter for these two
+        m_settings.Set(L"DynDisp", fixed, L"Renamed");
+    EXPECT_EQ(Seen([&] { return m_opt->CancelSign(m_drawing, m_text, Text(L"b"), Text(L"c")); }),
+              L"3(甲|b|c)");
+    EXPECT_EQ(Seen([&] { return m_opt->Test(m_text); }), L"7(甲)");
+}
+
+TEST_F(SignOpt, Arguments_MissingOnesAreRefusedWithoutACall) {
+    long invalid = 7;
+    SSignInfo* info = &m_info;
+    EXPECT_EQ(m_opt->Login(m_empty, m_text, m_text) + m_opt->Login(m_text, nullptr, m_text) +
+                  m_opt->Login(m_text, m_text, m_empty) + m_opt->Sign(nullptr, &m_info) +
+                  m_opt->SignForBackSign(m_drawing, nullptr) +
+                  m_opt->DeleteSignForBackSign(m_drawing, nullptr) +
+                  m_opt->DeleteAllSignForBackSign(m_drawing, m_empty) +
+                  m_opt->SignatureValidateForBackSign(nullptr, m_text) +
+                  m_opt->CancelSign(m_drawing, m_text, m_empty, m_text) +
+                  m_opt->CancelSign(m_drawing, m_text, m_text, nullptr) +
+                  m_opt->ClearInvalidSign(m_drawing, m_empty) +
+                  m_opt->ExistSignature(nullptr, m_text, m_text) + m_opt->HasInvalidSign(nullptr, &invalid),
+              0);
+    EXPECT_EQ(m_opt->GetSignUserName(nullptr) + m_opt->GetCancelSignDate(nullptr) +
+                  m_opt->GetSignInfoForBackSign(m_text, nullptr) +
+                  m_opt->GetSignInfoForBackSign(m_empty, &info) +
+                  m_opt->GetSignInfo(m_text, 1, m_empty, &info),
+              0);
+    EXPECT_EQ(invalid, 7);
+    EXPECT_EQ(info, nullptr);
+    EXPECT_EQ(m_opt->ClearInvalidSign(m_drawing, m_text), 1);
+    EXPECT_EQ(m_opt->ExistSignature(m_drawing, m_text, nullptr), 1);
+    EXPECT_EQ(m_opt->HasInvalidSign(m_drawing, &invalid), 1);
+    EXPECT_EQ(invalid, 0);
+    EXPECT_EQ(m_server.LastSeen(), L"") << "none of these reaches the server";
+}
+
+TEST_F(SignOpt, Status_IsTheIntegerThatTheMethodReturned) {
+    _variant_t returned;
+    HRESULT outcome = S_OK;
+    m_server.m_answer = [&](VARIANT& result, EXCEPINFO&) { return VariantCopy(&result, &returned), outcome; };
+    const auto status = [&](_variant_t value) { return returned = value, m_opt->Test(m_text); };
+    EXPECT_EQ(status(-42L), -42);
+    EXPECT_EQ(status(short(5)), 5);
+    EXPECT_EQ(status(4294967295UL), -1) << "the same 32 bits";
+    EXPECT_EQ(status(L"17"), 17);
+    EXPECT_EQ(status(L"ok"), 0);
+    EXPECT_EQ(status(1e20), 0);
+    EXPECT_EQ(status(_variant_t()), 0);
+    outcome = E_FAIL;
+    EXPECT_EQ(status(1L), 0) << "a failed call has no status";
+    m_server.m_answer = [](VARIANT&, EXCEPINFO&) -> HRESULT { throw 1; };
+    EXPECT_EQ(status(1L), 0) << "nothing thrown leaves the library";
+}
+
+TEST_F(SignOpt, Calls_FreeTheirArguments) {
+    Text big(500000, L'x');
+    m_info.m_strSecondText = big.c_str();
+    const auto calls = [&] {
+        EXPECT_EQ(m_opt->Test(big) + m_opt->SignForBackSign(m_drawing, &m_info), 2);
+        m_server.m_seen.clear();
+    };
+    EXPECT_LT(tests::MemoryGrowth(60, calls), 20 << 20) << "of 120 MB handed over";
+}
+
+TEST_F(SignOpt, GetSignUserName_CopiesTheSharedLogin) {
+    tests::TempFolder vault;
+    SetEnvironmentVariableW(L"DURVELL_VAULT", vault.Text().c_str());
+    const std::wstring name(1023, L'名');
+    WritePrivateProfileStringW(L"Session", L"UserName", name.c_str(), (vault / "session.ini").c_str());
+    Text buffer(1100, L'#');
+    EXPECT_EQ(m_opt->GetSignUserName(buffer), 1);
+    EXPECT_STREQ(buffer.c_str(), name.c_str());
+    EXPECT_EQ(buffer[1024], L'#') << "1023 characters and the terminator at most";
+    SetEnvironmentVariableW(L"DURVELL_VAULT", nullptr);
+}
+
+TEST_F(SignOpt, GetCancelSignDate_RendersACompleteStyleOrTheDefault) {
+    const auto today = [](const wchar_t* format) {
+        SYSTEMTIME now;
+        GetLocalTime(&now);
+        wchar_t text[100];
+        _snwprintf(text, 100, format, now.wYear, now.wMonth, now.wDay);
+        return std::wstring(text);
+    };
+    const wchar_t* const cases[][2] = {{nullptr, L"%.4d-%.2d-%.2d"},
+                                       {L"YYYY年%MM%s.D", L"%.4d年%%%.2d%%s.%d"},
+                                       {L"DD/MM", L"%.4d-%.2d-%.2d"}};
+    for (const auto& [style, format] : cases) {
+        m_settings.Set(L"SignDate", L"DateStyle", style);
+        wchar_t text[100] = {};
+        const std::wstring before = today(format); // midnight may come in between
+        EXPECT_EQ(m_opt->GetCancelSignDate(text), 1);
+        EXPECT_TRUE(text == before || text == today(format)) << tests::ToUtf8(text);
+    }
+}
+
+TEST_F(SignOpt, GetSignInfoForBackSign_FillsFromSettingsAlone) {
+    m_settings.Set(L"Sign", L"Index", L"3");
+    m_settings.Set(L"SignDate", L"DateStyle", L"无");
+    m_settings.Set(L"SignDate", L"DateOffsetX", L"1.5");
+    m_settings.Set(L"SignScope", L"Scope", L"3");
+    SSignInfo* info = nullptr;
+    ASSERT_EQ(m_opt->GetSignInfoForBackSign(m_text, &info), 1);
+    EXPECT_EQ(info->m_strDateText, L"无") << "this run does not insist on a complete style";
+    EXPECT_EQ(info->m_strPin + info->m_strDateFontName, L"480317宋体");
+    EXPECT_TRUE(info->m_nSealIndex == 3 && info->m_dDateOffsetX == 1.5);
+    EXPECT_TRUE(info->m_dDateFontSize == 8 && info->m_nDateTextColor == 255);
+    EXPECT_EQ(info->m_nScope, 0) << "the scope stays as constructed";
+    EXPECT_EQ(Cmn_ReleaseSignInfo(info), 1);
+}
+
+} // namespace

@@ -1,0 +1,173 @@
+// The sign log: what each signature and deletion leaves in the record file, and its way to the server.
+#include <afxwin.h>
+#include <chrono>
+#include "tests/signlog/SignLogFixture.h"
+
+using namespace tests;
+namespace fs = std::filesystem;
+
+TEST_F(SignLogTest, NewEntry_HoldsWhatWasSigned) {
+    ASSERT_EQ(Write(L"N", L"ID=DOC-1|SIGN_ROLE=审核|DOC_NAME=earlier|DOC_NAME=总装图 <A1>|SIGN_USER=李工|"
+                          L"SIGN_DATE=2024-03-05|DOC_VERSION=B.2"),
+              1);
+    EXPECT_TRUE(GetFileAttributesW(m_signData.c_str()) & FILE_ATTRIBUTE_HIDDEN);
+    EXPECT_EQ(FileNames(m_signData), m_recordOnly);
+
+    // But for its new identifier the entry is that of the sample file.
+    std::string written = ReadBytes(m_record);
+    const std::string id = ToUtf8(ReadEntries(m_record).at(0).properties[L"ID"]);
+    ASSERT_EQ(id.size(), 36u);
+    EXPECT_EQ(id.find_first_not_of("0123456789ABCDEF-"), std::string::npos);
+    for (size_t at; (at = written.find(id)) != std::string::npos;)
+        written.replace(at, id.size(), "6F9619FF-8B86-D011-B42D-00C04FC964FF");
+    EXPECT_EQ(written, ReadBytes(Built(L"samples\\DocSignRecord.xml")));
+}
+
+TEST_F(SignLogTest, NewEntry_KeepsDifficultTexts) {
+    for (const wchar_t* text : {L"", L"<&\"'>", L" a\tb\r\nc ", L"图𠀀"}) {
+        ASSERT_EQ(Write(L"D", std::wstring(L"SIGN_ROLE=r|ID=") + text + L"|DOC_NAME=" + text), 1);
+        Entry entry = ReadEntries(m_record).back();
+        EXPECT_EQ(entry.properties[L"QORMFILEID"], text);
+        EXPECT_EQ(entry.properties[L"DOCNAME"], text);
+        EXPECT_EQ(entry.properties[L"QORMTYPE"] + entry.local[L"SIGNSTATE"], L"DD");
+    }
+    const std::string before = ReadBytes(m_record);
+    for (const wchar_t* text : {L"\x1", L"\xD800", L"\xFFFF"})
+        EXPECT_EQ(Write(L"N", std::wstring(L"ID=x|DOC_NAME=") + text), 0) << "XML can't hold it";
+    EXPECT_EQ(ReadBytes(m_record), before);
+}
+
+// Entries are named by their kind and their number in the old file; "N+" and "D+" are new.
+TEST_F(SignLogTest, Rule_EveryRow) {
+    const struct {
+        const wchar_t *before, *kind, *after;
+    } rows[] = {
+        {L"", L"N", L"N+"},        {L"", L"D", L"D+"},   {L"N", L"N", L"N+"},     {L"N", L"D", L""},
+        {L"D", L"N", L"D0 N+"},    {L"D", L"D", L"D0"},  {L"ND", L"N", L"D1 N+"}, {L"DN", L"N", L"D0 N+"},
+        {L"ND", L"D", L"D1"},      {L"DN", L"D", L"D0"}, {L"NN", L"N", L"N+"},    {L"NN", L"D", L""},
+        {L"DD", L"N", L"D1 N+"},   {L"DD", L"D", L"D1"}, {L"NDN", L"D", L"D1"},   {L"DDDN", L"D", L"D2"},
+        {L"NDND", L"N", L"D3 N+"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << '"' << row.before << "\" then " << row.kind);
+        WriteRecord(m_record, row.before);
+        const std::string before = ReadBytes(m_record);
+        EXPECT_EQ(Write(row.kind), 1);
+        EXPECT_EQ(Summary(m_record), row.after);
+        EXPECT_EQ(Summary(m_record, false), L"N0 N1 N2") << "other type, other document, other role";
+        const bool logged = std::wstring_view(row.before) == L"D" && std::wstring_view(row.kind) == L"D";
+        EXPECT_EQ(ReadBytes(m_record) == before, logged) << "saved unless the deletion is logged already";
+    }
+}
+
+TEST_F(SignLogTest, UnusableArguments_TouchNothing) {
+    SSignObj object;
+    EXPECT_EQ(m_plm->WriteDelOrSignLogToLocal(nullptr, m_folder.Text().c_str(), L"N"), 0);
+    EXPECT_EQ(m_plm->WriteDelOrSignLogToLocal(&object, L"", L"N"), 0);
+    EXPECT_EQ(Write(L"X") + Write(L""), 0);
+    EXPECT_EQ(m_plm->WriteSignLogToServer(L""), 1);
+    for (const wchar_t* key : {L"LocalObjectConfigId", L"ServerObjectConfigId", L"DesignDoMain"}) {
+        m_settings.Set(L"SignLog", key, L"nowhere");
+        EXPECT_EQ(Write(L"N"), 0) << key;
+        m_settings.Remove();
+    }
+    EXPECT_EQ(Write(L"N", kDrawing, L"\\missing"), 0);
+    EXPECT_TRUE(fs::is_empty(m_folder.Path()));
+}
+
+TEST_F(SignLogTest, DamagedRecord_StartsAnewAndKeepsTheOldFile) {
+    const std::string sample = ReadBytes(Built(L"samples\\DocSignRecord.xml"));
+    const std::string contents[] = {
+        "",
+        sample.substr(0, sample.size() - 20),
+        std::string(3000, '\0'),
+        "<qordata><obj type='T' state='N'><pro name='ID'/></obj></qordata>",
+        "<qordata><note/></qordata>",
+        "<!DOCTYPE qordata [<!ENTITY e SYSTEM 'file:///c:/x'>]><qordata/>",
+    };
+    int copies = 0;
+    for (const std::string& content : contents) {
+        SCOPED_TRACE(content.substr(0, 60));
+        WriteBytes(m_record, content);
+        EXPECT_EQ(Write(L"N"), 1);
+        EXPECT_EQ(Summary(m_record), L"N+");
+        const std::wstring copy = L"DocSignRecord.unreadable" + std::to_wstring(++copies) + L".xml";
+        EXPECT_EQ(ReadBytes(m_signData / copy), content);
+    }
+}
+
+TEST_F(SignLogTest, ReadOnlyRecord_IsWritten) {
+    WriteRecord(m_record, L"D");
+    SetFileAttributesW(m_record.c_str(), FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN);
+    EXPECT_EQ(Write(L"N", kDrawing, L"\\"), 1);
+    EXPECT_EQ(Summary(m_record), L"D0 N+") << "the same file with a backslash behind the folder";
+    EXPECT_EQ(FileNames(m_signData), m_recordOnly);
+}
+
+TEST_F(SignLogTest, LockedRecord_StaysAsItIs) {
+    for (const DWORD sharing : {DWORD(0), DWORD(FILE_SHARE_READ)}) {
+        WriteRecord(m_record, L"N");
+        const std::string before = ReadBytes(m_record);
+        const HANDLE lock =
+            CreateFileW(m_record.c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING, 0, nullptr);
+        ASSERT_NE(lock, INVALID_HANDLE_VALUE);
+        EXPECT_EQ(Write(L"D"), 0);
+        CloseHandle(lock);
+        EXPECT_EQ(ReadBytes(m_record), before);
+        EXPECT_EQ(FileNames(m_signData), m_recordOnly);
+    }
+}
+
+// Every model operation of a write fails once: the file stays as it was and no object is left.
+TEST_F(SignLogTest, FailingModel_LeavesTheFile) {
+    WriteRecord(m_record, L"NND");
+    const std::string before = ReadBytes(m_record);
+    const long objects = LiveModelObjects();
+    int n = 1;
+    for (SetModelFault(n); Write(L"N") == 0; SetModelFault(++n)) {
+        ASSERT_EQ(LiveModelObjects(), objects) << n;
+        ASSERT_EQ(ReadBytes(m_record), before) << n;
+        ASSERT_EQ(FileNames(m_signData), m_recordOnly) << n;
+    }
+    SetModelFault(0);
+    EXPECT_GT(n, 100) << "fewer operations than the entries have properties";
+    EXPECT_EQ(Summary(m_record), L"D2 N+");
+}
+
+TEST_F(SignLogTest, ToServer_SendsOnceAndDeletes) {
+    const TempFolder vault;
+    const auto send = [&](const std::wstring& folder) { return m_plm->WriteSignLogToServer(folder.c_str()); };
+    SetEnvironmentVariableW(L"DURVELL_VAULT", vault.Text().c_str());
+    for (const wchar_t* end : {L"", L"\\"}) {
+        ASSERT_EQ(Write(L"N"), 1);
+        const std::string record = ReadBytes(m_record);
+        SetFileAttributesW(m_record.c_str(), FILE_ATTRIBUTE_READONLY);
+        EXPECT_EQ(send(m_folder.Text() + end), 0);
+        EXPECT_EQ(ReadBytes(vault / L"signlog" / FileNames(vault / L"signlog").back()), record);
+        EXPECT_FALSE(fs::exists(m_record));
+    }
+    WriteBytes(vault / L"Durvell.ini", "[Fault]\r\nSaveFail=*\r\n");
+    ASSERT_EQ(Write(L"N"), 1);
+    EXPECT_EQ(send(m_folder.Text()), 1);
+    EXPECT_FALSE(fs::exists(m_record)) << "a refused log is not kept";
+
+    const TempFolder empty;
+    EXPECT_EQ(send(empty.Text()), 1);
+    EXPECT_TRUE(GetFileAttributesW((empty / L"SignData").c_str()) & FILE_ATTRIBUTE_HIDDEN);
+    const std::string asked = ToUtf8(empty.Text() + L"\\SignData\\DocSignRecord.xml");
+    EXPECT_NE(ReadBytes(vault / L"journal.log").find(asked), std::string::npos)
+        << "asked without a record, too";
+}
+
+TEST_F(SignLogTest, LargeRecord_TakesLinearTime) {
+    const auto seconds = [&](int others) {
+        WriteRecord(m_record, L"N", others);
+        const auto start = std::chrono::steady_clock::now();
+        EXPECT_EQ(Write(L"D"), 1);
+        return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    };
+    const double few = seconds(1000), many = seconds(10000);
+    RecordProperty("seconds", std::to_string(many));
+    EXPECT_LT(many, 30 * few) << "ten times the entries; quadratic would be a hundredfold";
+    EXPECT_EQ(ReadEntries(m_record).size(), 10000u);
+}

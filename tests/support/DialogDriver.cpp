@@ -1,0 +1,208 @@
+// The hooks note what happens; scripts run from a message-only window, so inside the dialog's own loop.
+#include "tests/support/DialogDriver.h"
+#include <gtest/gtest.h>
+
+namespace tests {
+
+namespace {
+
+const UINT kRunScript = WM_APP + 1;
+const UINT kFirstReport = WM_USER + 1000; // private messages of the transfer dialogs
+const UINT kLastReport = kFirstReport + 13;
+const int kBoxText = 0xffff;
+const int kColorMixButton = 719; // of the system's colour picker, whose labels share the box's id
+
+DialogDriver* g_driver = nullptr;
+
+std::wstring WindowText(HWND window) {
+    std::wstring text(GetWindowTextLengthW(window) + 1, L'\0');
+    text.resize(GetWindowTextW(window, text.data(), static_cast<int>(text.size())));
+    return text;
+}
+
+bool IsDialog(HWND window) {
+    wchar_t name[16] = L"";
+    GetClassNameW(window, name, 16);
+    return wcscmp(name, L"#32770") == 0;
+}
+
+bool IsMessageBox(HWND dialog) {
+    return GetDlgItem(dialog, kBoxText) && !GetDlgItem(dialog, kColorMixButton);
+}
+
+bool HasInformationIcon(HWND box) {
+    const HICON information = LoadIconW(nullptr, IDI_INFORMATION);
+    for (HWND child = GetWindow(box, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        const bool shows = (GetWindowLongW(child, GWL_STYLE) & SS_TYPEMASK) == SS_ICON;
+        if (shows && SendMessageW(child, STM_GETICON, 0, 0) == reinterpret_cast<LRESULT>(information))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+DialogDriver::DialogDriver() {
+    g_driver = this;
+    m_runner = CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+    SetWindowLongPtrW(m_runner, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&RunnerProc));
+    m_cbtHook = SetWindowsHookExW(WH_CBT, &CbtHook, nullptr, GetCurrentThreadId());
+    m_messageHook = SetWindowsHookExW(WH_GETMESSAGE, &MessageHook, nullptr, GetCurrentThreadId());
+}
+
+DialogDriver::~DialogDriver() {
+    UnhookWindowsHookEx(m_messageHook);
+    UnhookWindowsHookEx(m_cbtHook);
+    DestroyWindow(m_runner);
+    g_driver = nullptr;
+}
+
+void DialogDriver::Next(Script script) {
+    m_scripts.push_back(std::move(script));
+}
+
+void DialogDriver::AtEnd(Script script) {
+    m_atEnd = std::move(script);
+}
+
+void DialogDriver::After(UINT message, int count, Script script) {
+    m_triggers.push_back({message, count, std::move(script)});
+}
+
+void DialogDriver::NextBox(Script script) {
+    m_boxScripts.push_back(std::move(script));
+}
+
+LRESULT CALLBACK DialogDriver::CbtHook(int code, WPARAM wParam, LPARAM lParam) {
+    if (code == HCBT_ACTIVATE) g_driver->Activated(reinterpret_cast<HWND>(wParam));
+    if (code == HCBT_DESTROYWND) g_driver->Destroyed(reinterpret_cast<HWND>(wParam));
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+LRESULT CALLBACK DialogDriver::MessageHook(int code, WPARAM wParam, LPARAM lParam) {
+    if (code == HC_ACTION && wParam == PM_REMOVE) g_driver->Taken(*reinterpret_cast<const MSG*>(lParam));
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+LRESULT CALLBACK DialogDriver::RunnerProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == kRunScript) g_driver->Run(reinterpret_cast<HWND>(wParam));
+    return DefWindowProcW(window, message, wParam, lParam);
+}
+
+void DialogDriver::Activated(HWND window) {
+    if (!IsDialog(window) || !m_known.insert(window).second) return;
+    if (IsMessageBox(window)) {
+        Post(window, [this](HWND box) { AnswerBox(box); });
+        return;
+    }
+    ++m_shownDialogs;
+    m_current = window;
+    if (m_scripts.empty()) {
+        ADD_FAILURE() << "an unexpected dialog was shown";
+        Post(window, [](HWND dialog) { PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0); });
+        return;
+    }
+    Post(window, std::move(m_scripts.front()));
+    m_scripts.pop_front();
+}
+
+void DialogDriver::Destroyed(HWND window) {
+    if (m_known.erase(window) == 0 || window != m_current) return;
+    m_current = nullptr;
+    if (m_atEnd) m_atEnd(window);
+    m_atEnd = nullptr;
+}
+
+void DialogDriver::Taken(const MSG& message) {
+    const bool reported = message.message >= kFirstReport && message.message <= kLastReport;
+    if (!m_current || message.hwnd != m_current || !reported) return;
+    const auto text = reinterpret_cast<const wchar_t*>(message.wParam);
+    m_messages.push_back({message.message, text ? text : L""});
+    for (auto trigger = m_triggers.begin(); trigger != m_triggers.end();) {
+        if (trigger->m_message == message.message && --trigger->m_count == 0) {
+            Post(m_current, std::move(trigger->m_script));
+            trigger = m_triggers.erase(trigger);
+        } else {
+            ++trigger;
+        }
+    }
+}
+
+void DialogDriver::Post(HWND window, Script script) {
+    m_posted.emplace_back(window, std::move(script));
+    PostMessageW(m_runner, kRunScript, reinterpret_cast<WPARAM>(window), 0);
+}
+
+void DialogDriver::Run(HWND window) {
+    for (auto posted = m_posted.begin(); posted != m_posted.end(); ++posted) {
+        if (posted->first != window) continue;
+        const Script script = std::move(posted->second);
+        m_posted.erase(posted);
+        script(window);
+        return;
+    }
+}
+
+void DialogDriver::AnswerBox(HWND box) {
+    const HWND owner = GetWindow(box, GW_OWNER);
+    m_boxes.push_back(
+        {WindowText(box), TextOf(box, kBoxText), HasInformationIcon(box), owner, WindowText(owner)});
+    if (m_boxScripts.empty()) {
+        PostMessageW(box, WM_COMMAND, IDOK, 0);
+        return;
+    }
+    const Script script = std::move(m_boxScripts.front());
+    m_boxScripts.pop_front();
+    script(box);
+}
+
+std::wstring TextOf(HWND dialog, int id) {
+    return WindowText(GetDlgItem(dialog, id));
+}
+
+void SetText(HWND dialog, int id, const wchar_t* text) {
+    SetDlgItemTextW(dialog, id, text);
+}
+
+void Click(HWND dialog, int id) {
+    SendDlgItemMessageW(dialog, id, BM_CLICK, 0, 0);
+}
+
+bool Checked(HWND dialog, int id) {
+    return IsDlgButtonChecked(dialog, id) == BST_CHECKED;
+}
+
+bool Enabled(HWND dialog, int id) {
+    return IsWindowEnabled(GetDlgItem(dialog, id)) != FALSE;
+}
+
+bool Visible(HWND dialog, int id) {
+    return IsWindowVisible(GetDlgItem(dialog, id)) != FALSE;
+}
+
+int Selection(HWND dialog, int id) {
+    return static_cast<int>(SendDlgItemMessageW(dialog, id, CB_GETCURSEL, 0, 0));
+}
+
+void Choose(HWND dialog, int id, int index) {
+    const LPARAM combo = reinterpret_cast<LPARAM>(GetDlgItem(dialog, id));
+    SendDlgItemMessageW(dialog, id, CB_SETCURSEL, index, 0);
+    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(id, CBN_SELENDOK), combo);
+    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(id, CBN_SELCHANGE), combo);
+}
+
+std::vector<std::wstring> Items(HWND dialog, int id) {
+    std::vector<std::wstring> items(SendDlgItemMessageW(dialog, id, CB_GETCOUNT, 0, 0));
+    for (size_t i = 0; i < items.size(); ++i) {
+        std::wstring text(SendDlgItemMessageW(dialog, id, CB_GETLBTEXTLEN, i, 0) + 1, L'\0');
+        SendDlgItemMessageW(dialog, id, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text.data()));
+        items[i] = text.c_str();
+    }
+    return items;
+}
+
+int ItemData(HWND dialog, int id, int index) {
+    return static_cast<int>(SendDlgItemMessageW(dialog, id, CB_GETITEMDATA, index, 0));
+}
+
+} // namespace tests

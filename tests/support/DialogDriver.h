@@ -1,0 +1,97 @@
+// Drives the real modal dialogs that a call shows in this process, by window hooks and control ids.
+#pragma once
+#include <deque>
+#include <functional>
+#include <set>
+#include <string>
+#include <vector>
+#include <windows.h>
+
+namespace tests {
+
+// A message box that was shown; it has been answered with OK.
+struct SeenBox {
+    std::wstring m_caption;
+    std::wstring m_text;
+    bool m_information = false; // shown with the information icon
+    HWND m_owner = nullptr;
+    std::wstring m_ownerCaption;
+};
+
+// A private message of a transfer dialog, as the dialog took it from the queue.
+struct SeenMessage {
+    UINT m_message;
+    std::wstring m_text; // of the string that wParam carried
+};
+
+// Each dialog gets the next script, which runs in its modal loop once it is active; a dialog without a
+// script is a failure and is cancelled. One driver at a time; on the thread that shows the dialogs.
+class DialogDriver {
+public:
+    using Script = std::function<void(HWND dialog)>;
+
+    DialogDriver();
+    ~DialogDriver();
+    DialogDriver(const DialogDriver&) = delete;
+    DialogDriver& operator=(const DialogDriver&) = delete;
+
+    void Next(Script script);
+    // Runs when the scripted dialog is about to be destroyed, its controls still there.
+    void AtEnd(Script script);
+    // Runs in the modal loop after the dialog took the count-th message of that number.
+    void After(UINT message, int count, Script script);
+    // Runs in place of OK when the next message box is shown; it must end the box.
+    void NextBox(Script script);
+
+    int ShownDialogs() const { return m_shownDialogs; }
+    const std::vector<SeenBox>& Boxes() const { return m_boxes; }
+    const std::vector<SeenMessage>& Messages() const { return m_messages; }
+    // Whether every script has run.
+    bool AllRan() const { return m_scripts.empty() && m_boxScripts.empty() && m_triggers.empty(); }
+
+private:
+    struct Trigger {
+        UINT m_message;
+        int m_count;
+        Script m_script;
+    };
+
+    static LRESULT CALLBACK CbtHook(int code, WPARAM wParam, LPARAM lParam);
+    static LRESULT CALLBACK MessageHook(int code, WPARAM wParam, LPARAM lParam);
+    static LRESULT CALLBACK RunnerProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void Activated(HWND window);
+    void Destroyed(HWND window);
+    void Taken(const MSG& message);
+    void Run(HWND window);
+    void Post(HWND window, Script script);
+    void AnswerBox(HWND box);
+
+    HWND m_runner = nullptr;
+    HHOOK m_cbtHook = nullptr;
+    HHOOK m_messageHook = nullptr;
+    std::set<HWND> m_known;
+    std::deque<Script> m_scripts, m_boxScripts;
+    std::deque<std::pair<HWND, Script>> m_posted;
+    std::vector<Trigger> m_triggers;
+    Script m_atEnd;
+    HWND m_current = nullptr;
+    int m_shownDialogs = 0;
+    std::vector<SeenBox> m_boxes;
+    std::vector<SeenMessage> m_messages;
+};
+
+// Controls of a dialog, by id.
+std::wstring TextOf(HWND dialog, int id);
+void SetText(HWND dialog, int id, const wchar_t* text);
+// Presses a button or toggles a check box, as a user would.
+void Click(HWND dialog, int id);
+bool Checked(HWND dialog, int id);
+bool Enabled(HWND dialog, int id);
+bool Visible(HWND dialog, int id);
+// Combo boxes. Choose selects an item and sends the notifications of a confirmed selection.
+int Selection(HWND dialog, int id);
+void Choose(HWND dialog, int id, int index);
+std::vector<std::wstring> Items(HWND dialog, int id);
+int ItemData(HWND dialog, int id, int index);
+
+} // namespace tests
