@@ -1,0 +1,41 @@
+#!/usr/bin/env bash
+# Checks of the source tree that no compiler makes: sizes, format, resource ids, who frees what.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+failed=0
+complain() {
+    echo "check-source: $*" >&2
+    failed=1
+}
+
+mapfile -t sources < <(git ls-files --cached --others --exclude-standard -- '*.cpp' '*.h' '*.rc' | sort)
+for file in "${sources[@]}"; do
+    lines=$(wc -l <"$file")
+    [ "$lines" -le 400 ] || complain "$file has $lines lines; 400 are the limit"
+done
+
+mapfile -t code < <(printf '%s\n' "${sources[@]}" | grep -E '\.(cpp|h)$')
+clang-format --dry-run --Werror "${code[@]}" || complain "format the files above with clang-format -i"
+
+# SDK headers by their lower-case names: the SDK's own mixed case breaks on case-sensitive disks.
+if grep -nE '#include <[a-zA-Z/_]*[A-Z][a-zA-Z/_]*\.h>' "${code[@]}"; then
+    complain "system headers are included in lower case"
+fi
+
+# Owned resources go back in their owners only.
+owners='^(module/Owned\.h|mfc/|standins/|abi/|tests/|host/Owned\.h|bench/)'
+naked='(SysFreeString|VariantClear|CloseHandle|DeleteObject|CoTaskMemFree|GlobalFree|FreeLibrary|FindClose)\('
+if printf '%s\n' "${code[@]}" | grep -vE "$owners" | xargs grep -nE "$naked"; then
+    complain "resources are released by their owner types only"
+fi
+
+# Every resource id is defined once and used.
+while read -r id; do
+    [ "$(grep -rlw --include='*.cpp' --include='*.h' --include='*.rc' "$id" ui | grep -vc 'resource\.h')" -gt 0 ] ||
+        complain "$id is defined in ui/resource.h and not used"
+done < <(grep -oE '^#define +ID[A-Z]_[A-Z0-9_]+' ui/resource.h | awk '{print $2}')
+dup=$(grep -oE '^#define +ID[A-Z]*_[A-Z0-9_]+' ui/resource.h | sort | uniq -d)
+[ -z "$dup" ] || complain "defined twice: $dup"
+
+exit $failed

@@ -1,0 +1,44 @@
+#!/usr/bin/env bash
+# Runs a Windows program of a build folder under Wine, in the build's private prefix, which is made and
+# gets the build's COM servers registered when that is due.
+# usage: wine-run.sh BUILD-FOLDER PROGRAM [ARGUMENT...]
+set -euo pipefail
+
+if [ -z "${VARNOKE_DISPLAY:-}" ]; then
+    exec "$(dirname "$0")/with-wine.sh" "$0" "$@"
+fi
+
+build=$(cd "$1" && pwd)
+shift
+wine=/usr/lib/wine/wine64
+export WINEPREFIX=$build/wineprefix WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all}
+# Without the last override a crash waits for a debugger that never comes.
+export WINEDLLOVERRIDES="mscoree,mshtml,winedbg.exe="
+# Code page 936, so that the profile functions keep Chinese text.
+export LC_ALL=zh_CN.UTF-8 DISPLAY=$VARNOKE_DISPLAY
+echo "$WINEPREFIX" >>"$VARNOKE_RUN_DIR/prefixes"
+
+(
+    flock 9
+    if [ ! -f "$WINEPREFIX/ready" ]; then
+        $wine wineboot --init >/dev/null 2>&1
+        touch "$WINEPREFIX/ready"
+    fi
+    if [ ! -f "$WINEPREFIX/unmanaged" ]; then
+        # There is no window manager, and Wine would wait two seconds for it whenever a window closes.
+        $wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
+        touch "$WINEPREFIX/unmanaged"
+    fi
+    list=$build/bin/com-servers.txt
+    stamp=$WINEPREFIX/registered
+    if [ -f "$list" ] && ! cmp -s "$list" "$stamp"; then
+        complete=yes
+        while IFS= read -r dll; do
+            [ -f "$build/bin/$dll" ] || { complete=no; continue; }
+            (cd "$build/bin" && $wine regsvr32 /s "$dll") </dev/null
+        done <"$list"
+        [ $complete = no ] || cp "$list" "$stamp"
+    fi
+) 9>"$build/.wineprefix.lock"
+
+exec $wine "$@"
