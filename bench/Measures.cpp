@@ -1,4 +1,4 @@
-// What is measured: each function does one piece of work on a number of documents and gives its milliseconds.
+// What is measured on a number of documents.
 #include <afxwin.h>
 
 #include "bench/Measures.h"
@@ -66,19 +66,15 @@ struct ListDeleter {
     }
 };
 
-} // namespace
-
-ReadingTime MeasureReading(const Workspace& workspace, CPLMInteract& interact, int documents) {
+void MeasureReading(const Workspace& workspace, CPLMInteract& interact, int documents, Costs& costs) {
     const std::wstring text = MessageText(L"drawing", documents, kProperties);
     Records records;
-    ReadingTime time = {};
-    time.parser = Milliseconds([&] { SaveBare(LoadBare(text), workspace.Path(L"bare.xml")); });
-    time.reading = Milliseconds([&] { Read(interact, text, workspace.Path(), records, documents); });
-    time.release = Milliseconds([&] { records.Release(); });
-    return time;
+    costs[BareReading] = Milliseconds([&] { SaveBare(LoadBare(text), workspace.Path(L"bare.xml")); });
+    costs[Reading] = Milliseconds([&] { Read(interact, text, workspace.Path(), records, documents); });
+    costs[Release] = Milliseconds([&] { records.Release(); });
 }
 
-MergeTime MeasureMerge(const Workspace& workspace, CPLMInteract& interact, int documents) {
+void MeasureMerging(const Workspace& workspace, CPLMInteract& interact, int documents, Costs& costs) {
     const std::wstring kept = MessageText(L"kept", documents, kProperties);
     std::wstring added = MessageText(L"added", documents, kProperties);
     std::wstring folder = workspace.Path();
@@ -86,23 +82,21 @@ MergeTime MeasureMerge(const Workspace& workspace, CPLMInteract& interact, int d
     Read(interact, kept, folder, records, documents);
     records.Release();
 
-    MergeTime time = {};
     const Document merged = LoadBare(MessageText(L"merged", 2 * documents, kProperties));
-    time.parser = Milliseconds([&] {
+    costs[BareMerging] = Milliseconds([&] {
         const Document source = LoadBare(added), target = LoadBare(kept);
         SaveBare(merged, workspace.Path(L"bare.xml"));
     });
-    time.merge = Milliseconds([&] {
+    costs[Merging] = Milliseconds([&] {
         Require(interact.AppendParserStartSignXmlString(&added[0], &folder[0], &records.login, &records.steps,
                                                         &records.files) == 1 &&
                     records.files->m_lstObj.GetCount() == documents,
                 "merging a message");
     });
     records.Release();
-    return time;
 }
 
-double MeasureTags(const Workspace& workspace, CPLMInteract& interact, int documents) {
+double MeasureTagging(const Workspace& workspace, CPLMInteract& interact, int documents) {
     const std::unique_ptr<SSignFileDUL, ListDeleter> list(new SSignFileDUL);
     list->m_strFolder = workspace.Path().c_str();
     for (int document = 0; document < documents; ++document) {
@@ -123,7 +117,7 @@ double MeasureTags(const Workspace& workspace, CPLMInteract& interact, int docum
     return time;
 }
 
-double MeasureReturnFile(const Workspace& workspace, CPLMInteract& interact, int documents) {
+double MeasureReturning(const Workspace& workspace, CPLMInteract& interact, int documents) {
     Records records;
     Read(interact, MessageText(L"drawing", documents, kProperties), workspace.Path(), records, documents);
     records.Release();
@@ -139,6 +133,17 @@ double MeasureReturnFile(const Workspace& workspace, CPLMInteract& interact, int
         Require(interact.NotifyPLMSignForBackSignRet(names, key, &folder[0], &file[0]) == 1,
                 "writing the return file");
     });
+}
+
+} // namespace
+
+Costs MeasureAll(const Workspace& workspace, CPLMInteract& interact, int documents) {
+    Costs costs = {};
+    MeasureReading(workspace, interact, documents, costs);
+    MeasureMerging(workspace, interact, documents, costs);
+    costs[Tagging] = MeasureTagging(workspace, interact, documents);
+    costs[Returning] = MeasureReturning(workspace, interact, documents);
+    return costs;
 }
 
 } // namespace bench

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <windows.h>
-#include <algorithm>
 
 namespace bench {
 
@@ -16,15 +15,5 @@ double Milliseconds(Work work) {
     ::QueryPerformanceCounter(&end);
     return double(end.QuadPart - start.QuadPart) * 1000 / double(frequency.QuadPart);
 }
-
-/// The shortest time of several rounds, so that a busy machine disturbs little.
-class BestTime {
-public:
-    void Add(double milliseconds) { m_best = m_best < 0 ? milliseconds : (std::min)(m_best, milliseconds); }
-    double Value() const { return m_best; }
-
-private:
-    double m_best = -1;
-};
 
 } // namespace bench

@@ -23,3 +23,5 @@ set(CMAKE_LINK_LIBRARY_FLAG lib)
 set(CMAKE_LINK_LIBRARY_SUFFIX .a)
 set(CMAKE_LINK_DEF_FILE_FLAG /DEF:)
 set(CMAKE_CXX_STANDARD_LIBRARIES_INIT "")
+# The link rules above name the subsystem.
+set(CMAKE_CREATE_CONSOLE_EXE "")

@@ -25,7 +25,7 @@ execute_process(COMMAND ${VARNOKE_GXX} -print-file-name=libkernel32.a
 get_filename_component(VARNOKE_SYSLIB ${kernel32} DIRECTORY)
 get_filename_component(VARNOKE_SYSLIB ${VARNOKE_SYSLIB} REALPATH)
 get_filename_component(VARNOKE_SYSINCLUDE ${VARNOKE_SYSLIB}/../include REALPATH)
-set(VARNOKE_ABI_DIR ${CMAKE_CURRENT_LIST_DIR}/../abi)
+get_filename_component(VARNOKE_ABI_DIR ${CMAKE_CURRENT_LIST_DIR}/../abi REALPATH)
 
 set(CMAKE_CXX_COMPILER ${VARNOKE_CLANG})
 set(CMAKE_CXX_COMPILER_TARGET x86_64-pc-windows-msvc)

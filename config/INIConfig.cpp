@@ -8,8 +8,7 @@
 
 namespace {
 
-// -- The settings: section, key, default, which values are usable
-// ----------------------------------------------
+// The settings: section, key, default, which values are usable.
 
 struct TextSetting {
     const wchar_t* m_pszSection;
@@ -83,8 +82,7 @@ constexpr TextSetting kProgID = {kDynDisp, L"ProgID", L"Brevanix.Brevanix0"};
 /// The colour for a signature when even reading the settings fails.
 constexpr long kUnreadableColor = 200;
 
-// -- Access to the file
-// ----------------------------------------------------------------------------------------
+// Access to the file.
 
 constexpr DWORD kBufferSize = 1023; // with the terminator
 

@@ -17,9 +17,17 @@ std::string ToUtf8(const CString& text) {
     return bytes;
 }
 
+/// Control characters, which names from outside may hold, must not break a line up.
+CString Printable(CString line) {
+    for (int i = 0; i < line.GetLength(); ++i) {
+        if (line[i] < L' ') line.SetAt(i, L'?');
+    }
+    return line;
+}
+
 void Print(DWORD stream, const CString& line) {
     const HANDLE output = ::GetStdHandle(stream);
-    const CString text = line + L"\r\n";
+    const CString text = Printable(line) + L"\r\n";
     DWORD mode = 0;
     DWORD written = 0;
     if (::GetConsoleMode(output, &mode)) {

@@ -7,10 +7,10 @@
 
 namespace host {
 
-/// Prints one line to standard output. Lines reach a pipe at once.
+/// Prints one line to standard output, control characters as "?". Lines reach a pipe at once.
 void PrintLine(const CString& line);
 
-/// Prints one line to standard error.
+/// The same to standard error.
 void PrintError(const CString& line);
 
 /// Prints rows in columns of equal display width, a Chinese character taking two places.

@@ -29,14 +29,6 @@ EText TextOfFault(ENameFault fault) {
     return EText::Ready;
 }
 
-/// Control characters of a name must not break the line up.
-CString Printable(CString name) {
-    for (int i = 0; i < name.GetLength(); ++i) {
-        if (name[i] < L' ') name.SetAt(i, L'?');
-    }
-    return name;
-}
-
 } // namespace
 
 EText RefusalOf(const std::vector<CDocument>& documents, size_t index) {
@@ -49,7 +41,7 @@ EText RefusalOf(const std::vector<CDocument>& documents, size_t index) {
 }
 
 void PrintDocumentLine(const std::vector<CDocument>& documents, size_t index, EText outcome) {
-    CString name = Printable(documents[index].Name());
+    CString name = documents[index].Name();
     if (name.IsEmpty()) name = Text(EText::Document, {NumberText(index + 1)});
     PrintLine(name + L": " + Text(outcome));
 }

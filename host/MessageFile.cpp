@@ -85,7 +85,9 @@ bool DetectEncoding(std::string& bytes, UINT& codePage, CString& error) {
         if (declared.empty()) return true;
         for (const SEncodingName& known : kEncodingNames) {
             if (declared != known.m_pszName) continue;
-            codePage = known.m_nCodePage;
+            // Not every system has GB18030; GBK is the two-byte part of it, and the rest is refused as
+            // invalid.
+            codePage = ::IsValidCodePage(known.m_nCodePage) ? known.m_nCodePage : 936;
             return true;
         }
         error =

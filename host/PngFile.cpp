@@ -18,17 +18,18 @@ _COM_SMARTPTR_TYPEDEF(IWICStream, __uuidof(IWICStream));
 
 using BitmapHandle = varnoke::GdiObject<HBITMAP>;
 
+/// Empty when the screen can't be read.
 BitmapHandle CopyOfScreen(const CRect& area) {
-    const HDC screen = ::GetDC(nullptr);
-    const HDC memory = ::CreateCompatibleDC(screen);
+    CClientDC screen(nullptr);
+    CDC memory;
+    memory.Attach(::CreateCompatibleDC(screen));
     BitmapHandle bitmap(::CreateCompatibleBitmap(screen, area.Width(), area.Height()));
     const HGDIOBJ before = ::SelectObject(memory, bitmap.get());
     const BOOL copied = ::BitBlt(memory, 0, 0, area.Width(), area.Height(), screen, area.left, area.top,
                                  SRCCOPY | CAPTUREBLT);
     ::SelectObject(memory, before);
-    ::DeleteDC(memory);
-    ::ReleaseDC(nullptr, screen);
-    return copied ? std::move(bitmap) : BitmapHandle();
+    if (!copied) bitmap.reset();
+    return bitmap;
 }
 
 void Check(HRESULT result) {
@@ -73,8 +74,10 @@ bool SavePicture(HWND window, const CString& path) {
         return true;
     } catch (const _com_error&) {
         ::DeleteFileW(path);
-        return false;
+    } catch (CException* exception) {
+        exception->Delete();
     }
+    return false;
 }
 
 } // namespace host

@@ -38,4 +38,16 @@ bool PrepareWorkFolder(const SRunInput& input) {
     return false;
 }
 
+bool StartMessage(CPLMInteract& plm, StartOperation operation, const CString& message, const CString& folder,
+                  SMessageRecords& records) {
+    SLoginInfo* login = nullptr;
+    SSignType* steps = nullptr;
+    SSignType* files = nullptr;
+    const long started = (plm.*operation)(InText(message), InText(folder), &login, &steps, &files);
+    records.m_pLogin.reset(login);
+    records.m_pSteps.reset(steps);
+    records.m_pFiles.reset(files);
+    return started != 0;
+}
+
 } // namespace host

@@ -7,6 +7,7 @@
 
 #include "host/Options.h"
 #include "host/Records.h"
+#include "plm/PLMInteract.h"
 
 namespace host {
 
@@ -34,18 +35,11 @@ bool LoadRunInput(const COptions& options, SRunInput& input);
 /// The folder is there or was made; false after an error line.
 bool PrepareWorkFolder(const SRunInput& input);
 
-/// Hands the message to one of the library's start-sign operations; false when it was refused.
-template <class Plm, class Operation>
-bool StartMessage(Plm& plm, Operation operation, const CString& message, const CString& folder,
-                  SMessageRecords& records) {
-    SLoginInfo* login = nullptr;
-    SSignType* steps = nullptr;
-    SSignType* files = nullptr;
-    const long started = (plm.*operation)(InText(message), InText(folder), &login, &steps, &files);
-    records.m_pLogin.reset(login);
-    records.m_pSteps.reset(steps);
-    records.m_pFiles.reset(files);
-    return started != 0;
-}
+/// One of the library's operations that turn a message into records.
+using StartOperation = long (CPLMInteract::*)(wchar_t*, wchar_t*, SLoginInfo**, SSignType**, SSignType**);
+
+/// Hands the message to the library, which keeps a copy under `folder`. False when it was refused.
+bool StartMessage(CPLMInteract& plm, StartOperation operation, const CString& message, const CString& folder,
+                  SMessageRecords& records);
 
 } // namespace host

@@ -1,6 +1,7 @@
 // The signer's signature drawing.
 #include <afxwin.h>
 
+#include "host/DocumentName.h"
 #include "host/Paths.h"
 #include "host/Records.h"
 #include "host/SignatureDrawing.h"
@@ -8,9 +9,12 @@
 namespace host {
 
 CSignatureDrawing::CSignatureDrawing(CPLMInteract& plm, const CString& user, const CString& role) {
+    // The role comes with the message: it must not lead out of the temporary folder.
+    const CString name = user + L"_" + role + L".dwg";
+    if (CheckDocumentName(name) != ENameFault::None) return;
     wchar_t folder[MAX_PATH + 1];
     if (!plm.DownloadSignFileEx(InText(user), InText(role)) || !::GetTempPathW(MAX_PATH + 1, folder)) return;
-    m_strPath = JoinPath(folder, user + L"_" + role + L".dwg");
+    m_strPath = JoinPath(folder, name);
 }
 
 CSignatureDrawing::~CSignatureDrawing() {

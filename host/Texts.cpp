@@ -48,6 +48,7 @@ constexpr STextEntry kTexts[] = {
      L"文件内容与声明的编码不符：%1"},
     {EText::UnknownEncoding, L"the message declares an unknown encoding: %1", L"消息声明了未知的编码：%1"},
 
+    {EText::Unexpected, L"an unexpected error ended the run", L"运行因意外错误而中止"},
     {EText::FrameworkFailed, L"the main window cannot be made", L"无法创建主窗口"},
     {EText::MessageRefused, L"the message was refused", L"消息被拒绝"},
     {EText::NothingChosen, L"the message was refused, or no document was chosen",

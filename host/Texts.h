@@ -37,6 +37,7 @@ enum class EText {
     UnknownEncoding,
     // Start of a run
     FrameworkFailed,
+    Unexpected,
     MessageRefused,
     NothingChosen,
     NothingKept,

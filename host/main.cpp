@@ -4,7 +4,9 @@
 
 #include "host/Command.h"
 #include "host/CommandTable.h"
+#include "host/Console.h"
 #include "host/Paths.h"
+#include "host/Texts.h"
 #include "module/Owned.h"
 
 namespace {
@@ -50,5 +52,6 @@ int wmain(int argc, wchar_t** argv) {
         exception->Delete();
     } catch (...) {
     }
+    host::PrintError(host::Text(host::EText::Unexpected));
     return host::exitFailed;
 }

@@ -7,9 +7,7 @@
 class CProgressCtrl : public CWnd {
     DECLARE_DYNAMIC(CProgressCtrl)
 public:
-    void SetRange(short nLower, short nUpper);
     void SetRange32(int nLower, int nUpper);
-    void GetRange(int& nLower, int& nUpper) const;
     int GetPos() const;
     int SetPos(int nPos); // gives the previous position
 };

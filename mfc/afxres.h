@@ -1,4 +1,5 @@
-// Definitions shared by resource scripts and sources. Resource compilers also get the system's ids and styles.
+// Definitions shared by resource scripts and sources. Resource compilers also get the system's ids and
+// styles.
 #pragma once
 
 #ifdef RC_INVOKED

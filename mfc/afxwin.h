@@ -7,7 +7,7 @@
 
 #include "afxres.h"
 #include "afxmsg_.h"
-#include "win/Gdi.h"
+#include "win/DC.h"
 #include "win/Wnd.h"
 #include "win/Controls.h"
 #include "win/Dialog.h"

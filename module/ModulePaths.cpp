@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "module/Owned.h"
+#include "module/Text.h"
 #include "module/VarnokeApp.h"
 
 namespace varnoke {
@@ -44,7 +45,7 @@ CString TemporaryFolder() {
 }
 
 bool FileExists(const wchar_t* path) {
-    if (path == nullptr || *path == L'\0') {
+    if (!HasText(path)) {
         return false;
     }
     return OwnFile(::CreateFileW(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,

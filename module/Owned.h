@@ -64,10 +64,4 @@ struct BstrFreer {
 /// A BSTR where _bstr_t cannot be used: taking it over needs no memory and cannot fail.
 using OwnedBstr = std::unique_ptr<wchar_t, BstrFreer>;
 
-struct GlobalMemoryFreer {
-    using pointer = HGLOBAL;
-    void operator()(HGLOBAL memory) const { ::GlobalFree(memory); }
-};
-using GlobalMemory = std::unique_ptr<void, GlobalMemoryFreer>;
-
 } // namespace varnoke

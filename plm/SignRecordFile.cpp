@@ -16,16 +16,16 @@ bool IsThere(const CString& path) {
 }
 
 // Copies a file that can't be read as a record to a name of its own, so that writing a new record loses
-// nothing.
-bool KeepCopy(const CString& signDataFolder) {
+// nothing. Returns the copy's path, empty on failure.
+CString KeepCopy(const CString& signDataFolder) {
     constexpr int kMostCopies = 1000;
     for (int number = 1; number <= kMostCopies; ++number) {
         CString copy;
         copy.Format(L"%sDocSignRecord.unreadable%d.xml", static_cast<const wchar_t*>(signDataFolder), number);
-        if (::CopyFileW(SignRecordPath(signDataFolder), copy, TRUE)) return true;
-        if (::GetLastError() != ERROR_FILE_EXISTS) return false;
+        if (::CopyFileW(SignRecordPath(signDataFolder), copy, TRUE)) return copy;
+        if (::GetLastError() != ERROR_FILE_EXISTS) break;
     }
-    return false;
+    return CString();
 }
 
 } // namespace
@@ -39,7 +39,7 @@ CString SignWorkPath(const CString& signDataFolder) {
 }
 
 bool CSignRecordFile::Create() {
-    // Like every use of a class factory by the smart pointer, this puts the object into the running state.
+    // With servers of every kind allowed, this puts the object into the running state, too.
     return SUCCEEDED(m_spModel.CreateInstance(QORMODEL::CLSID_QORDataModel, nullptr, CLSCTX_ALL)) &&
            m_spModel;
 }
@@ -61,8 +61,11 @@ bool CSignRecordFile::Save() {
     const int result = parser.saveToFile(m_spModel, temporary.Path());
     CheckError(result);
     if (result == 0) return false;
-    if (m_bUnreadable && !KeepCopy(m_strFolder)) return false;
-    return temporary.MoveTo(SignRecordPath(m_strFolder));
+    const CString copy = m_bUnreadable ? KeepCopy(m_strFolder) : CString();
+    if (m_bUnreadable && copy.IsEmpty()) return false;
+    const bool replaced = temporary.MoveTo(SignRecordPath(m_strFolder));
+    if (!replaced && m_bUnreadable) ::DeleteFileW(copy);
+    return replaced;
 }
 
 } // namespace varnoke

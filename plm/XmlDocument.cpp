@@ -4,8 +4,11 @@
 
 #include "plm/XmlDocument.h"
 #include "module/ModulePaths.h"
+#include "module/Owned.h"
 #include "plm/SignDataFolder.h"
 #include "plm/TemporaryFile.h"
+
+#include <climits>
 
 namespace varnoke {
 
@@ -18,6 +21,25 @@ bool HasDocumentType(DomDocument& document) {
     const bool found = document->get_doctype(&type) == S_OK && type;
     const _com_ptr_t<_com_IIID<IXMLDOMDocumentType, &IID_IXMLDOMDocumentType>> owner(type, false);
     return found;
+}
+
+/// Makes `bytes` an array of the file's bytes; false when there are none.
+bool ReadBytes(const CString& path, _variant_t& bytes) {
+    const FileHandle file = OwnFile(::CreateFileW(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                                  nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    LARGE_INTEGER size = {};
+    if (!file || !::GetFileSizeEx(file.get(), &size) || size.QuadPart <= 0 || size.QuadPart > INT_MAX)
+        return false;
+    SAFEARRAY* array = ::SafeArrayCreateVector(VT_UI1, 0, size.LowPart);
+    if (!array) return false;
+    bytes.vt = VT_ARRAY | VT_UI1; // owns the array from here on
+    bytes.parray = array;
+    DWORD read = 0;
+    return ::ReadFile(file.get(), array->pvData, size.LowPart, &read, nullptr) && read == size.LowPart;
+}
+
+void Require(IXMLDOMNode* node) {
+    if (!node) _com_issue_error(E_POINTER);
 }
 
 } // namespace
@@ -49,8 +71,11 @@ bool LoadText(DomDocument& document, const wchar_t* text) {
 }
 
 bool LoadFile(DomDocument& document, const CString& path) {
+    // The parser would take a path for a URL and stumble over "%41" in it.
+    _variant_t bytes;
     VARIANT_BOOL loaded = VARIANT_FALSE;
-    return Succeeded(document->load(_variant_t(path), &loaded)) && loaded && !HasDocumentType(document);
+    return ReadBytes(path, bytes) && Succeeded(document->load(bytes, &loaded)) && loaded &&
+           !HasDocumentType(document);
 }
 
 bool SaveDocument(IXMLDOMDocument* document, const CString& path) {
@@ -62,12 +87,14 @@ bool SaveDocument(IXMLDOMDocument* document, const CString& path) {
 
 DomNode SelectNode(IXMLDOMNode* context, const wchar_t* path) {
     DomNode node;
+    Require(context);
     Succeeded(context->selectSingleNode(_bstr_t(path), &node));
     return node;
 }
 
 DomNodeList SelectNodes(IXMLDOMNode* context, const wchar_t* path) {
     DomNodeList list;
+    Require(context);
     Succeeded(context->selectNodes(_bstr_t(path), &list));
     return list;
 }

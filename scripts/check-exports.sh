@@ -32,7 +32,7 @@ if ! diff -u "$expected" <(exported | LC_ALL=C sort); then
 fi
 
 # What every Windows has, what a dynamically linked Visual C++ host brings, and the library's neighbours.
-allowed='^(kernel32|user32|gdi32|advapi32|ole32|oleaut32|comctl32|comdlg32|shell32|atl|Durvell|QORParser)\.dll$'
+allowed='^(kernel32|user32|gdi32|advapi32|ole32|oleaut32|comctl32|comdlg32|shell32|shlwapi|atl|Durvell|QORParser)\.dll$'
 case $abi in
 mingw) runtime='^msvcrt\.dll$' ;;
 msabi) runtime='^(vcruntime140|api-ms-win-crt-[a-z]+-l1-[0-9]-[0-9])\.dll$' ;;

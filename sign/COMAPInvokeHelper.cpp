@@ -2,12 +2,15 @@
 #include "sign/COMAPInvokeHelper.h"
 
 #include <cwchar>
+#include <iterator>
+#include <vector>
 
 #include "module/Owned.h"
+#include "module/Text.h"
 
 namespace {
 
-constexpr size_t kNameSize = 1024; // of a method name, with its terminator
+constexpr int kNameSize = 1024; // of a method name, with its terminator
 
 /// Takes what a failing method tells about itself; nobody reads it, but it is the caller's to free.
 struct CExceptionInfo : EXCEPINFO {
@@ -21,12 +24,25 @@ struct CExceptionInfo : EXCEPINFO {
     CExceptionInfo& operator=(const CExceptionInfo&) = delete;
 };
 
+/// The status that a method returned: its 32-bit integer, whatever type the server chose for it; 0 when it is
+/// none. An object is not asked for a value.
+long StatusOf(VARIANT& value) {
+    if (value.vt == VT_UI4 || value.vt == VT_UINT) {
+        return static_cast<long>(value.ulVal);
+    }
+    _variant_t integer;
+    const HRESULT hr = ::VariantChangeType(&integer, &value, VARIANT_NOVALUEPROP, VT_I4);
+    return SUCCEEDED(hr) ? integer.lVal : 0;
+}
+
+static_assert(sizeof(_variant_t) == sizeof(VARIANT), "owned arguments go to the server as they lie");
+
 } // namespace
 
 CCOMAPInvokeHelper::~CCOMAPInvokeHelper() = default;
 
 long CCOMAPInvokeHelper::CreateFromProgID(const wchar_t* progID) {
-    if (progID == nullptr || *progID == L'\0') {
+    if (!varnoke::HasText(progID)) {
         return 0;
     }
     CLSID clsid = {};
@@ -48,12 +64,12 @@ long CCOMAPInvokeHelper::CreateFromProgID(const wchar_t* progID) {
 }
 
 long CCOMAPInvokeHelper::SelectMethod(const wchar_t* name) {
-    if (name == nullptr || *name == L'\0' || wcsnlen(name, kNameSize) == kNameSize || !m_spServer) {
+    if (!varnoke::HasText(name) || wcsnlen(name, kNameSize) == kNameSize || !m_spServer) {
         return 0;
     }
     m_nMethod = 0;
     wchar_t buffer[kNameSize] = {};
-    wcscpy(buffer, name);
+    ::lstrcpynW(buffer, name, kNameSize);
     LPOLESTR names[] = {buffer};
     DISPID method = 0;
     if (SUCCEEDED(m_spServer->GetIDsOfNames(IID_NULL, names, 1, ::GetUserDefaultLCID(), &method)) &&
@@ -79,4 +95,24 @@ long CCOMAPInvokeHelper::Invoke(VARIANT* arguments, unsigned count, VARIANT* res
         *result = returned.Detach();
     }
     return 1;
+}
+
+long CCOMAPInvokeHelper::Call(const wchar_t* method, std::initializer_list<const wchar_t*> texts,
+                              std::initializer_list<double> numbers) {
+    if (SelectMethod(method) == 0) {
+        return 0;
+    }
+    std::vector<_variant_t> arguments; // the method's last parameter comes first
+    arguments.reserve(texts.size() + numbers.size());
+    for (auto number = std::rbegin(numbers); number != std::rend(numbers); ++number) {
+        arguments.emplace_back(*number);
+    }
+    for (auto text = std::rbegin(texts); text != std::rend(texts); ++text) {
+        arguments.emplace_back(*text);
+    }
+    _variant_t result;
+    if (Invoke(arguments.data(), static_cast<unsigned>(arguments.size()), &result) == 0) {
+        return 0;
+    }
+    return StatusOf(result);
 }

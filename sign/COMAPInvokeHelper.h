@@ -5,6 +5,8 @@
 #include <comdef.h>
 #include <comip.h>
 
+#include <initializer_list>
+
 /// Creates an automation server from its ProgID and calls its methods by name. Use on the thread that
 /// initialised COM. Failures give 0 and show nothing.
 class CCOMAPInvokeHelper {
@@ -26,6 +28,12 @@ protected:
     /// Calls the selected method. `arguments` stay the caller's, the method's last parameter first. `result`
     /// may be null; otherwise it must be empty and takes what the method returned. Returns 1 or 0.
     long Invoke(VARIANT* arguments, unsigned count, VARIANT* result);
+
+    /// Selects a method and calls it with parameters in the method's own order, the texts (borrowed; null is
+    /// passed on as a null BSTR) before the numbers. Returns the 32-bit integer that the method returned, 0
+    /// when it could not be called or returned none.
+    long Call(const wchar_t* method, std::initializer_list<const wchar_t*> texts,
+              std::initializer_list<double> numbers = {});
 
 private:
     _com_ptr_t<_com_IIID<IDispatch, &IID_IDispatch>> m_spServer;

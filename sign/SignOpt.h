@@ -3,8 +3,6 @@
 
 #include <afxwin.h>
 
-#include <initializer_list>
-
 #include "config/INIConfig.h"
 #include "module/Export.h"
 #include "module/SignRecords.h"
@@ -66,13 +64,6 @@ public:
     long SetOption();
 
 private:
-    /// Calls a method with its parameters in the method's own order, the texts before the numbers.
-    long CallServer(const CString& method, std::initializer_list<const wchar_t*> texts,
-                    std::initializer_list<double> numbers = {});
-    /// Calls the method that the settings name under `key`, with one text that must be given.
-    long CallForDocument(const wchar_t* key, IDispatch* document, const wchar_t* text);
-    void FetchSharedLogin();
-
     CINIConfig m_config;
     CWnd* m_pParentWnd = nullptr; // weak
     CString m_strPLMUser;

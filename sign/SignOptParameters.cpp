@@ -4,21 +4,19 @@
 #include "module/Guarded.h"
 #include "module/ModulePaths.h"
 #include "module/OwnedRecord.h"
+#include "module/Text.h"
 #include "plm/durvell.h"
 #include "sign/DateStyle.h"
 #include "ui/OptionDlg.h"
 #include "ui/SignDlg.h"
 
 using varnoke::Guarded;
+using varnoke::HasText;
 using varnoke::OwnedRecord;
 
 namespace {
 
 constexpr int kShareInfoSize = 1024; // of each buffer of the shared login, with its terminator
-
-bool HasText(const wchar_t* text) {
-    return text != nullptr && *text != L'\0';
-}
 
 /// Prepares an out-pointer, which stays null on failure. Returns whether there is one.
 bool ClearOut(SSignInfo** out) {
@@ -27,6 +25,18 @@ bool ClearOut(SSignInfo** out) {
     }
     *out = nullptr;
     return true;
+}
+
+/// Asks for the shared login; texts that are not delivered come out empty.
+void FetchSharedLogin(CString& user, CString& password, CString& server) {
+    wchar_t buffers[3][kShareInfoSize] = {};
+    dvl_GetShareInfo(buffers[0], buffers[1], buffers[2]);
+    for (wchar_t* buffer : buffers) {
+        buffer[kShareInfoSize - 1] = L'\0';
+    }
+    user = buffers[0];
+    password = buffers[1];
+    server = buffers[2];
 }
 
 void FillFromDialog(SSignInfo& info, const CSignDlg& dialog) {
@@ -68,23 +78,10 @@ long CSignOpt::GetSignUserName(wchar_t* buffer) {
         if (buffer == nullptr) {
             return 0;
         }
-        FetchSharedLogin();
+        FetchSharedLogin(m_strPLMUser, m_strPassword, m_strServerAddress);
         ::lstrcpynW(buffer, m_strPLMUser, kShareInfoSize);
         return 1;
     });
-}
-
-void CSignOpt::FetchSharedLogin() {
-    wchar_t user[kShareInfoSize] = {};
-    wchar_t password[kShareInfoSize] = {};
-    wchar_t server[kShareInfoSize] = {};
-    dvl_GetShareInfo(user, password, server);
-    for (wchar_t* buffer : {user, password, server}) {
-        buffer[kShareInfoSize - 1] = L'\0';
-    }
-    m_strPLMUser = user;
-    m_strPassword = password;
-    m_strServerAddress = server;
 }
 
 long CSignOpt::GetSignInfo(wchar_t* document, long value, wchar_t* name, SSignInfo** out) {
@@ -92,7 +89,7 @@ long CSignOpt::GetSignInfo(wchar_t* document, long value, wchar_t* name, SSignIn
         if (!ClearOut(out) || !HasText(document) || !HasText(name)) {
             return 0;
         }
-        FetchSharedLogin();
+        FetchSharedLogin(m_strPLMUser, m_strPassword, m_strServerAddress);
         const CString key = m_strPLMUser + L"_" + name;
         const CString drawing = varnoke::JoinPath(varnoke::TemporaryFolder(), key + L".dwg");
 

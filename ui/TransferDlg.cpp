@@ -17,7 +17,6 @@ const UINT kActivityInterval = 100;
 const UINT_PTR kCloseTimer = 3;
 const UINT kCloseDelay = 1000;
 const DWORD kStartPause = 100; // lets the worker come up
-const int kLogLimit = 0x7ffffffe;
 
 } // namespace
 
@@ -52,11 +51,7 @@ int CTransferDlg::GetResultCode(int* pResultCode) const {
 
 void CTransferDlg::DoDataExchange(CDataExchange* pDX) {
     CDialog::DoDataExchange(pDX);
-    DDX_Control(pDX, m_variant.m_nFileLabel, m_labelFile);
-    DDX_Control(pDX, m_variant.m_nFileBar, m_barFile);
-    DDX_Control(pDX, m_variant.m_nTotalLabel, m_labelTotal);
-    DDX_Control(pDX, m_variant.m_nTotalBar, m_barTotal);
-    DDX_Control(pDX, m_variant.m_nLog, m_editLog);
+    m_display.Exchange(pDX, m_variant);
 }
 
 BOOL CTransferDlg::OnInitDialog() {
@@ -72,15 +67,7 @@ BOOL CTransferDlg::OnInitDialog() {
 void CTransferDlg::InitControls() {
     m_nCount = m_pFileList != nullptr ? static_cast<int>(m_pFileList->m_lstItem.GetCount()) : 0;
     if (m_nCount < 1) return;
-    m_labelFile.SetWindowText(ResourceText(m_variant.m_nTextCurrent));
-    m_barFile.SetRange32(0, kActivityEnd);
-    m_barFile.SetPos(0);
-    m_labelTotal.SetWindowText(ResourceText(m_variant.m_nTextCount));
-    m_barTotal.SetRange32(0, m_nCount);
-    m_barTotal.SetPos(0);
-    m_editLog.SetWindowText(L"");
-    // A long run logs more than an edit control holds by default.
-    m_editLog.LimitText(kLogLimit);
+    m_display.Start(ResourceText(m_variant.m_nTextCurrent), ResourceText(m_variant.m_nTextCount), m_nCount);
 }
 
 // There is no button to confirm: a stray Enter must not end the run.
@@ -93,7 +80,7 @@ void CTransferDlg::OnTimer(UINT_PTR nIDEvent) {
         OnStartTimer();
         break;
     case kActivityTimer:
-        m_barFile.SetPos(NextActivityPosition(m_barFile.GetPos()));
+        m_display.StepActivity();
         break;
     case kCloseTimer:
         KillTimer(kCloseTimer);
@@ -135,9 +122,11 @@ LRESULT CTransferDlg::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT CTransferDlg::OnStep(ETransferStep step, BSTR text) {
+    m_worker.ReportTaken();
     return Guarded<LRESULT>(0, [&]() -> LRESULT {
         const _bstr_t owned(text, false);
         HandleStep(step, CString(static_cast<const wchar_t*>(owned)));
+        m_display.DrawWhenDue();
         return 1;
     });
 }
@@ -145,7 +134,7 @@ LRESULT CTransferDlg::OnStep(ETransferStep step, BSTR text) {
 void CTransferDlg::HandleStep(ETransferStep step, const CString& strPath) {
     switch (step) {
     case kRunStarted:
-        WriteLog(ResourceText(m_variant.m_nTextStarted));
+        m_display.Log(ResourceText(m_variant.m_nTextStarted));
         return;
     case kRunEnded:
         OnRunOver(m_variant.m_nTextEnded, step);
@@ -177,22 +166,19 @@ void CTransferDlg::HandleStep(ETransferStep step, const CString& strPath) {
 
 void CTransferDlg::OnFileBegins(const CString& strPath) {
     const CString text = ResourceText(m_variant.m_nTextCurrent) + strPath;
-    m_labelFile.SetWindowText(text);
-    m_barFile.SetPos(0);
+    m_display.ShowFile(text, 0);
     SetTimer(kActivityTimer, kActivityInterval, nullptr);
-    WriteLog(text);
+    m_display.Log(text);
 }
 
 void CTransferDlg::OnFileDone(const CString& strPath) {
     const CString text = ResourceText(m_variant.m_nTextDone) + strPath;
-    m_labelFile.SetWindowText(text);
     KillTimer(kActivityTimer);
-    m_barFile.SetPos(kActivityEnd);
-    WriteLog(text);
+    m_display.ShowFile(text, kActivityEnd);
+    m_display.Log(text);
     if (m_nDone >= m_nCount) m_nDone = 0;
     ++m_nDone;
-    // The count is the progress display; the bar below it stays at its start.
-    m_labelTotal.SetWindowText(CountText(ResourceText(m_variant.m_nTextCount), m_nDone, m_nCount));
+    m_display.ShowTotal(CountText(ResourceText(m_variant.m_nTextCount), m_nDone, m_nCount));
 }
 
 void CTransferDlg::OnFileMissed(UINT nComplaint, const CString& strPath, ETransferStep step) {
@@ -201,7 +187,8 @@ void CTransferDlg::OnFileMissed(UINT nComplaint, const CString& strPath, ETransf
 }
 
 void CTransferDlg::OnRunOver(UINT nText, ETransferStep step) {
-    WriteLog(ResourceText(nText));
+    m_display.Log(ResourceText(nText));
+    m_display.Draw();
     if (!m_strWarnings.IsEmpty()) {
         ShowInfo(m_strWarnings, this);
         m_strWarnings.Empty();
@@ -209,15 +196,4 @@ void CTransferDlg::OnRunOver(UINT nText, ETransferStep step) {
     m_nDone = m_nCount;
     m_nResultCode = ResultAfter(m_nResultCode, step);
     SetTimer(kCloseTimer, kCloseDelay, nullptr);
-}
-
-void CTransferDlg::WriteLog(const CString& strText) {
-    if (strText.IsEmpty()) return;
-    const __time64_t now = _time64(nullptr);
-    tm local = {};
-    const bool known = _localtime64_s(&local, &now) == 0;
-    m_editLog.SetReadOnly(TRUE);
-    const int end = m_editLog.GetWindowTextLength();
-    m_editLog.SetSel(end, end); // this also scrolls the caret into view
-    m_editLog.ReplaceSel(LogLine(strText, known ? &local : nullptr));
 }

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <afxwin.h>
-#include <afxcmn.h>
 #include "module/SignRecords.h"
+#include "ui/TransferDisplay.h"
 #include "ui/TransferRules.h"
 #include "ui/TransferWorker.h"
 
@@ -40,14 +40,9 @@ private:
     void OnFileDone(const CString& strPath);
     void OnFileMissed(UINT nComplaint, const CString& strPath, varnoke::ETransferStep step);
     void OnRunOver(UINT nText, varnoke::ETransferStep step);
-    void WriteLog(const CString& strText);
 
     const varnoke::STransferVariant& m_variant;
-    CStatic m_labelFile;
-    CProgressCtrl m_barFile;
-    CStatic m_labelTotal;
-    CProgressCtrl m_barTotal;
-    CEdit m_editLog;
+    CTransferDisplay m_display;
     SSignFileDUL* m_pFileList = nullptr; // not owned
     CString m_strWarnings;               // lines to be shown when the run is over
     int m_nResultCode = varnoke::kTransferNone;

@@ -12,7 +12,8 @@ using namespace varnoke;
 namespace {
 
 const UINT kMessageTextRoom = 1024;
-const DWORD kQueueFullWait = 10; // ms
+const LONG kMostPosted = 32; // messages in the window's queue
+const DWORD kNoRoomWait = 2; // ms
 
 class CExclusiveLock {
 public:
@@ -52,6 +53,11 @@ bool CTransferWorker::Start(SSignFileDUL* pList, HWND hWnd) {
     if (m_hClosedEvent == nullptr) return false;
     m_hThread.reset(reinterpret_cast<HANDLE>(_beginthreadex(nullptr, 0, &ThreadMain, this, 0, &m_nThreadId)));
     return m_hThread != nullptr;
+}
+
+void CTransferWorker::ReportTaken() {
+    const CExclusiveLock lock(m_lock);
+    --m_nPosted;
 }
 
 void CTransferWorker::Close() {
@@ -143,11 +149,11 @@ bool CTransferWorker::PostFile(ETransferStep step, const CString& strPath) {
     return true;
 }
 
-// Waits while the window's message queue is full: a slow dialog loses no report.
+// Waits for a window that lags behind, and while its message queue is full: a slow dialog loses no report.
 bool CTransferWorker::Post(ETransferStep step, BSTR text) {
     EPostResult result = TryPost(step, text);
-    while (result == kQueueFull) {
-        ::WaitForSingleObject(m_hClosedEvent.get(), kQueueFullWait);
+    while (result == kNoRoom) {
+        ::WaitForSingleObject(m_hClosedEvent.get(), kNoRoomWait);
         result = TryPost(step, text);
     }
     return result == kPosted;
@@ -156,9 +162,13 @@ bool CTransferWorker::Post(ETransferStep step, BSTR text) {
 CTransferWorker::EPostResult CTransferWorker::TryPost(ETransferStep step, BSTR text) {
     const CExclusiveLock lock(m_lock);
     if (m_bClosed) return kNobodyThere;
+    if (m_nPosted >= kMostPosted) return kNoRoom;
     const UINT message = m_variant.m_nFirstMessage + step;
-    if (::PostMessageW(m_hWnd, message, reinterpret_cast<WPARAM>(text), 0)) return kPosted;
-    return ::IsWindow(m_hWnd) ? kQueueFull : kNobodyThere;
+    if (::PostMessageW(m_hWnd, message, reinterpret_cast<WPARAM>(text), 0)) {
+        ++m_nPosted;
+        return kPosted;
+    }
+    return ::IsWindow(m_hWnd) ? kNoRoom : kNobodyThere;
 }
 
 bool CTransferWorker::IsClosed() {

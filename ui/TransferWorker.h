@@ -19,6 +19,9 @@ public:
 
     // Starts the thread. The list is borrowed; the worker writes the state of its items.
     bool Start(SSignFileDUL* pList, HWND hWnd);
+    // To be called for each message that has been handled: the worker lets only so many lie in the queue, so
+    // that the window stays quick to answer.
+    void ReportTaken();
     // After the file in hand no further one is transferred and nothing more is posted; what was posted and
     // not yet handled is taken back.
     void Close();
@@ -31,7 +34,7 @@ private:
     void TransferList();
     bool TransferItem(SSignFileDULItem& item, const CString& strPath);
     bool PostFile(varnoke::ETransferStep step, const CString& strPath);
-    enum EPostResult { kPosted, kQueueFull, kNobodyThere };
+    enum EPostResult { kPosted, kNoRoom, kNobodyThere };
     bool Post(varnoke::ETransferStep step, BSTR text);
     EPostResult TryPost(varnoke::ETransferStep step, BSTR text);
     bool IsClosed();
@@ -44,5 +47,6 @@ private:
     unsigned m_nThreadId = 0;
     SRWLOCK m_lock = SRWLOCK_INIT;        // a post and closing exclude each other
     bool m_bClosed = false;               // under m_lock
-    varnoke::KernelHandle m_hClosedEvent; // ends a wait for room in the message queue
+    LONG m_nPosted = 0;                   // under m_lock; messages not yet handled
+    varnoke::KernelHandle m_hClosedEvent; // ends a wait for the window
 };

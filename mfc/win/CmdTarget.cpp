@@ -4,8 +4,8 @@
 IMPLEMENT_DYNAMIC(CCmdTarget, CObject)
 
 CCmdTarget::CCmdTarget()
-    : m_dwRef(1), m_pOuterUnknown(nullptr), m_xInnerUnknown(0), m_xDispatch{0}, m_bResultExpected(TRUE),
-      m_xConnPtContainer{0}, m_pModuleState(AfxGetModuleState()) {}
+    : m_dwRef(1), m_pOuterUnknown(nullptr), m_xInnerUnknown(0), m_xDispatch{0},
+      m_bResultExpected(TRUE), m_xConnPtContainer{0}, m_pModuleState(AfxGetModuleState()) {}
 
 CCmdTarget::~CCmdTarget() = default;
 
@@ -23,7 +23,8 @@ const AFX_MSGMAP_ENTRY* CCmdTarget::FindMessageEntry(UINT nMessage, UINT nCode, 
     for (const AFX_MSGMAP* pMap = GetMessageMap(); pMap != nullptr;
          pMap = pMap->pfnGetBaseMap != nullptr ? pMap->pfnGetBaseMap() : nullptr) {
         for (const AFX_MSGMAP_ENTRY* pEntry = pMap->lpEntries; pEntry->pfn != nullptr; ++pEntry) {
-            if (pEntry->nMessage == nMessage && pEntry->nCode == nCode && pEntry->nID <= nID && nID <= pEntry->nLastID)
+            if (pEntry->nMessage == nMessage && pEntry->nCode == nCode && pEntry->nID <= nID &&
+                nID <= pEntry->nLastID)
                 return pEntry;
         }
     }

@@ -64,7 +64,8 @@ protected:
     static const AFX_MSGMAP* PASCAL GetThisMessageMap();
     virtual const AFX_MSGMAP* GetMessageMap() const;
 
-    // The entry for a message, code and id in this object's maps, most derived first; null when there is none.
+    // The entry for a message, code and id in this object's maps, most derived first; null when there is
+    // none.
     const AFX_MSGMAP_ENTRY* FindMessageEntry(UINT nMessage, UINT nCode, UINT nID) const;
 };
 

@@ -14,7 +14,8 @@ COLORREF g_customColors[16] = {
 
 } // namespace
 
-CColorDialog::CColorDialog(COLORREF clrInit, DWORD dwFlags, CWnd* pParentWnd) : CDialog(0u, pParentWnd), m_cc{} {
+CColorDialog::CColorDialog(COLORREF clrInit, DWORD dwFlags, CWnd* pParentWnd)
+    : CDialog(0u, pParentWnd), m_cc{} {
     m_cc.lStructSize = sizeof(m_cc);
     m_cc.rgbResult = clrInit;
     m_cc.lpCustColors = g_customColors;

@@ -5,19 +5,8 @@
 IMPLEMENT_DYNAMIC(CProgressCtrl, CWnd)
 IMPLEMENT_DYNAMIC(CDateTimeCtrl, CWnd)
 
-void CProgressCtrl::SetRange(short nLower, short nUpper) {
-    SendMessage(PBM_SETRANGE, 0, MAKELPARAM(nLower, nUpper));
-}
-
 void CProgressCtrl::SetRange32(int nLower, int nUpper) {
     SendMessage(PBM_SETRANGE32, nLower, nUpper);
-}
-
-void CProgressCtrl::GetRange(int& nLower, int& nUpper) const {
-    PBRANGE range = {};
-    SendMessage(PBM_GETRANGE, TRUE, reinterpret_cast<LPARAM>(&range));
-    nLower = range.iLow;
-    nUpper = range.iHigh;
 }
 
 int CProgressCtrl::GetPos() const {

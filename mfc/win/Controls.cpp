@@ -23,23 +23,8 @@ void CEdit::SetSel(int nStartChar, int nEndChar, BOOL bNoScroll) {
     if (!bNoScroll) SendMessage(EM_SCROLLCARET);
 }
 
-void CEdit::GetSel(int& nStartChar, int& nEndChar) const {
-    DWORD dwStart = 0, dwEnd = 0;
-    SendMessage(EM_GETSEL, reinterpret_cast<WPARAM>(&dwStart), reinterpret_cast<LPARAM>(&dwEnd));
-    nStartChar = static_cast<int>(dwStart);
-    nEndChar = static_cast<int>(dwEnd);
-}
-
 void CEdit::ReplaceSel(LPCTSTR lpszNewText, BOOL bCanUndo) {
     SendMessage(EM_REPLACESEL, bCanUndo, reinterpret_cast<LPARAM>(lpszNewText));
-}
-
-int CEdit::GetLineCount() const {
-    return static_cast<int>(SendMessage(EM_GETLINECOUNT));
-}
-
-void CEdit::LineScroll(int nLines, int nChars) {
-    SendMessage(EM_LINESCROLL, nChars, nLines);
 }
 
 void CEdit::LimitText(int nChars) {
@@ -66,24 +51,12 @@ int CComboBox::InsertString(int nIndex, LPCTSTR lpszString) {
     return static_cast<int>(SendMessage(CB_INSERTSTRING, nIndex, reinterpret_cast<LPARAM>(lpszString)));
 }
 
-int CComboBox::DeleteString(UINT nIndex) {
-    return static_cast<int>(SendMessage(CB_DELETESTRING, nIndex));
-}
-
 void CComboBox::ResetContent() {
     SendMessage(CB_RESETCONTENT);
 }
 
-int CComboBox::FindString(int nStartAfter, LPCTSTR lpszString) const {
-    return static_cast<int>(SendMessage(CB_FINDSTRING, nStartAfter, reinterpret_cast<LPARAM>(lpszString)));
-}
-
 int CComboBox::FindStringExact(int nIndexStart, LPCTSTR lpszFind) const {
     return static_cast<int>(SendMessage(CB_FINDSTRINGEXACT, nIndexStart, reinterpret_cast<LPARAM>(lpszFind)));
-}
-
-int CComboBox::SelectString(int nStartAfter, LPCTSTR lpszString) {
-    return static_cast<int>(SendMessage(CB_SELECTSTRING, nStartAfter, reinterpret_cast<LPARAM>(lpszString)));
 }
 
 DWORD_PTR CComboBox::GetItemData(int nIndex) const {
@@ -94,14 +67,10 @@ int CComboBox::SetItemData(int nIndex, DWORD_PTR dwItemData) {
     return static_cast<int>(SendMessage(CB_SETITEMDATA, nIndex, static_cast<LPARAM>(dwItemData)));
 }
 
-int CComboBox::GetLBText(int nIndex, LPTSTR lpszText) const {
-    return static_cast<int>(SendMessage(CB_GETLBTEXT, nIndex, reinterpret_cast<LPARAM>(lpszText)));
-}
-
 void CComboBox::GetLBText(int nIndex, CString& rString) const {
     const int nLength = GetLBTextLen(nIndex);
     if (nLength == CB_ERR) AfxThrowInvalidArgException();
-    GetLBText(nIndex, rString.GetBuffer(nLength));
+    SendMessage(CB_GETLBTEXT, nIndex, reinterpret_cast<LPARAM>(rString.GetBuffer(nLength)));
     rString.ReleaseBuffer();
 }
 
@@ -111,18 +80,6 @@ int CComboBox::GetLBTextLen(int nIndex) const {
 
 int CComboBox::SetItemHeight(int nIndex, UINT cyItemHeight) {
     return static_cast<int>(SendMessage(CB_SETITEMHEIGHT, nIndex, cyItemHeight));
-}
-
-int CComboBox::GetItemHeight(int nIndex) const {
-    return static_cast<int>(SendMessage(CB_GETITEMHEIGHT, nIndex));
-}
-
-void CComboBox::ShowDropDown(BOOL bShowIt) {
-    SendMessage(CB_SHOWDROPDOWN, bShowIt);
-}
-
-BOOL CComboBox::GetDroppedState() const {
-    return SendMessage(CB_GETDROPPEDSTATE) != 0;
 }
 
 void CComboBox::DrawItem(LPDRAWITEMSTRUCT) {}

@@ -19,10 +19,7 @@ class CEdit : public CWnd {
 public:
     BOOL SetReadOnly(BOOL bReadOnly = TRUE);
     void SetSel(int nStartChar, int nEndChar, BOOL bNoScroll = FALSE);
-    void GetSel(int& nStartChar, int& nEndChar) const;
     void ReplaceSel(LPCTSTR lpszNewText, BOOL bCanUndo = FALSE);
-    int GetLineCount() const;
-    void LineScroll(int nLines, int nChars = 0);
     void LimitText(int nChars = 0);
 };
 
@@ -34,20 +31,13 @@ public:
     int SetCurSel(int nSelect);
     int AddString(LPCTSTR lpszString);
     int InsertString(int nIndex, LPCTSTR lpszString);
-    int DeleteString(UINT nIndex);
     void ResetContent();
-    int FindString(int nStartAfter, LPCTSTR lpszString) const;
     int FindStringExact(int nIndexStart, LPCTSTR lpszFind) const;
-    int SelectString(int nStartAfter, LPCTSTR lpszString);
     DWORD_PTR GetItemData(int nIndex) const; // CB_ERR for a bad index
     int SetItemData(int nIndex, DWORD_PTR dwItemData);
-    int GetLBText(int nIndex, LPTSTR lpszText) const;
     void GetLBText(int nIndex, CString& rString) const; // throws CInvalidArgException for a bad index
     int GetLBTextLen(int nIndex) const;
     int SetItemHeight(int nIndex, UINT cyItemHeight);
-    int GetItemHeight(int nIndex) const;
-    void ShowDropDown(BOOL bShowIt = TRUE);
-    BOOL GetDroppedState() const;
 
     // For owner-drawn combo boxes; reached through the parent window.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);

@@ -10,21 +10,9 @@ HWND CDataExchange::PrepareCtrl(int nIDC) {
     return hWndControl;
 }
 
-void CDataExchange::Fail() {
-    AfxThrowUserException();
-}
-
 void AFXAPI DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl) {
     if (rControl.m_hWnd != nullptr) return;
     if (!rControl.SubclassWindow(pDX->PrepareCtrl(nIDC))) AfxThrowNotSupportedException();
-}
-
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, CString& value) {
-    pDX->PrepareCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
-        pDX->m_pDlgWnd->GetDlgItemText(nIDC, value);
-    else
-        pDX->m_pDlgWnd->SetDlgItemText(nIDC, value);
 }
 
 void CWnd::DoDataExchange(CDataExchange*) {}

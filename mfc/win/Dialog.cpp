@@ -8,9 +8,9 @@
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
 
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
-    ON_COMMAND(IDOK, &CDialog::OnOK)
-    ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
-    ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
+ON_COMMAND(IDOK, &CDialog::OnOK)
+ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
 END_MESSAGE_MAP()
 
 namespace {
@@ -84,8 +84,10 @@ void CDialog::RunFromTemplate(HWND hWndOwner) {
     if (m_nFlags & WF_CONTINUEMODAL) RunModalLoop(MLF_SHOWONIDLE);
     if (m_hWnd == nullptr) return; // somebody destroyed the window
 
-    // Out of sight first, then back to an owner that takes input: otherwise another program comes to the front.
-    SetWindowPos(nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+    // Out of sight first, then back to an owner that takes input: otherwise another program comes to the
+    // front.
+    SetWindowPos(nullptr, 0, 0, 0, 0,
+                 SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
     owner.Enable();
     if (hWndOwner != nullptr && ::GetActiveWindow() == m_hWnd) ::SetActiveWindow(hWndOwner);
     DestroyWindow();
@@ -131,17 +133,17 @@ void CDialog::CreateOleControls() {
 }
 
 BOOL CDialog::CheckAutoCenter() {
-    return m_pTemplate->HasFreePlace();
+    return m_pTemplate != nullptr && m_pTemplate->HasFreePlace();
 }
 
 BOOL CDialog::OnInitDialog() {
-    // Puts the data into the controls; a failure has nowhere to be reported.
-    UpdateData(FALSE);
-    return TRUE;
+    if (UpdateData(FALSE)) return TRUE;
+    EndDialog(-1); // a dialog without its controls is of no use
+    return FALSE;
 }
 
 void CDialog::EndDialog(int nResult) {
-    EndModalLoop(nResult);
+    if (m_nFlags & (WF_MODALLOOP | WF_CONTINUEMODAL)) EndModalLoop(nResult);
 }
 
 void CDialog::OnOK() {
@@ -153,5 +155,6 @@ void CDialog::OnCancel() {
 }
 
 BOOL CDialog::PreTranslateMessage(MSG* pMsg) {
-    return CWnd::PreTranslateMessage(pMsg) || OleContainer::TranslateKey(m_hWnd, pMsg) || PreTranslateInput(pMsg);
+    return CWnd::PreTranslateMessage(pMsg) || OleContainer::TranslateKey(m_hWnd, pMsg) ||
+           PreTranslateInput(pMsg);
 }

@@ -15,12 +15,10 @@ public:
 
     // The control's window; throws CNotSupportedException when the dialog has no such control.
     HWND PrepareCtrl(int nIDC);
-    [[noreturn]] void Fail(); // throws CUserException
 };
 
 // Attaches and subclasses the control the first time.
 void AFXAPI DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl);
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, CString& value);
 
 class CDialog : public CWnd {
     DECLARE_DYNAMIC(CDialog)

@@ -3,19 +3,13 @@
 
 namespace {
 
-bool g_bRunning = false; // InitInstance agreed, ExitInstance is still to be called
-
-TCHAR g_szNoCommandLine[] = _T("");
+bool g_bStarted = false; // ExitInstance is still to be called
 
 // The loader knows no exceptions.
-BOOL Start(HINSTANCE hInstance) noexcept {
+template <class TStep>
+BOOL WithoutExceptions(TStep step) noexcept {
     try {
-        if (!AfxWinInit(hInstance, nullptr, g_szNoCommandLine, 0)) return FALSE;
-        CWinApp* pApp = AfxGetApp();
-        g_bRunning = pApp == nullptr || pApp->InitInstance();
-        // What InitInstance did before it gave up is undone; the loader calls no entry point for it.
-        if (!g_bRunning) pApp->ExitInstance();
-        return g_bRunning;
+        return step();
     } catch (CException* e) {
         e->Delete();
     } catch (...) {
@@ -23,16 +17,17 @@ BOOL Start(HINSTANCE hInstance) noexcept {
     return FALSE;
 }
 
-void End() noexcept {
-    if (!g_bRunning) return;
-    g_bRunning = false;
-    try {
-        if (CWinApp* pApp = AfxGetApp()) pApp->ExitInstance();
-    } catch (CException* e) {
-        e->Delete();
-    } catch (...) {
-    }
+BOOL Start(HINSTANCE hInstance) {
+    AfxWinInit(hInstance, nullptr, nullptr, 0);
+    g_bStarted = true;
+    return AfxGetApp()->InitInstance();
+}
+
+BOOL End() {
+    if (!g_bStarted) return FALSE;
+    g_bStarted = false;
     CThreadWindows::Drop();
+    return AfxGetApp()->ExitInstance() == 0;
 }
 
 } // namespace
@@ -41,9 +36,11 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID) {
     AFX_MANAGE_STATE(AfxGetStaticModuleState())
     switch (dwReason) {
     case DLL_PROCESS_ATTACH:
-        return Start(hInstance);
+        if (WithoutExceptions([hInstance] { return Start(hInstance); })) return TRUE;
+        WithoutExceptions(End); // undoes what InitInstance did before it gave up
+        return FALSE;
     case DLL_PROCESS_DETACH:
-        End();
+        WithoutExceptions(End);
         break;
     case DLL_THREAD_DETACH:
         CThreadWindows::Drop();

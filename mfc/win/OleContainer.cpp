@@ -2,6 +2,9 @@
 #include "win/OleContainer.h"
 
 #include <afxdisp.h>
+#include <comdef.h>
+
+_COM_SMARTPTR_TYPEDEF(IUnknown, __uuidof(IUnknown));
 
 // Exports of atl.dll.
 extern "C" {
@@ -33,9 +36,12 @@ void OleContainer::Prepare() {
 }
 
 bool OleContainer::CreateControl(HWND hWndHost, LPCWSTR pszClass) {
-    // The host would take any other text for the address of a document to show.
+    // Asked first, because the host would take any other text for the address of a document to show, and
+    // would look for a server program when there is no such control.
     CLSID clsid;
+    IUnknownPtr factory;
     return SUCCEEDED(::CLSIDFromString(pszClass, &clsid)) &&
+           SUCCEEDED(::CoGetClassObject(clsid, CLSCTX_INPROC_SERVER, nullptr, IID_PPV_ARGS(&factory))) &&
            SUCCEEDED(AtlAxCreateControl(pszClass, hWndHost, nullptr, nullptr));
 }
 
@@ -47,7 +53,8 @@ IUnknown* OleContainer::GetControl(HWND hWndHost) {
 BOOL OleContainer::TranslateKey(HWND hWndDialog, MSG* pMsg) {
     if (pMsg->message < WM_KEYFIRST || pMsg->message > WM_KEYLAST) return FALSE;
     for (HWND hWnd = pMsg->hwnd; hWnd != nullptr && hWnd != hWndDialog; hWnd = ::GetParent(hWnd)) {
-        if (IsHostWindow(hWnd)) return ::SendMessageW(hWnd, WM_FORWARDMSG, 0, reinterpret_cast<LPARAM>(pMsg)) != 0;
+        if (IsHostWindow(hWnd))
+            return ::SendMessageW(hWnd, WM_FORWARDMSG, 0, reinterpret_cast<LPARAM>(pMsg)) != 0;
     }
     return FALSE;
 }

@@ -41,16 +41,6 @@ void LendingDelete::operator()(CWnd* pWnd) const {
     delete pWnd;
 }
 
-void LendingDelete::operator()(CDC* pDC) const {
-    pDC->m_hDC = nullptr;
-    delete pDC;
-}
-
-void LendingDelete::operator()(CGdiObject* pObject) const {
-    pObject->m_hObject = nullptr;
-    delete pObject;
-}
-
 CThreadWindows* CThreadWindows::Find() {
     const CKeepLastError keep;
     return Slot().Get();
@@ -67,9 +57,8 @@ CThreadWindows& CThreadWindows::Get() {
 
 void CThreadWindows::DropIfUnused() {
     const CThreadWindows* p = Find();
-    if (p != nullptr && p->m_windows.empty() && p->m_temporaryWindows.empty() && p->m_temporaryContexts.empty() &&
-        p->m_temporaryObjects.empty() && p->m_pCreating == nullptr && p->m_nMessageDepth == 0 &&
-        p->m_nLoopDepth == 0)
+    if (p != nullptr && p->m_windows.empty() && p->m_temporaryWindows.empty() && p->m_pCreating == nullptr &&
+        p->m_nMessageDepth == 0 && p->m_nLoopDepth == 0)
         Drop();
 }
 
@@ -88,12 +77,6 @@ CWnd* CThreadWindows::TakeCreated() {
     CWnd* pWnd = m_pCreating;
     m_pCreating = nullptr;
     return pWnd;
-}
-
-void CThreadWindows::DeleteTemporaries() {
-    m_temporaryWindows.clear();
-    m_temporaryContexts.clear();
-    m_temporaryObjects.clear();
 }
 
 CMessageInProgress::CMessageInProgress(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
@@ -120,5 +103,5 @@ CMessageLoop::~CMessageLoop() {
 
 // While a handler further out is suspended, it may still hold temporary objects.
 void CMessageLoop::Idle() {
-    if (m_windows.m_nMessageDepth == 0 && m_windows.m_nLoopDepth <= 1) m_windows.DeleteTemporaries();
+    if (m_windows.m_nMessageDepth == 0 && m_windows.m_nLoopDepth <= 1) m_windows.m_temporaryWindows.clear();
 }

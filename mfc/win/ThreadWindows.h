@@ -6,11 +6,9 @@
 #include <memory>
 #include <unordered_map>
 
-// Temporary objects lend their handle; it must not go with them.
+// A temporary object lends its window, which must not go with it.
 struct LendingDelete {
     void operator()(CWnd* pWnd) const;
-    void operator()(CDC* pDC) const;
-    void operator()(CGdiObject* pObject) const;
 };
 
 class CThreadWindows {
@@ -27,12 +25,9 @@ public:
     CWnd* FindWindow(HWND hWnd) const;
     // Gives the window to the object that waits for the window it is creating; null when none waits.
     CWnd* TakeCreated();
-    void DeleteTemporaries();
 
     std::unordered_map<HWND, CWnd*> m_windows;
     std::unordered_map<HWND, std::unique_ptr<CWnd, LendingDelete>> m_temporaryWindows;
-    std::unordered_map<HDC, std::unique_ptr<CDC, LendingDelete>> m_temporaryContexts;
-    std::unordered_map<HGDIOBJ, std::unique_ptr<CGdiObject, LendingDelete>> m_temporaryObjects;
 
     CWnd* m_pCreating = nullptr;
     MSG m_message = {}; // the one being handled by a window procedure

@@ -3,47 +3,30 @@
 
 #include "win/Wnd.h"
 
-class CWinThread : public CCmdTarget {
-    DECLARE_DYNAMIC(CWinThread)
-public:
-    CWinThread();
-    virtual ~CWinThread();
-
-    virtual BOOL InitInstance();
-    virtual int Run(); // message loop until WM_QUIT; gives ExitInstance's result
-    virtual int ExitInstance();
-
-    CWnd* m_pMainWnd; // borrowed
-};
-
 // One static object per module.
-class CWinApp : public CWinThread {
+class CWinApp : public CCmdTarget {
     DECLARE_DYNAMIC(CWinApp)
 public:
-    explicit CWinApp(LPCTSTR lpszAppName = nullptr);
+    explicit CWinApp(LPCTSTR lpszAppName = nullptr); // the name is borrowed
     virtual ~CWinApp();
-    CWinApp(const CWinApp&) = delete;
-    CWinApp& operator=(const CWinApp&) = delete;
 
+    CWnd* m_pMainWnd; // borrowed; owner of dialogs that are given no parent
     HINSTANCE m_hInstance;
-    LPTSTR m_lpCmdLine;
-    int m_nCmdShow;
     LPCTSTR m_pszAppName; // the constructor's name, else the module's file name without folder and extension
 
-    virtual BOOL InitInstance() override; // TRUE
-    virtual int ExitInstance() override;  // the WM_QUIT exit code in a program, else 0
-    CWnd* GetMainWnd() { return m_pMainWnd; }
+    // FALSE keeps a DLL from being loaded.
+    virtual BOOL InitInstance();
+    virtual int ExitInstance();
 
 private:
     friend BOOL AFXAPI AfxWinInit(HINSTANCE, HINSTANCE, LPTSTR, int);
-    void SetModule(HINSTANCE hInstance, LPTSTR lpCmdLine, int nCmdShow);
+    void SetModule(HINSTANCE hInstance);
     CString m_strAppName;
 };
 
 CWinApp* AFXAPI AfxGetApp();
 CWnd* AFXAPI AfxGetMainWnd();
-LPCTSTR AFXAPI AfxGetAppName();
 
-// Tells the framework its module. A regular DLL's entry point calls it; a program without the
-// framework's own start-up calls it first. hPrevInstance is null.
+// Tells the framework its module. A regular DLL's entry point calls it; a program that starts in wmain
+// calls it first. Only the instance is looked at.
 BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow);

@@ -27,7 +27,7 @@ CWnd* PASCAL CWnd::FromHandlePermanent(HWND hWnd) {
 }
 
 void PASCAL CWnd::DeleteTempMap() {
-    if (CThreadWindows* pWindows = CThreadWindows::Find()) pWindows->DeleteTemporaries();
+    if (CThreadWindows* pWindows = CThreadWindows::Find()) pWindows->m_temporaryWindows.clear();
     CThreadWindows::DropIfUnused();
 }
 
@@ -70,13 +70,13 @@ HWND CWnd::UnsubclassWindow() {
     return Detach();
 }
 
-BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, int x, int y,
-                    int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam) {
+BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, int x,
+                    int y, int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam) {
     // A class of the framework's own takes the object with its first message, others are subclassed after.
     CThreadWindows& windows = CThreadWindows::Get();
     windows.m_pCreating = this;
-    const HWND hWnd = ::CreateWindowEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, x, y, nWidth, nHeight,
-                                       hWndParent, nIDorHMenu, AfxGetInstanceHandle(), lpParam);
+    const HWND hWnd = ::CreateWindowEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, x, y, nWidth,
+                                       nHeight, hWndParent, nIDorHMenu, AfxGetInstanceHandle(), lpParam);
     const BOOL bWaiting = windows.TakeCreated() != nullptr;
     if (hWnd == nullptr) CThreadWindows::DropIfUnused();
     return hWnd != nullptr && (!bWaiting || SubclassWindow(hWnd));
@@ -92,7 +92,8 @@ BOOL CWnd::DestroyWindow() {
 
 LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackground, HICON hIcon) {
     TCHAR(&szName)[96] = CThreadWindows::Get().m_szClassName;
-    wsprintf(szName, _T("Afx:%p:%x:%p:%p:%p"), AfxGetInstanceHandle(), nClassStyle, hCursor, hbrBackground, hIcon);
+    wsprintf(szName, _T("Afx:%p:%x:%p:%p:%p"), AfxGetInstanceHandle(), nClassStyle, hCursor, hbrBackground,
+             hIcon);
     WNDCLASS wndClass = {};
     if (!GetClassInfo(AfxGetInstanceHandle(), szName, &wndClass)) {
         wndClass.style = nClassStyle;

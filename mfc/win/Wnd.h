@@ -2,7 +2,7 @@
 #pragma once
 
 #include "win/CmdTarget.h"
-#include "win/Gdi.h"
+#include "win/DC.h"
 #include "win/WinExceptions.h"
 
 class CDataExchange;
@@ -42,8 +42,8 @@ public:
     BOOL SubclassDlgItem(UINT nID, CWnd* pParent);
     HWND UnsubclassWindow();
 
-    virtual BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, int x,
-                          int y, int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu,
+    virtual BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,
+                          int x, int y, int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu,
                           LPVOID lpParam = nullptr);
     virtual BOOL DestroyWindow();
 
@@ -51,22 +51,13 @@ public:
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
 
     DWORD GetStyle() const;
-    DWORD GetExStyle() const;
-    BOOL ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
     void SetWindowText(LPCTSTR lpszString);
-    int GetWindowText(LPTSTR lpszStringBuf, int nMaxCount) const; // nMaxCount with the terminator
     void GetWindowText(CString& rString) const;
     int GetWindowTextLength() const;
-    CFont* GetFont() const;
-    void SetFont(CFont* pFont, BOOL bRedraw = TRUE);
 
-    void MoveWindow(LPCRECT lpRect, BOOL bRepaint = TRUE);
-    void MoveWindow(int x, int y, int nWidth, int nHeight, BOOL bRepaint = TRUE);
     BOOL SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags);
     void GetWindowRect(LPRECT lpRect) const;
     void GetClientRect(LPRECT lpRect) const;
-    void ScreenToClient(LPRECT lpRect) const;
-    void ClientToScreen(LPRECT lpRect) const;
     // Over the alternate owner, else over the owner, else on the work area of the screen; a child within
     // its parent. Never beyond the edges of the screen.
     void CenterWindow(CWnd* pAlternateOwner = nullptr);
@@ -75,33 +66,21 @@ public:
     BOOL EnableWindow(BOOL bEnable = TRUE);
     BOOL IsWindowEnabled() const;
     void Invalidate(BOOL bErase = TRUE);
-    void InvalidateRect(LPCRECT lpRect, BOOL bErase = TRUE);
     void UpdateWindow();
 
-    UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse, void(CALLBACK* lpfnTimer)(HWND, UINT, UINT_PTR, DWORD));
+    UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse,
+                      void(CALLBACK* lpfnTimer)(HWND, UINT, UINT_PTR, DWORD));
     BOOL KillTimer(UINT_PTR nIDEvent);
     int MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption = nullptr, UINT nType = MB_OK);
 
     static CWnd* PASCAL GetFocus();
     CWnd* SetFocus();
-    static CWnd* PASCAL GetActiveWindow();
-    CWnd* SetActiveWindow();
-    BOOL SetForegroundWindow();
-    static CWnd* PASCAL GetDesktopWindow();
     CWnd* GetParent() const;
-    CWnd* GetWindow(UINT nCmd) const;
 
     int GetDlgCtrlID() const;
     CWnd* GetDlgItem(int nID) const;
-    void GetDlgItem(int nID, HWND* phWnd) const;
-    int GetDlgItemText(int nID, LPTSTR lpStr, int nMaxCount) const;
     int GetDlgItemText(int nID, CString& rString) const;
     void SetDlgItemText(int nID, LPCTSTR lpszString);
-    UINT GetDlgItemInt(int nID, BOOL* lpTrans = nullptr, BOOL bSigned = TRUE) const;
-    void SetDlgItemInt(int nID, UINT nValue, BOOL bSigned = TRUE);
-    void CheckDlgButton(int nIDButton, UINT nCheck);
-    UINT IsDlgButtonChecked(int nIDButton) const;
-    LRESULT SendDlgItemMessage(int nID, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
     // Runs DoDataExchange; FALSE when it failed.
     BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
@@ -138,7 +117,6 @@ protected:
     BOOL ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     static BOOL PASCAL ReflectLastMsg(HWND hWndChild, LRESULT* pResult = nullptr);
 
-    afx_msg void OnClose();
     afx_msg void OnDestroy();
     afx_msg void OnNcDestroy();
     afx_msg void OnPaint();
@@ -167,8 +145,5 @@ static_assert(offsetof(CWnd, m_hWnd) == 0x40 && sizeof(CWnd) <= 0xE8, "CWnd lies
 LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
 // Registers a window class of this module with such a look unless it is there already. The name is good
 // until the thread's next call. Throws CResourceException.
-LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = nullptr, HBRUSH hbrBackground = nullptr,
-                                   HICON hIcon = nullptr);
-// Fetches and dispatches one message; FALSE for WM_QUIT.
-BOOL AFXAPI AfxPumpMessage();
-BOOL AFXAPI AfxPreTranslateMessage(MSG* pMsg);
+LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = nullptr,
+                                   HBRUSH hbrBackground = nullptr, HICON hIcon = nullptr);

@@ -13,42 +13,18 @@ DWORD CWnd::GetStyle() const {
     return static_cast<DWORD>(::GetWindowLongPtr(m_hWnd, GWL_STYLE));
 }
 
-DWORD CWnd::GetExStyle() const {
-    return static_cast<DWORD>(::GetWindowLongPtr(m_hWnd, GWL_EXSTYLE));
-}
-
 void CWnd::SetWindowText(LPCTSTR lpszString) {
     ::SetWindowText(m_hWnd, lpszString);
 }
 
-int CWnd::GetWindowText(LPTSTR lpszStringBuf, int nMaxCount) const {
-    return ::GetWindowText(m_hWnd, lpszStringBuf, nMaxCount);
-}
-
 void CWnd::GetWindowText(CString& rString) const {
     const int nLength = ::GetWindowTextLength(m_hWnd);
-    ::GetWindowText(m_hWnd, rString.GetBuffer(nLength), nLength + 1);
-    rString.ReleaseBuffer();
+    const int nCopied = ::GetWindowText(m_hWnd, rString.GetBuffer(nLength), nLength + 1);
+    rString.ReleaseBuffer(nCopied);
 }
 
 int CWnd::GetWindowTextLength() const {
     return ::GetWindowTextLength(m_hWnd);
-}
-
-CFont* CWnd::GetFont() const {
-    return static_cast<CFont*>(CGdiObject::FromHandle(reinterpret_cast<HGDIOBJ>(SendMessage(WM_GETFONT))));
-}
-
-void CWnd::SetFont(CFont* pFont, BOOL bRedraw) {
-    SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(pFont->GetSafeHandle()), bRedraw);
-}
-
-void CWnd::MoveWindow(LPCRECT lpRect, BOOL bRepaint) {
-    MoveWindow(lpRect->left, lpRect->top, lpRect->right - lpRect->left, lpRect->bottom - lpRect->top, bRepaint);
-}
-
-void CWnd::MoveWindow(int x, int y, int nWidth, int nHeight, BOOL bRepaint) {
-    ::MoveWindow(m_hWnd, x, y, nWidth, nHeight, bRepaint);
 }
 
 BOOL CWnd::SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags) {
@@ -61,14 +37,6 @@ void CWnd::GetWindowRect(LPRECT lpRect) const {
 
 void CWnd::GetClientRect(LPRECT lpRect) const {
     ::GetClientRect(m_hWnd, lpRect);
-}
-
-void CWnd::ScreenToClient(LPRECT lpRect) const {
-    ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<POINT*>(lpRect), 2);
-}
-
-void CWnd::ClientToScreen(LPRECT lpRect) const {
-    ::MapWindowPoints(m_hWnd, nullptr, reinterpret_cast<POINT*>(lpRect), 2);
 }
 
 BOOL CWnd::ShowWindow(int nCmdShow) {
@@ -91,15 +59,12 @@ void CWnd::Invalidate(BOOL bErase) {
     ::InvalidateRect(m_hWnd, nullptr, bErase);
 }
 
-void CWnd::InvalidateRect(LPCRECT lpRect, BOOL bErase) {
-    ::InvalidateRect(m_hWnd, lpRect, bErase);
-}
-
 void CWnd::UpdateWindow() {
     ::UpdateWindow(m_hWnd);
 }
 
-UINT_PTR CWnd::SetTimer(UINT_PTR nIDEvent, UINT nElapse, void(CALLBACK* lpfnTimer)(HWND, UINT, UINT_PTR, DWORD)) {
+UINT_PTR CWnd::SetTimer(UINT_PTR nIDEvent, UINT nElapse,
+                        void(CALLBACK* lpfnTimer)(HWND, UINT, UINT_PTR, DWORD)) {
     return ::SetTimer(m_hWnd, nIDEvent, nElapse, lpfnTimer);
 }
 
@@ -108,7 +73,9 @@ BOOL CWnd::KillTimer(UINT_PTR nIDEvent) {
 }
 
 int CWnd::MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption, UINT nType) {
-    return ::MessageBox(GetSafeHwnd(), lpszText, lpszCaption != nullptr ? lpszCaption : AfxGetAppName(), nType);
+    const CWinApp* pApp = AfxGetApp();
+    if (lpszCaption == nullptr && pApp != nullptr) lpszCaption = pApp->m_pszAppName;
+    return ::MessageBox(GetSafeHwnd(), lpszText, lpszCaption, nType);
 }
 
 CWnd* PASCAL CWnd::GetFocus() {
@@ -119,28 +86,8 @@ CWnd* CWnd::SetFocus() {
     return FromHandle(::SetFocus(m_hWnd));
 }
 
-CWnd* PASCAL CWnd::GetActiveWindow() {
-    return FromHandle(::GetActiveWindow());
-}
-
-CWnd* CWnd::SetActiveWindow() {
-    return FromHandle(::SetActiveWindow(m_hWnd));
-}
-
-BOOL CWnd::SetForegroundWindow() {
-    return ::SetForegroundWindow(m_hWnd);
-}
-
-CWnd* PASCAL CWnd::GetDesktopWindow() {
-    return FromHandle(::GetDesktopWindow());
-}
-
 CWnd* CWnd::GetParent() const {
     return FromHandle(::GetParent(m_hWnd));
-}
-
-CWnd* CWnd::GetWindow(UINT nCmd) const {
-    return FromHandle(::GetWindow(m_hWnd, nCmd));
 }
 
 int CWnd::GetDlgCtrlID() const {
@@ -151,42 +98,12 @@ CWnd* CWnd::GetDlgItem(int nID) const {
     return FromHandle(::GetDlgItem(m_hWnd, nID));
 }
 
-void CWnd::GetDlgItem(int nID, HWND* phWnd) const {
-    *phWnd = ::GetDlgItem(m_hWnd, nID);
-}
-
-int CWnd::GetDlgItemText(int nID, LPTSTR lpStr, int nMaxCount) const {
-    return static_cast<int>(::GetDlgItemText(m_hWnd, nID, lpStr, nMaxCount));
-}
-
 int CWnd::GetDlgItemText(int nID, CString& rString) const {
-    const HWND hWndControl = ::GetDlgItem(m_hWnd, nID);
-    const int nLength = hWndControl != nullptr ? ::GetWindowTextLength(hWndControl) : 0;
-    ::GetWindowText(hWndControl, rString.GetBuffer(nLength), nLength + 1);
-    rString.ReleaseBuffer(hWndControl != nullptr ? -1 : 0);
+    rString.Empty();
+    if (const CWnd* pControl = GetDlgItem(nID)) pControl->GetWindowText(rString);
     return rString.GetLength();
 }
 
 void CWnd::SetDlgItemText(int nID, LPCTSTR lpszString) {
     ::SetDlgItemText(m_hWnd, nID, lpszString);
-}
-
-UINT CWnd::GetDlgItemInt(int nID, BOOL* lpTrans, BOOL bSigned) const {
-    return ::GetDlgItemInt(m_hWnd, nID, lpTrans, bSigned);
-}
-
-void CWnd::SetDlgItemInt(int nID, UINT nValue, BOOL bSigned) {
-    ::SetDlgItemInt(m_hWnd, nID, nValue, bSigned);
-}
-
-void CWnd::CheckDlgButton(int nIDButton, UINT nCheck) {
-    ::CheckDlgButton(m_hWnd, nIDButton, nCheck);
-}
-
-UINT CWnd::IsDlgButtonChecked(int nIDButton) const {
-    return ::IsDlgButtonChecked(m_hWnd, nIDButton);
-}
-
-LRESULT CWnd::SendDlgItemMessage(int nID, UINT message, WPARAM wParam, LPARAM lParam) {
-    return ::SendDlgItemMessage(m_hWnd, nID, message, wParam, lParam);
 }

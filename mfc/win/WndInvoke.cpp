@@ -124,8 +124,8 @@ void CWnd::InvokeHelperV(DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRe
     std::vector<_variant_t> arguments = CollectArguments(pbParamInfo, argList);
     DISPID dispidPut = DISPID_PROPERTYPUT;
     const bool bPut = (wFlags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
-    DISPPARAMS parameters = {arguments.data(), bPut ? &dispidPut : nullptr, static_cast<UINT>(arguments.size()),
-                             bPut ? 1u : 0u};
+    DISPPARAMS parameters = {arguments.data(), bPut ? &dispidPut : nullptr,
+                             static_cast<UINT>(arguments.size()), bPut ? 1u : 0u};
     _variant_t result;
     EXCEPINFO info = {};
     hr = dispatch->Invoke(dwDispID, IID_NULL, LOCALE_USER_DEFAULT, wFlags, &parameters,
@@ -144,8 +144,8 @@ void AFX_CDECL CWnd::InvokeHelper(DISPID dwDispID, WORD wFlags, VARTYPE vtRet, v
 }
 
 void AFX_CDECL CWnd::SetProperty(DISPID dwDispID, VARTYPE vtProp, ...) {
-    const BYTE types[] = {
-        static_cast<BYTE>(vtProp & VT_BYREF ? (vtProp & ~VT_BYREF) | byReference : vtProp), 0};
+    const BYTE types[] = {static_cast<BYTE>(vtProp & VT_BYREF ? (vtProp & ~VT_BYREF) | byReference : vtProp),
+                          0};
     va_list argList;
 #ifdef __clang__
 #pragma clang diagnostic push

@@ -3,34 +3,39 @@
 
 #include <algorithm>
 
+namespace {
+
 // As in a window procedure, a failing handler has dealt with its message.
-BOOL AFXAPI AfxPreTranslateMessage(MSG* pMsg) {
+bool PreTranslate(MSG* pMsg) {
     try {
         for (HWND hWnd = pMsg->hwnd; hWnd != nullptr; hWnd = ::GetParent(hWnd)) {
             CWnd* pWnd = CWnd::FromHandlePermanent(hWnd);
-            if (pWnd != nullptr && pWnd->PreTranslateMessage(pMsg)) return TRUE;
+            if (pWnd != nullptr && pWnd->PreTranslateMessage(pMsg)) return true;
         }
-        return FALSE;
+        return false;
     } catch (CException* e) {
         e->Delete();
     } catch (...) {
     }
-    return TRUE;
+    return true;
 }
 
-BOOL AFXAPI AfxPumpMessage() {
+// Fetches and dispatches one message; false for WM_QUIT.
+bool PumpMessage() {
     MSG msg = {};
     if (::GetMessage(&msg, nullptr, 0, 0) <= 0) {
         // The loop further out has to end too, and its caller wants the exit code.
         ::PostQuitMessage(static_cast<int>(msg.wParam));
-        return FALSE;
+        return false;
     }
-    if (!AfxPreTranslateMessage(&msg)) {
+    if (!PreTranslate(&msg)) {
         ::TranslateMessage(&msg);
         ::DispatchMessage(&msg);
     }
-    return TRUE;
+    return true;
 }
+
+} // namespace
 
 BOOL CWnd::PreTranslateMessage(MSG*) {
     return FALSE;
@@ -50,13 +55,14 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
         UpdateWindow();
     }
     const HWND hWndParent = ::GetParent(m_hWnd);
-    const bool bTellParent = hWndParent != nullptr && !(dwFlags & MLF_NOIDLEMSG) && !(GetStyle() & DS_NOIDLEMSG);
+    const bool bTellParent =
+        hWndParent != nullptr && !(dwFlags & MLF_NOIDLEMSG) && !(GetStyle() & DS_NOIDLEMSG);
     bool bIdleDone = false;
     while (ContinueModal()) {
         MSG msg;
         if (::PeekMessage(&msg, nullptr, 0, 0, PM_NOREMOVE)) {
             bIdleDone = false;
-            if (!AfxPumpMessage()) EndModalLoop(-1);
+            if (!PumpMessage()) EndModalLoop(-1);
         } else if (!bIdleDone) {
             bIdleDone = true;
             loop.Idle();

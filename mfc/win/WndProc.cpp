@@ -2,9 +2,9 @@
 #include "win/ThreadWindows.h"
 
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
-    ON_WM_NCDESTROY()
-    ON_WM_DRAWITEM()
-    ON_WM_MEASUREITEM()
+ON_WM_NCDESTROY()
+ON_WM_DRAWITEM()
+ON_WM_MEASUREITEM()
 END_MESSAGE_MAP()
 
 namespace {
@@ -29,6 +29,15 @@ CWnd* FindOrAttachCreated(HWND hWnd) {
     return pWnd;
 }
 
+bool IsOnTop(HWND hWnd) {
+    return ::GetWindowLongPtr(hWnd, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(&AfxWndProc);
+}
+
+WNDPROC PutOnTop(HWND hWnd) {
+    return reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtr(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc)));
+}
+
 } // namespace
 
 LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) {
@@ -36,7 +45,8 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) 
     try {
         const CMessageInProgress progress(hWnd, nMsg, wParam, lParam);
         CWnd* pWnd = FindOrAttachCreated(hWnd);
-        return pWnd != nullptr ? pWnd->WindowProc(nMsg, wParam, lParam) : ::DefWindowProc(hWnd, nMsg, wParam, lParam);
+        return pWnd != nullptr ? pWnd->WindowProc(nMsg, wParam, lParam)
+                               : ::DefWindowProc(hWnd, nMsg, wParam, lParam);
     } catch (CException* e) {
         e->Delete();
     } catch (...) {
@@ -50,8 +60,14 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    return m_pfnSuper != nullptr ? ::CallWindowProc(m_pfnSuper, m_hWnd, message, wParam, lParam)
-                                 : ::DefWindowProc(m_hWnd, message, wParam, lParam);
+    if (m_pfnSuper == nullptr) return ::DefWindowProc(m_hWnd, message, wParam, lParam);
+    const HWND hWnd = m_hWnd;
+    const bool bOnTop = IsOnTop(hWnd);
+    const LRESULT lResult = ::CallWindowProc(m_pfnSuper, hWnd, message, wParam, lParam);
+    // Wine's host of ActiveX controls ends by putting back the procedure that it found, and so takes ours out
+    // before the window's last message.
+    if (message == WM_DESTROY && bOnTop && m_hWnd == hWnd && !IsOnTop(hWnd)) m_pfnSuper = PutOnTop(hWnd);
+    return lResult;
 }
 
 LRESULT CWnd::Default() {
@@ -109,10 +125,6 @@ void CWnd::OnMeasureItem(int, LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
     if (lpMeasureItemStruct->CtlType != ODT_MENU &&
         ReflectLastMsg(::GetDlgItem(m_hWnd, static_cast<int>(lpMeasureItemStruct->CtlID))))
         return;
-    Default();
-}
-
-void CWnd::OnClose() {
     Default();
 }
 

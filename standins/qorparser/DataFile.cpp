@@ -28,18 +28,17 @@ bool IsProperty(const XmlElement& element) {
            element.children.empty();
 }
 
-bool IsLocalObject(const XmlElement& element) {
-    if (!IsElement(element, L"local", {})) return false;
-    for (const XmlElement& child : element.children)
-        if (!IsProperty(child)) return false;
+// Whether the element's children are properties and at most `locals` local objects.
+bool HasProperties(const XmlElement& element, int locals) {
+    for (const XmlElement& child : element.children) {
+        if (IsProperty(child)) continue;
+        if (child.name != L"local" || --locals < 0 || !HasProperties(child, 0)) return false;
+    }
     return true;
 }
 
 bool IsEntry(const XmlElement& element) {
-    if (!IsElement(element, L"obj", {L"type", L"state"})) return false;
-    for (const XmlElement& child : element.children)
-        if (!IsProperty(child) && !IsLocalObject(child)) return false;
-    return true;
+    return IsElement(element, L"obj", {L"type", L"state"}) && HasProperties(element, 1);
 }
 
 void ReadProperties(const XmlElement& element, IQORDataObject* object) {

@@ -60,8 +60,9 @@ void CopyAttributes(IXMLDOMElement* element, XmlElement& copy) {
     }
 }
 
-void CopyElement(IXMLDOMElement* element, XmlElement& copy, int depth) {
-    if (depth > kMaxDepth) _com_issue_error(E_INVALIDARG);
+// False for elements nested too deeply for a model file.
+bool CopyElement(IXMLDOMElement* element, XmlElement& copy, int depth) {
+    if (depth > kMaxDepth) return false;
     _bstr_t name;
     CheckError(element->get_nodeName(name.GetAddress()));
     copy.name = TextOf(name);
@@ -70,11 +71,12 @@ void CopyElement(IXMLDOMElement* element, XmlElement& copy, int depth) {
     CheckError(element->get_firstChild(&node));
     while (node) {
         const ElementPtr child(node);
-        if (child) CopyElement(child, copy.children.emplace_back(), depth + 1);
+        if (child && !CopyElement(child, copy.children.emplace_back(), depth + 1)) return false;
         NodePtr next;
         CheckError(node->get_nextSibling(&next));
         node = next;
     }
+    return true;
 }
 
 DocumentPtr NewDocument() {
@@ -126,8 +128,7 @@ std::shared_ptr<const XmlElement> LoadXmlFile(const wchar_t* file) {
     CheckError(document->get_documentElement(&root));
     if (!root) return nullptr;
     auto tree = std::make_shared<XmlElement>();
-    CopyElement(root, *tree, 0);
-    return tree;
+    return CopyElement(root, *tree, 0) ? tree : nullptr;
 }
 
 bool IsXmlText(std::wstring_view text) {

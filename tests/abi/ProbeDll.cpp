@@ -1,6 +1,5 @@
 // A DLL that tells in which order its static objects come and go.
 #include <windows.h>
-#include <stdexcept>
 
 namespace {
 
@@ -31,9 +30,5 @@ __declspec(dllexport) int ProbeOrder(void (*onDestruction)(int)) {
 
 __declspec(dllexport) int ProbeThreadValue(int added) {
     return t_value += added;
-}
-
-__declspec(dllexport) void ProbeThrow() {
-    throw std::runtime_error("from the probe");
 }
 }

@@ -91,7 +91,7 @@ TEST_P(TransferDlg, AFailureInTheMiddle_IsToldAtTheEnd) {
     const auto* first = AddFile(L"a.dwg");
     const auto* second = AddFile(L"b&b.dwg");
     const auto* third = AddFile(L"三.dwg");
-    SetFault(&variant == &kDownload ? L"DownloadFail" : L"UploadFail", L"2");
+    SetFault(&variant == &kDownload ? L"DownloadFailNames" : L"UploadFailNames", L"b&b.dwg");
     EXPECT_EQ(4, Transfer(variant));
     EXPECT_EQ((std::vector<long>{1, 2, 1}),
               (std::vector<long>{first->m_nState, second->m_nState, third->m_nState}));

@@ -1,4 +1,4 @@
-// A string manager as another module would bring it: its buffers are told apart and counted.
+// A string manager as another module would bring it, which counts its buffers.
 #pragma once
 #include <afxstr.h>
 
@@ -19,16 +19,19 @@ public:
         ++m_live;
         return data;
     }
+    // Memory given back is overwritten, and growing always moves, so that a use of old memory shows.
     void Free(ATL::CStringData* data) override {
         --m_live;
+        wmemset(static_cast<wchar_t*>(data->data()), L'?', data->nAllocLength);
         free(data);
     }
     ATL::CStringData* Reallocate(ATL::CStringData* data, int nChars, int nCharSize) override {
-        if (m_empty) return nullptr;
-        data = static_cast<ATL::CStringData*>(
-            realloc(data, sizeof(ATL::CStringData) + (nChars + 1) * nCharSize));
-        data->nAllocLength = nChars;
-        return data;
+        ATL::CStringData* grown = Allocate(nChars, nCharSize);
+        if (grown == nullptr) return nullptr;
+        grown->nDataLength = data->nDataLength;
+        memcpy(grown->data(), data->data(), (data->nDataLength + 1) * nCharSize);
+        Free(data);
+        return grown;
     }
     ATL::CStringData* GetNilString() override {
         m_nil.data.AddRef();

@@ -20,7 +20,7 @@ void PressKey(CWnd& wnd, WPARAM key) {
 TEST(Dialog, MessageMap_ReachesEachHandler) {
     CScriptedDialog dialog;
     int nClicks = 0;
-    dialog.m_script = [](CScriptedDialog& d) { d.SendDlgItemMessage(IDC_PRESS, BM_CLICK); };
+    dialog.m_script = [](CScriptedDialog& d) { d.GetDlgItem(IDC_PRESS)->SendMessage(BM_CLICK); };
     dialog.m_click = [&](CScriptedDialog& d) {
         ++nClicks;
         d.SetTimer(1, 10, nullptr);
@@ -52,8 +52,8 @@ TEST(Dialog, EndedInInit_IsNeverShown) {
 TEST(Dialog, Owner_IsDisabledWhileTheDialogRuns) {
     HostWindow host;
     CWnd child; // a child window as parent stands for its top-level window
-    child.Attach(::CreateWindowEx(0, _T("STATIC"), nullptr, WS_CHILD, 0, 0, 9, 9, *host.Window(), nullptr, nullptr,
-                                  nullptr));
+    child.Attach(::CreateWindowEx(0, _T("STATIC"), nullptr, WS_CHILD, 0, 0, 9, 9, *host.Window(), nullptr,
+                                  nullptr, nullptr));
     CScriptedDialog dialog(IDD_PLAIN, &child);
     BOOL bEnabled = TRUE;
     HWND hOwner = nullptr;
@@ -126,7 +126,9 @@ TEST(Dialog, OpensCentredOverItsOwner) {
     EXPECT_NEAR(owner.CenterPoint().x, rect.CenterPoint().x, 1);
     EXPECT_NEAR(owner.CenterPoint().y, rect.CenterPoint().y, 1);
 
-    dialog.m_init = [](CScriptedDialog& d) { d.SetWindowPos(nullptr, 3, 4, 0, 0, SWP_NOSIZE | SWP_NOZORDER); };
+    dialog.m_init = [](CScriptedDialog& d) {
+        d.SetWindowPos(nullptr, 3, 4, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    };
     dialog.DoModal();
     EXPECT_EQ(CPoint(3, 4), rect.TopLeft()) << "a dialog that placed itself stays there";
 }
@@ -141,7 +143,8 @@ TEST(Dialog, DestroyedOrQuit_EndsWithoutResult) {
     dialog.m_script = [](CScriptedDialog&) { ::PostQuitMessage(12); };
     EXPECT_EQ(-1, dialog.DoModal());
     MSG msg = {};
-    ASSERT_TRUE(::PeekMessage(&msg, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) << "it is for the program's own loop";
+    ASSERT_TRUE(::PeekMessage(&msg, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE))
+        << "it is for the program's own loop";
     EXPECT_EQ(12u, msg.wParam);
 
     EXPECT_EQ(-1, CScriptedDialog(999, host).DoModal()) << "no such template";
@@ -168,7 +171,7 @@ public:
     CEdit m_name;
     CDateTimeCtrl m_date;
     CProgressCtrl m_progress;
-    CString m_strName = _T("first");
+    CString m_strName;
     int m_nMissing = 0;
 
 protected:
@@ -177,8 +180,11 @@ protected:
         DDX_Control(pDX, IDC_NAME, m_name);
         DDX_Control(pDX, IDC_DATE, m_date);
         DDX_Control(pDX, IDC_PROGRESS, m_progress);
-        DDX_Text(pDX, IDC_NAME, m_strName);
-        if (m_nMissing != 0) DDX_Text(pDX, m_nMissing, m_strName);
+        if (pDX->m_bSaveAndValidate)
+            m_name.GetWindowText(m_strName);
+        else
+            pDX->m_pDlgWnd->SetDlgItemText(IDC_NAME, m_strName);
+        if (m_nMissing != 0) pDX->PrepareCtrl(m_nMissing);
     }
 };
 
@@ -201,6 +207,8 @@ TEST(Dialog, DataExchange_BothWays) {
     }
 
     dialog.m_script = [&](CScriptedDialog& d) {
+        CString text = _T("old");
+        EXPECT_EQ(0, d.GetDlgItemText(4711, text));
         dialog.m_nMissing = 4711;
         EXPECT_FALSE(d.UpdateData());
         d.SendMessage(WM_COMMAND, IDOK); // refused
@@ -208,6 +216,8 @@ TEST(Dialog, DataExchange_BothWays) {
         d.EndDialog(8);
     };
     EXPECT_EQ(8, dialog.DoModal());
+    EXPECT_EQ(-1, dialog.DoModal()) << "it cannot start without its controls";
+    EXPECT_EQ(nullptr, dialog.m_name.m_hWnd);
 }
 
 TEST(Dialog, CommonControls_KeepTheirValues) {

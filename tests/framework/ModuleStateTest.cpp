@@ -1,20 +1,7 @@
-// Module state per thread, and run-time classes.
+// Module state per thread.
 #include <afx.h>
 #include <gtest/gtest.h>
 #include <thread>
-
-namespace {
-
-class Plain : public CObject {
-    DECLARE_DYNAMIC(Plain)
-};
-class Derived : public Plain {
-    DECLARE_DYNAMIC(Derived)
-};
-IMPLEMENT_DYNAMIC(Plain, CObject)
-IMPLEMENT_DYNAMIC(Derived, Plain)
-
-} // namespace
 
 TEST(ModuleState, ScopesNestAndEndWithExceptions) {
     AFX_MODULE_STATE outer = {nullptr, GetModuleHandleW(L"user32.dll"), GetModuleHandleW(L"user32.dll")};
@@ -43,12 +30,4 @@ TEST(ModuleState, EachThreadHasItsOwn) {
     std::thread([&] { seenByOther = AfxGetModuleState(); }).join();
     EXPECT_EQ(seenByOther, AfxGetStaticModuleState());
     EXPECT_EQ(AfxGetModuleState(), &mine);
-}
-
-TEST(RuntimeClass, KnowsItsBases) {
-    const Derived object;
-    EXPECT_STREQ(object.GetRuntimeClass()->m_lpszClassName, "Derived");
-    EXPECT_TRUE(object.IsKindOf(RUNTIME_CLASS(Derived)) && object.IsKindOf(RUNTIME_CLASS(CObject)));
-    EXPECT_FALSE(Plain().IsKindOf(RUNTIME_CLASS(Derived)));
-    EXPECT_FALSE(object.IsKindOf(RUNTIME_CLASS(CException)));
 }

@@ -9,7 +9,8 @@
 namespace {
 
 // What the call throws: the status of a COleException, else S_OK.
-template <class TCall> SCODE ThrownStatus(TCall call) {
+template <class TCall>
+SCODE ThrownStatus(TCall call) {
     try {
         call();
     } catch (COleException* e) {
@@ -50,7 +51,8 @@ TEST_F(OleControl, Unregistered_LeavesAnEmptyPlace) {
         control.GetClientRect(place);
         EXPECT_GT(place.Width(), 50);
         const HWND hBefore = ::GetDlgItem(*pDialog, IDC_BEFORE);
-        EXPECT_EQ(control.m_hWnd, ::GetNextDlgTabItem(*pDialog, hBefore, FALSE)) << "the tab order is the template's";
+        EXPECT_EQ(control.m_hWnd, ::GetNextDlgTabItem(*pDialog, hBefore, FALSE))
+            << "the tab order is the template's";
         EXPECT_EQ(nullptr, pDialog->GetControlUnknown()) << "a plain window";
     });
 }
@@ -80,7 +82,9 @@ TEST_F(OleControl, Members_AreCalledByIdentifier) {
 TEST_F(OleControl, Failures_AreExceptions) {
     const FakeControlClass registered;
     Run(IDC_FAKE_CONTROL, [](CWnd& control) {
-        const auto call = [&](DISPID member) { control.InvokeHelper(member, DISPATCH_METHOD, VT_EMPTY, nullptr, nullptr); };
+        const auto call = [&](DISPID member) {
+            control.InvokeHelper(member, DISPATCH_METHOD, VT_EMPTY, nullptr, nullptr);
+        };
         EXPECT_EQ(DISP_E_MEMBERNOTFOUND, ThrownStatus([&] { call(99); }));
         CString text;
         EXPECT_EQ(DISP_E_TYPEMISMATCH, ThrownStatus([&] {

@@ -17,7 +17,8 @@ class CScriptedDialog : public CDialog {
 public:
     using Script = std::function<void(CScriptedDialog&)>;
 
-    explicit CScriptedDialog(UINT nIDTemplate = IDD_PLAIN, CWnd* pParent = nullptr) : CDialog(nIDTemplate, pParent) {}
+    explicit CScriptedDialog(UINT nIDTemplate = IDD_PLAIN, CWnd* pParent = nullptr)
+        : CDialog(nIDTemplate, pParent) {}
 
     Script m_init;           // in OnInitDialog
     Script m_script;         // once, in the modal loop

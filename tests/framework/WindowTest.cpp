@@ -33,9 +33,9 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(CEchoEdit, CEdit)
-    ON_MESSAGE(WM_ECHO, &CEchoEdit::OnEcho)
-    ON_MESSAGE(WM_FAIL, &CEchoEdit::OnFail)
-    ON_MESSAGE(WM_FAIL_HARD, &CEchoEdit::OnFailHard)
+ON_MESSAGE(WM_ECHO, &CEchoEdit::OnEcho)
+ON_MESSAGE(WM_FAIL, &CEchoEdit::OnFail)
+ON_MESSAGE(WM_FAIL_HARD, &CEchoEdit::OnFailHard)
 END_MESSAGE_MAP()
 
 HWND NewEdit() {

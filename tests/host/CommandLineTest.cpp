@@ -73,6 +73,7 @@ TEST_F(CommandLineTest, MessageFile_IsReadInEveryEncoding) {
         Utf16(declared(L"UTF-16"), false, false),
         Gbk(declared(L"GBK")),
         Gbk(declared(L"gb2312")),
+        Gbk(declared(L"GB18030")),
     };
     for (size_t i = 0; i < files.size(); ++i) {
         WriteBytes(Message(), files[i]);
@@ -157,9 +158,12 @@ TEST_F(CommandLineTest, Status_TellsTagsAndChanges) {
 TEST_F(CommandLineTest, Sign_WalksThroughItsDialogsUnattended) {
     Prepare({{L"a.dwg"}});
     const fs::path pictures = m_folder / L"pictures";
+    bool shown = false;
     const HostResult result =
         RunHost({L"sign", L"--message", Message().wstring(), L"--vault", Vault().wstring(), L"--work",
-                 Work().wstring(), L"--pictures", pictures.wstring(), L"--auto", L"--keep-log"});
+                 Work().wstring(), L"--pictures", pictures.wstring(), L"--auto", L"--keep-log"},
+                [&](DWORD process) { shown = shown || VisibleWindows(process) > 0; });
+    EXPECT_TRUE(shown);
     EXPECT_EQ(0u, result.exitCode) << result.Text();
     EXPECT_TRUE(result.Said("a.dwg: downloaded, signed, uploaded")) << result.Text();
     EXPECT_EQ(1, SignCalls("Sign", "\twang\t校对\t"));

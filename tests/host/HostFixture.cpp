@@ -110,12 +110,12 @@ int HostTest::SignCalls(const char* call, const std::string& containing) const {
     return CountLines(m_folder / L"sign.log", call, containing);
 }
 
-std::string HostTest::ServerLog() const {
-    std::string log;
-    if (!fs::exists(Vault() / L"signlog")) return log;
+bool HostTest::ServerLogged(const std::string& id) const {
+    if (!fs::exists(Vault() / L"signlog")) return false;
     for (const auto& entry : fs::directory_iterator(Vault() / L"signlog"))
-        log += ReadBytes(entry.path());
-    return log;
+        if (ReadBytes(entry.path()).find("name=\"QORMFILEID\" value=\"" + id + "\"") != std::string::npos)
+            return true;
+    return false;
 }
 
 std::string HostTest::Snapshot() const {

@@ -47,8 +47,8 @@ protected:
     // Lines of a journal that name the call.
     int Calls(const char* call, const std::string& containing = "") const;
     int SignCalls(const char* call, const std::string& containing = "") const;
-    // Every sign record that the server got, one after the other.
-    std::string ServerLog() const;
+    // Whether a sign record that the server got has the document's identifier.
+    bool ServerLogged(const std::string& id) const;
     // Path, attributes and content of everything below the test's folder.
     std::string Snapshot() const;
 

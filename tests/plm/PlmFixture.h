@@ -40,13 +40,15 @@ inline std::wstring Message(const std::wstring& groups) {
     return L"<root><objs>" + groups + L"</objs></root>";
 }
 
-inline const std::wstring kLogin = Group(L"LoginInfo", Object({L"UserName=wang", L"Password=p", L"PLMServer=s"}));
+inline const std::wstring kLogin =
+    Group(L"LoginInfo", Object({L"UserName=wang", L"Password=p", L"PLMServer=s"}));
 inline const std::wstring kSteps = Group(L"step", Object({L"STEP=审核"}));
 
 // A message with the usual login and step and one document per name.
 inline std::wstring Documents(const std::vector<std::wstring>& names) {
     std::wstring objects;
-    for (const std::wstring& name : names) objects += Object({name});
+    for (const std::wstring& name : names)
+        objects += Object({name});
     return Message(kLogin + kSteps + Group(L"DOC", objects));
 }
 
@@ -65,7 +67,8 @@ inline std::wstring Described(const SSignType* type) {
         text += L"[";
         for (POSITION in = object->GetHeadPosition(); in;) {
             const SSignPro* property = object->GetNext(in);
-            text += std::wstring(property->m_strName) + L"=" + property->m_strValue.GetString() + (in ? L" " : L"");
+            text += std::wstring(property->m_strName) + L"=" + property->m_strValue.GetString() +
+                    (in ? L" " : L"");
         }
         text += L"]";
     }
@@ -80,7 +83,9 @@ struct Results {
             if (type != Unset<SSignType>()) Cmn_ReleaseSignType(type);
     }
     template <class Record>
-    static Record* Unset() { return reinterpret_cast<Record*>(1); }
+    static Record* Unset() {
+        return reinterpret_cast<Record*>(1);
+    }
     bool AllNull() const { return !login && !steps && !files; }
 
     SLoginInfo* login = Unset<SLoginInfo>();
@@ -93,7 +98,8 @@ protected:
     using Operation = long (CPLMInteract::*)(wchar_t*, wchar_t*, SLoginInfo**, SSignType**, SSignType**);
 
     long Call(Operation operation, const std::wstring& xml, Results& results) {
-        return (m_plm.*operation)(Text(xml), Text(m_folder.Text()), &results.login, &results.steps, &results.files);
+        return (m_plm.*operation)(Text(xml), Text(m_folder.Text()), &results.login, &results.steps,
+                                  &results.files);
     }
     long Read(const std::wstring& xml, Results& results) {
         return Call(&CPLMInteract::StartSignForBackSign, xml, results);

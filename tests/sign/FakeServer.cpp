@@ -52,12 +52,13 @@ struct FakeObject final : IDispatch {
 };
 
 FakeServer::FakeServer() {
+    GUID clsid = {};
     wchar_t text[40];
-    EXPECT_EQ(CoCreateGuid(&m_clsid), S_OK);
-    StringFromGUID2(m_clsid, text, 40);
+    CoCreateGuid(&clsid);
+    StringFromGUID2(clsid, text, 40);
     EXPECT_EQ(RegSetKeyValueW(HKEY_CLASSES_ROOT, (m_progID + L"\\CLSID").c_str(), nullptr, REG_SZ, text, 78),
               0);
-    EXPECT_EQ(CoRegisterClassObject(m_clsid, this, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &m_registration),
+    EXPECT_EQ(CoRegisterClassObject(clsid, this, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &m_registration),
               S_OK);
 }
 

@@ -17,7 +17,6 @@ public:
     ~FakeServer();
 
     std::wstring m_progID = L"VarnokeTest.Server" + std::to_wstring(GetCurrentProcessId());
-    CLSID m_clsid;
     bool m_automation = true;                 // false: objects refuse IDispatch
     std::map<std::wstring, DISPID> m_methods; // other names are unknown
     // Answers a call; without it S_OK and the integer 1.

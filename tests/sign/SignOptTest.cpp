@@ -1,6 +1,5 @@
 // Tests of the signing operations through the library's interface, against a server in this process.
 #include <afxwin.h>
-#include <optional>
 #include "sign/SignOpt.h"
 #include "tests/sign/FakeServer.h"
 #include "tests/support/MemoryUse.h"
@@ -23,8 +22,10 @@ protected:
              {L"Login", L"Sign", L"SignatureDelete", L"DeleteAllSign", L"SignatureValidate",
               L"SignatureInvalidDelete", L"Test", L"CancelSign", L"Renamed"})
             m_server.m_methods[method] = ++id;
+        m_server.m_methods[L"Default"] = 0;
+        m_server.m_methods[L"Negative"] = -4;
         m_settings.Set(L"DynDisp", L"ProgID", m_server.m_progID.c_str());
-        EXPECT_EQ(m_opt->Initialize(nullptr), 1);
+        EXPECT_EQ(m_opt.Initialize(nullptr), 1);
         m_info.m_strFirstText = L"图号-1";
         m_info.m_strUserName = L"王工";
         m_info.m_strRole = L"校对";
@@ -42,7 +43,7 @@ protected:
 
     tests::SettingsFile m_settings;
     tests::FakeServer m_server;
-    std::optional<CSignOpt> m_opt{std::in_place};
+    CSignOpt m_opt;
     SSignInfo m_info;
     // The host's drawing is never touched: any use of this one would crash.
     IDispatch* const m_drawing = reinterpret_cast<IDispatch*>(0x1000);
@@ -50,19 +51,23 @@ protected:
     Text m_empty;
 };
 
-TEST_F(SignOpt, Lifecycle_ServerLivesFromInitializeToDestruction) {
-    EXPECT_EQ(m_opt->Logout() + m_opt->Uninitialize(), 2);
+TEST_F(SignOpt, Initialize_ReplacesTheServerOnlyBySomethingCreated) {
+    EXPECT_EQ(m_opt.Logout() + m_opt.Uninitialize(), 2);
     EXPECT_EQ(m_server.LastSeen(), L"") << "neither reaches the server";
-    m_opt.reset();
-    EXPECT_EQ(m_server.m_objects, 0);
     m_settings.Set(L"DynDisp", L"ProgID", L"No.Such.Server");
-    CSignOpt without;
-    EXPECT_EQ(without.Initialize(nullptr), 0);
-    EXPECT_EQ(without.Login(m_text, m_text, m_text) + without.Sign(m_drawing, &m_info), 0);
+    EXPECT_EQ(m_opt.Initialize(nullptr), 0);
+    EXPECT_EQ(m_opt.Test(m_text), 1) << "the old server stays";
+    m_settings.Set(L"DynDisp", L"ProgID", m_server.m_progID.c_str());
+    EXPECT_EQ(m_opt.Initialize(nullptr), 1);
+    EXPECT_EQ(m_server.m_objects, 1) << "the old server goes";
+    m_server.m_automation = false;
+    EXPECT_EQ(m_opt.Initialize(nullptr), 0);
+    EXPECT_EQ(m_server.m_objects, 0);
+    EXPECT_EQ(m_opt.Login(m_text, m_text, m_text) + m_opt.Sign(m_drawing, &m_info), 0);
 }
 
 TEST_F(SignOpt, Login_SendsTheMappedUserAndTheConfiguredAddress) {
-    const auto login = [this] { return m_opt->Login(m_text, m_empty, m_text); };
+    const auto login = [this] { return m_opt.Login(m_text, m_empty, m_text); };
     EXPECT_EQ(Seen(login), L"1(甲||127.0.0.1|8089)");
     m_settings.Set(L"SignServer", L"甲", L" jia.sign ");
     m_settings.Set(L"SignServer", L"ServerIP", L"10.0.0.1");
@@ -75,54 +80,51 @@ TEST_F(SignOpt, Operations_CallTheirMethodByItsConfiguredName) {
         std::function<long()> call;
     } kOperations[] = {
         {L"Sign", L"2", L"(图号-1||2015年|王工|校对|2|-12|32|-192|8|16|128|256)",
-         [&] { return m_opt->Sign(m_drawing, &m_info); }},
+         [&] { return m_opt.Sign(m_drawing, &m_info); }},
         {L"SignatureDelete", L"3", L"(图号-1|王工|校对)",
-         [&] { return m_opt->DeleteSignForBackSign(m_drawing, &m_info); }},
-        {L"DeleteAllSign", L"4", L"(甲)", [&] { return m_opt->DeleteAllSignForBackSign(m_drawing, m_text); }},
+         [&] { return m_opt.DeleteSignForBackSign(m_drawing, &m_info); }},
+        {L"DeleteAllSign", L"4", L"(甲)", [&] { return m_opt.DeleteAllSignForBackSign(m_drawing, m_text); }},
         {L"SignatureValidate", L"5", L"(甲)",
-         [&] { return m_opt->SignatureValidateForBackSign(m_drawing, m_text); }},
+         [&] { return m_opt.SignatureValidateForBackSign(m_drawing, m_text); }},
         {L"SignatureInvalidDelete", L"6", L"(甲)",
-         [&] { return m_opt->ClearInvalidSignForBackSign(m_drawing, m_text); }},
+         [&] { return m_opt.ClearInvalidSignForBackSign(m_drawing, m_text); }},
     };
     for (const auto& operation : kOperations) {
         EXPECT_EQ(Seen(operation.call), std::wstring(operation.identifier) + operation.arguments);
         m_settings.Set(L"DynDisp", operation.key, L"Renamed");
         EXPECT_EQ(Seen(operation.call), std::wstring(L"9") + operation.arguments);
-        m_settings.Set(L"DynDisp", operation.key, L"Unknown");
-        EXPECT_EQ(operation.call(), 0);
+        for (const wchar_t* unusable : {L"Unknown", L"Default", L"Negative"}) {
+            m_settings.Set(L"DynDisp", operation.key, unusable);
+            EXPECT_EQ(operation.call(), 0);
+            EXPECT_EQ(m_server.LastSeen(), std::wstring(L"? ") + unusable) << "nothing may be called";
+        }
     }
     for (const wchar_t* fixed : {L"SignatureDelete", L"CancelSign", L"Test"}) // no matter for these two
         m_settings.Set(L"DynDisp", fixed, L"Renamed");
-    EXPECT_EQ(Seen([&] { return m_opt->CancelSign(m_drawing, m_text, Text(L"b"), Text(L"c")); }),
+    EXPECT_EQ(Seen([&] { return m_opt.CancelSign(m_drawing, m_text, Text(L"b"), Text(L"c")); }),
               L"3(甲|b|c)");
-    EXPECT_EQ(Seen([&] { return m_opt->Test(m_text); }), L"7(甲)");
+    EXPECT_EQ(Seen([&] { return m_opt.Test(m_text); }), L"7(甲)");
 }
 
 TEST_F(SignOpt, Arguments_MissingOnesAreRefusedWithoutACall) {
     long invalid = 7;
     SSignInfo* info = &m_info;
-    EXPECT_EQ(m_opt->Login(m_empty, m_text, m_text) + m_opt->Login(m_text, nullptr, m_text) +
-                  m_opt->Login(m_text, m_text, m_empty) + m_opt->Sign(nullptr, &m_info) +
-                  m_opt->SignForBackSign(m_drawing, nullptr) +
-                  m_opt->DeleteSignForBackSign(m_drawing, nullptr) +
-                  m_opt->DeleteAllSignForBackSign(m_drawing, m_empty) +
-                  m_opt->SignatureValidateForBackSign(nullptr, m_text) +
-                  m_opt->CancelSign(m_drawing, m_text, m_empty, m_text) +
-                  m_opt->CancelSign(m_drawing, m_text, m_text, nullptr) +
-                  m_opt->ClearInvalidSign(m_drawing, m_empty) +
-                  m_opt->ExistSignature(nullptr, m_text, m_text) + m_opt->HasInvalidSign(nullptr, &invalid),
-              0);
-    EXPECT_EQ(m_opt->GetSignUserName(nullptr) + m_opt->GetCancelSignDate(nullptr) +
-                  m_opt->GetSignInfoForBackSign(m_text, nullptr) +
-                  m_opt->GetSignInfoForBackSign(m_empty, &info) +
-                  m_opt->GetSignInfo(m_text, 1, m_empty, &info),
-              0);
+    EXPECT_EQ(m_opt.Login(m_empty, m_text, m_text) + m_opt.Login(m_text, nullptr, m_text), 0);
+    EXPECT_EQ(m_opt.Login(m_text, m_text, m_empty) + m_opt.DeleteSignForBackSign(nullptr, &m_info), 0);
+    EXPECT_EQ(m_opt.Sign(nullptr, &m_info) + m_opt.SignForBackSign(m_drawing, nullptr), 0);
+    EXPECT_EQ(m_opt.DeleteAllSignForBackSign(m_drawing, m_empty), 0);
+    EXPECT_EQ(m_opt.SignatureValidateForBackSign(nullptr, m_text), 0);
+    EXPECT_EQ(m_opt.CancelSign(m_drawing, m_text, m_empty, m_text), 0);
+    EXPECT_EQ(m_opt.CancelSign(m_drawing, m_text, m_text, nullptr), 0);
+    EXPECT_EQ(m_opt.ClearInvalidSign(m_drawing, m_empty) + m_opt.ExistSignature(nullptr, m_text, m_text), 0);
+    EXPECT_EQ(m_opt.HasInvalidSign(nullptr, &invalid), 0);
+    EXPECT_EQ(m_opt.GetSignUserName(nullptr) + m_opt.GetCancelSignDate(nullptr), 0);
+    EXPECT_EQ(m_opt.GetSignInfoForBackSign(m_empty, &info) + m_opt.GetSignInfo(m_text, 1, m_empty, &info), 0);
     EXPECT_EQ(invalid, 7);
     EXPECT_EQ(info, nullptr);
-    EXPECT_EQ(m_opt->ClearInvalidSign(m_drawing, m_text), 1);
-    EXPECT_EQ(m_opt->ExistSignature(m_drawing, m_text, nullptr), 1);
-    EXPECT_EQ(m_opt->HasInvalidSign(m_drawing, &invalid), 1);
-    EXPECT_EQ(invalid, 0);
+    EXPECT_EQ(m_opt.ClearInvalidSign(m_drawing, m_text) + m_opt.ExistSignature(m_drawing, m_text, nullptr),
+              2);
+    EXPECT_TRUE(m_opt.HasInvalidSign(m_drawing, &invalid) == 1 && invalid == 0);
     EXPECT_EQ(m_server.LastSeen(), L"") << "none of these reaches the server";
 }
 
@@ -130,7 +132,7 @@ TEST_F(SignOpt, Status_IsTheIntegerThatTheMethodReturned) {
     _variant_t returned;
     HRESULT outcome = S_OK;
     m_server.m_answer = [&](VARIANT& result, EXCEPINFO&) { return VariantCopy(&result, &returned), outcome; };
-    const auto status = [&](_variant_t value) { return returned = value, m_opt->Test(m_text); };
+    const auto status = [&](_variant_t value) { return returned = value, m_opt.Test(m_text); };
     EXPECT_EQ(status(-42L), -42);
     EXPECT_EQ(status(short(5)), 5);
     EXPECT_EQ(status(4294967295UL), -1) << "the same 32 bits";
@@ -144,14 +146,20 @@ TEST_F(SignOpt, Status_IsTheIntegerThatTheMethodReturned) {
     EXPECT_EQ(status(1L), 0) << "nothing thrown leaves the library";
 }
 
-TEST_F(SignOpt, Calls_FreeTheirArguments) {
+TEST_F(SignOpt, Calls_FreeArgumentsResultsAndExceptionTexts) {
     Text big(500000, L'x');
-    m_info.m_strSecondText = big.c_str();
     const auto calls = [&] {
-        EXPECT_EQ(m_opt->Test(big) + m_opt->SignForBackSign(m_drawing, &m_info), 2);
+        m_opt.Test(big);
+        m_opt.DeleteAllSignForBackSign(m_drawing, big);
         m_server.m_seen.clear();
     };
     EXPECT_LT(tests::MemoryGrowth(60, calls), 20 << 20) << "of 120 MB handed over";
+    m_server.m_answer = [&](VARIANT& result, EXCEPINFO& exception) {
+        result = _variant_t(big.c_str()).Detach();
+        exception.bstrDescription = SysAllocString(big);
+        return DISP_E_EXCEPTION;
+    };
+    EXPECT_LT(tests::MemoryGrowth(60, calls), 20 << 20) << "of 360 MB handed over and back";
 }
 
 TEST_F(SignOpt, GetSignUserName_CopiesTheSharedLogin) {
@@ -160,7 +168,7 @@ TEST_F(SignOpt, GetSignUserName_CopiesTheSharedLogin) {
     const std::wstring name(1023, L'名');
     WritePrivateProfileStringW(L"Session", L"UserName", name.c_str(), (vault / "session.ini").c_str());
     Text buffer(1100, L'#');
-    EXPECT_EQ(m_opt->GetSignUserName(buffer), 1);
+    EXPECT_EQ(m_opt.GetSignUserName(buffer), 1);
     EXPECT_STREQ(buffer.c_str(), name.c_str());
     EXPECT_EQ(buffer[1024], L'#') << "1023 characters and the terminator at most";
     SetEnvironmentVariableW(L"DURVELL_VAULT", nullptr);
@@ -181,7 +189,7 @@ TEST_F(SignOpt, GetCancelSignDate_RendersACompleteStyleOrTheDefault) {
         m_settings.Set(L"SignDate", L"DateStyle", style);
         wchar_t text[100] = {};
         const std::wstring before = today(format); // midnight may come in between
-        EXPECT_EQ(m_opt->GetCancelSignDate(text), 1);
+        EXPECT_EQ(m_opt.GetCancelSignDate(text), 1);
         EXPECT_TRUE(text == before || text == today(format)) << tests::ToUtf8(text);
     }
 }
@@ -192,7 +200,7 @@ TEST_F(SignOpt, GetSignInfoForBackSign_FillsFromSettingsAlone) {
     m_settings.Set(L"SignDate", L"DateOffsetX", L"1.5");
     m_settings.Set(L"SignScope", L"Scope", L"3");
     SSignInfo* info = nullptr;
-    ASSERT_EQ(m_opt->GetSignInfoForBackSign(m_text, &info), 1);
+    ASSERT_EQ(m_opt.GetSignInfoForBackSign(m_text, &info), 1);
     EXPECT_EQ(info->m_strDateText, L"无") << "this run does not insist on a complete style";
     EXPECT_EQ(info->m_strPin + info->m_strDateFontName, L"480317宋体");
     EXPECT_TRUE(info->m_nSealIndex == 3 && info->m_dDateOffsetX == 1.5);

@@ -82,7 +82,7 @@ TEST_F(SignLogTest, DamagedRecord_StartsAnewAndKeepsTheOldFile) {
         sample.substr(0, sample.size() - 20),
         std::string(3000, '\0'),
         "<qordata><obj type='T' state='N'><pro name='ID'/></obj></qordata>",
-        "<qordata><note/></qordata>",
+        "<qordata><obj type='T' state='N'><local/><local/></obj></qordata>",
         "<!DOCTYPE qordata [<!ENTITY e SYSTEM 'file:///c:/x'>]><qordata/>",
     };
     int copies = 0;
@@ -105,9 +105,11 @@ TEST_F(SignLogTest, ReadOnlyRecord_IsWritten) {
 }
 
 TEST_F(SignLogTest, LockedRecord_StaysAsItIs) {
-    for (const DWORD sharing : {DWORD(0), DWORD(FILE_SHARE_READ)}) {
-        WriteRecord(m_record, L"N");
-        const std::string before = ReadBytes(m_record);
+    WriteRecord(m_record, L"N");
+    const std::string good = ReadBytes(m_record), bad = "<qordata>";
+    for (const auto& [before, sharing] :
+         {std::pair(good, 0), {good, FILE_SHARE_READ}, {bad, 0}, {bad, FILE_SHARE_READ}}) {
+        WriteBytes(m_record, before);
         const HANDLE lock =
             CreateFileW(m_record.c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING, 0, nullptr);
         ASSERT_NE(lock, INVALID_HANDLE_VALUE);
@@ -167,7 +169,6 @@ TEST_F(SignLogTest, LargeRecord_TakesLinearTime) {
         return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     };
     const double few = seconds(1000), many = seconds(10000);
-    RecordProperty("seconds", std::to_string(many));
     EXPECT_LT(many, 30 * few) << "ten times the entries; quadratic would be a hundredfold";
     EXPECT_EQ(ReadEntries(m_record).size(), 10000u);
 }

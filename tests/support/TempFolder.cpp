@@ -13,8 +13,8 @@ TempFolder::TempFolder() {
     static std::atomic<unsigned> counter{0};
     wchar_t temp[MAX_PATH + 1];
     GetTempPathW(MAX_PATH + 1, temp);
-    m_path = fs::path(temp) / (L"varnoke-test-" + std::to_wstring(GetCurrentProcessId()) + L"-" +
-                               std::to_wstring(++counter));
+    m_path = fs::path(temp) /
+             (L"varnoke-test-" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++counter));
     fs::create_directories(m_path);
 }
 
@@ -41,8 +41,8 @@ std::string ReadBytes(const fs::path& file) {
 std::string ToUtf8(std::wstring_view text) {
     const int size = static_cast<int>(text.size());
     std::string result(WideCharToMultiByte(CP_UTF8, 0, text.data(), size, nullptr, 0, nullptr, nullptr), 0);
-    WideCharToMultiByte(CP_UTF8, 0, text.data(), size, result.data(), static_cast<int>(result.size()), nullptr,
-                        nullptr);
+    WideCharToMultiByte(CP_UTF8, 0, text.data(), size, result.data(), static_cast<int>(result.size()),
+                        nullptr, nullptr);
     return result;
 }
 

@@ -6,7 +6,8 @@
 
 int wmain(int argc, wchar_t** argv) {
     testing::InitGoogleTest(&argc, argv);
-    if (FAILED(CoInitialize(nullptr)) || !AfxWinInit(GetModuleHandleW(nullptr), nullptr, GetCommandLineW(), 0))
+    if (FAILED(CoInitialize(nullptr)) ||
+        !AfxWinInit(GetModuleHandleW(nullptr), nullptr, GetCommandLineW(), 0))
         return 2;
     testing::UnitTest::GetInstance()->listeners().Append(new tests::Watchdog);
     const int result = RUN_ALL_TESTS();
