@@ -8,11 +8,14 @@ namespace varnoke {
 
 namespace {
 
-/// The object's properties, in order; null when it has none or one of them is incomplete.
-OwnedRecord<SSignObj> ReadObject(IXMLDOMNode* node, PropertyReader& reader) {
+/// The object's properties, in order; null when it has none or one of them is incomplete. Objects of a group
+/// mostly have the same property names: where `model` has the same one at the same place, its text is shared.
+OwnedRecord<SSignObj> ReadObject(IXMLDOMNode* node, const SSignObj* model, PropertyReader& reader) {
     OwnedRecord<SSignObj> object(new SSignObj);
+    POSITION at = model ? model->GetHeadPosition() : nullptr;
     for (DomNode child = FirstChild(node); child; MoveToNext(child)) {
         auto property = std::make_unique<SSignPro>();
+        if (at) property->m_strName = model->GetNext(at)->m_strName;
         if (!reader.Read(child, property->m_strName, property->m_strValue)) return nullptr;
         object->AddTail(property.get());
         property.release();
@@ -21,7 +24,8 @@ OwnedRecord<SSignObj> ReadObject(IXMLDOMNode* node, PropertyReader& reader) {
 }
 
 bool AppendObject(SSignType& type, IXMLDOMNode* node, PropertyReader& reader) {
-    OwnedRecord<SSignObj> object = ReadObject(node, reader);
+    OwnedRecord<SSignObj> object =
+        ReadObject(node, type.m_lstObj.IsEmpty() ? nullptr : type.m_lstObj.GetTail(), reader);
     if (!object) return false;
     type.m_lstObj.AddTail(object.get());
     object.release();

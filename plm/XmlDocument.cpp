@@ -120,7 +120,10 @@ void MoveToNext(DomNode& node) {
 bool AttributeReader::Read(DomElement& element, CString& value) {
     _variant_t attribute;
     if (element->getAttribute(m_name, &attribute) != S_OK || attribute.vt != VT_BSTR) return false;
-    value.SetString(attribute.bstrVal, static_cast<int>(::SysStringLen(attribute.bstrVal)));
+    const int length = static_cast<int>(::SysStringLen(attribute.bstrVal));
+    if (length != value.GetLength() || wmemcmp(value, attribute.bstrVal, length) != 0) {
+        value.SetString(attribute.bstrVal, length);
+    }
     return true;
 }
 

@@ -46,7 +46,8 @@ void MoveToNext(DomNode& node);
 class AttributeReader {
 public:
     explicit AttributeReader(const wchar_t* name) : m_name(name) {}
-    /// False when the element lacks the attribute or its value is no text.
+    /// False when the element lacks the attribute or its value is no text. A text that `value` has already
+    /// stays there with the buffer that it may share.
     bool Read(DomElement& element, CString& value);
 
 private:

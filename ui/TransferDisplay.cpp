@@ -8,6 +8,7 @@ using namespace varnoke;
 namespace {
 
 const ULONGLONG kDrawInterval = 100; // ms
+const int kUnpacedDraws = 10;        // so that a short list is shown step by step
 const int kLogLimit = 0x7ffffffe;
 
 } // namespace
@@ -70,7 +71,12 @@ void CTransferDisplay::Draw() {
 }
 
 void CTransferDisplay::DrawWhenDue() {
-    if (::GetTickCount64() - m_nLastDrawn >= kDrawInterval) Draw();
+    if (m_nUnpacedDraws < kUnpacedDraws) {
+        ++m_nUnpacedDraws;
+        Draw();
+    } else if (::GetTickCount64() - m_nLastDrawn >= kDrawInterval) {
+        Draw();
+    }
 }
 
 void CTransferDisplay::StepActivity() {

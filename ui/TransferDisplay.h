@@ -19,7 +19,7 @@ public:
     void Log(const CString& strText);
 
     void Draw();
-    // Draws unless that was done just before.
+    // Draws unless that was done often and just before.
     void DrawWhenDue();
     // Draws and moves the activity bar on.
     void StepActivity();
@@ -37,4 +37,5 @@ private:
     CString m_strTotal;
     CString m_strLines;
     ULONGLONG m_nLastDrawn = 0; // ms
+    int m_nUnpacedDraws = 0;
 };
