@@ -7,6 +7,7 @@
 
 #include <comdef.h>
 #include <msxml2.h>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -69,8 +70,15 @@ struct ListDeleter {
 void MeasureReading(const Workspace& workspace, CPLMInteract& interact, int documents, Costs& costs) {
     const std::wstring text = MessageText(L"drawing", documents, kProperties);
     Records records;
-    costs[BareReading] = Milliseconds([&] { SaveBare(LoadBare(text), workspace.Path(L"bare.xml")); });
-    costs[Reading] = Milliseconds([&] { Read(interact, text, workspace.Path(), records, documents); });
+    costs[BareReading] = costs[Reading] = 1e9;
+    for (int round = 0; round < 3; ++round) { // by turns, so that both meet the same disturbances
+        records.Release();
+        costs[BareReading] = (std::min)(
+            costs[BareReading], Milliseconds([&] { SaveBare(LoadBare(text), workspace.Path(L"bare.xml")); }));
+        costs[Reading] =
+            (std::min)(costs[Reading],
+                       Milliseconds([&] { Read(interact, text, workspace.Path(), records, documents); }));
+    }
     costs[Release] = Milliseconds([&] { records.Release(); });
 }
 
@@ -97,8 +105,9 @@ void MeasureMerging(const Workspace& workspace, CPLMInteract& interact, int docu
 }
 
 double MeasureTagging(const Workspace& workspace, CPLMInteract& interact, int documents) {
+    std::wstring folder = workspace.CreateDrawings(documents); // there already after the first time
     const std::unique_ptr<SSignFileDUL, ListDeleter> list(new SSignFileDUL);
-    list->m_strFolder = workspace.Path().c_str();
+    list->m_strFolder = folder.c_str();
     for (int document = 0; document < documents; ++document) {
         list->m_lstItem.AddTail(new SSignFileDULItem);
         list->m_lstItem.GetTail()->m_strLocalName.Format(L"drawing%d.dwg", document);
@@ -109,7 +118,6 @@ double MeasureTagging(const Workspace& workspace, CPLMInteract& interact, int do
     };
     update();
     const double time = Milliseconds(update);
-    std::wstring folder = workspace.Path();
     std::wstring last = L"drawing" + std::to_wstring(documents - 1) + L".dwg";
     long changed = 0;
     Require(interact.GetDocSignTimeTag(&folder[0], &last[0], &changed) == 0 && changed == 0,

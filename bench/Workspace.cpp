@@ -44,12 +44,15 @@ std::wstring Workspace::Path(const std::wstring& name) const {
     return name.empty() ? m_folder : m_folder + L"\\" + name;
 }
 
-void Workspace::CreateFiles(const wchar_t* prefix, int count) const {
+std::wstring Workspace::CreateDrawings(int count) const {
+    const std::wstring folder = Path(std::to_wstring(count));
+    ::CreateDirectoryW(folder.c_str(), nullptr);
     for (int number = 0; number < count; ++number) {
-        const std::wstring path = Path(prefix + std::to_wstring(number) + L".dwg");
-        varnoke::OwnFile(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+        const std::wstring path = folder + L"\\drawing" + std::to_wstring(number) + L".dwg";
+        varnoke::OwnFile(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                                        FILE_ATTRIBUTE_NORMAL, nullptr));
     }
+    return folder;
 }
 
 } // namespace bench

@@ -15,7 +15,8 @@ public:
 
     /// Full path of a name in the folder; the folder's own for an empty one.
     std::wstring Path(const std::wstring& name = std::wstring()) const;
-    void CreateFiles(const wchar_t* prefix, int count) const;
+    /// Creates a subfolder, named by the count, with files "drawing<number>.dwg", and gives its full path.
+    std::wstring CreateDrawings(int count) const;
 
 private:
     std::wstring m_folder;

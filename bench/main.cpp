@@ -76,7 +76,6 @@ int wmain(int argc, wchar_t** argv) {
     bool kept = false;
     {
         const Workspace workspace;
-        workspace.CreateFiles(L"drawing", kFew * kGrowth);
         CPLMInteract interact;
         kept = ReportAll(Comparison(workspace, interact, rounds));
     }

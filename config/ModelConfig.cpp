@@ -2,18 +2,16 @@
 #include "config/ModelConfig.h"
 
 #include "config/qorparser.h"
+#include "module/BstrText.h"
 #include "module/Guarded.h"
 #include "module/ModulePaths.h"
 
 using namespace QORMODEL;
 using _com_util::CheckError;
 using varnoke::Guarded;
+using varnoke::ToBstr;
 
 namespace {
-
-_bstr_t ToBstr(const CString& text) {
-    return _bstr_t(static_cast<const wchar_t*>(text));
-}
 
 CString OrDefault(const CString& text, const wchar_t* fallback) {
     return text.IsEmpty() ? CString(fallback) : text;
@@ -57,7 +55,14 @@ IQORObjMapConfigPtr FindMap(IQORObjMapConfigs* maps, long count, const CString& 
 
 CModelConfig::CModelConfig() : m_pParentWnd(nullptr) {}
 
-CModelConfig::~CModelConfig() = default;
+CModelConfig::~CModelConfig() {
+    Guarded(0L, [&] {
+        m_strConfigPath.Empty();
+        m_spModel = nullptr;
+        m_pParentWnd = nullptr;
+        return 1L;
+    });
+}
 
 long CModelConfig::Initialize(CWnd* pParentWnd) {
     return Guarded(0L, [&] {

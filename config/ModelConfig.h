@@ -34,5 +34,5 @@ private:
     CString m_strConfigPath; // full path, empty until initialised
     QORMODEL::IQORConfigModelPtr m_spModel;
     CINIConfig m_iniConfig;
-    CWnd* m_pParentWnd; // the host's, not owned
+    CWnd* m_pParentWnd; // weak
 };

@@ -28,6 +28,11 @@ BOOL CALLBACK AddDialog(HWND window, LPARAM list) {
     return TRUE;
 }
 
+HWND DefaultButton(HWND dialog) {
+    const LRESULT found = ::SendMessageW(dialog, DM_GETDEFID, 0, 0);
+    return HIWORD(found) == DC_HASDEFID ? ::GetDlgItem(dialog, LOWORD(found)) : nullptr;
+}
+
 } // namespace
 
 CDialogWatcher::CDialogWatcher(const CString& folder, bool confirm)
@@ -65,25 +70,40 @@ void CDialogWatcher::Look() {
         auto seen = std::find_if(m_seen.begin(), m_seen.end(),
                                  [dialog](const SSeenDialog& entry) { return entry.m_hWnd == dialog; });
         if (seen == m_seen.end()) {
-            m_seen.push_back({dialog, now, false});
-        } else if (!seen->m_bHandled && now - seen->m_nFirstSeen >= kSettleMs) {
-            seen->m_bHandled = true;
-            Handle(dialog);
+            m_seen.push_back({dialog, now, 0});
+        } else if (IsDue(*seen, now)) {
+            seen->m_nSince = now;
+            if (++seen->m_nAnswers == 1) TakePicture(dialog);
+            if (!m_bConfirm) continue;
+            if (seen->m_nAnswers == 1) {
+                Confirm(dialog);
+            } else {
+                ::PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+            }
         }
     }
 }
 
-void CDialogWatcher::Handle(HWND dialog) {
-    if (!m_strFolder.IsEmpty()) {
-        CString name;
-        name.Format(L"%02d.png", ++m_nPictures);
-        if (!SavePicture(dialog, JoinPath(m_strFolder, name))) PrintError(Text(EText::PictureFailed, {name}));
-    }
-    if (!m_bConfirm || !::IsWindowEnabled(dialog)) return;
-    const LRESULT found = ::SendMessageW(dialog, DM_GETDEFID, 0, 0);
-    const HWND button = HIWORD(found) == DC_HASDEFID ? ::GetDlgItem(dialog, LOWORD(found)) : nullptr;
+bool CDialogWatcher::IsDue(const SSeenDialog& dialog, ULONGLONG now) {
+    if (now - dialog.m_nSince < kSettleMs) return false;
+    if (dialog.m_nAnswers == 0) return true;
+    // A transfer has no button and takes its time; a disabled dialog waits for its message box.
+    return DefaultButton(dialog.m_hWnd) && ::IsWindowEnabled(dialog.m_hWnd);
+}
+
+void CDialogWatcher::TakePicture(HWND dialog) {
+    if (m_strFolder.IsEmpty()) return;
+    wchar_t title[64];
+    ::GetWindowTextW(dialog, title, _countof(title));
+    CString name;
+    name.Format(L"%02d-%s.png", ++m_nPictures, title);
+    if (!SavePicture(dialog, JoinPath(m_strFolder, name))) PrintError(Text(EText::PictureFailed, {name}));
+}
+
+void CDialogWatcher::Confirm(HWND dialog) {
+    const HWND button = ::IsWindowEnabled(dialog) ? DefaultButton(dialog) : nullptr;
     if (button) {
-        ::PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(LOWORD(found), BN_CLICKED),
+        ::PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(button), BN_CLICKED),
                        reinterpret_cast<LPARAM>(button));
     }
 }

@@ -10,8 +10,9 @@ namespace host {
 /// Works by a timer of the user-interface thread, which modal dialogs keep running. One at a time.
 class CDialogWatcher {
 public:
-    /// Pictures go to `folder` (none when it is empty) as 01.png, 02.png ...; `confirm` presses the default
-    /// button of each dialog after its picture. A dialog without buttons is left to close by itself.
+    /// Pictures go to `folder` (none when it is empty), numbered and named after the dialog's title.
+    /// `confirm` presses the default button of each dialog after its picture, and cancels a dialog that stays
+    /// all the same. A dialog without buttons is left to close by itself.
     CDialogWatcher(const CString& folder, bool confirm);
     ~CDialogWatcher();
     CDialogWatcher(const CDialogWatcher&) = delete;
@@ -20,14 +21,16 @@ public:
 private:
     struct SSeenDialog {
         HWND m_hWnd;
-        ULONGLONG m_nFirstSeen; ///< milliseconds
-        bool m_bHandled;
+        ULONGLONG m_nSince; ///< first seen or last answered, milliseconds
+        int m_nAnswers;
     };
 
     static void CALLBACK OnTimer(HWND window, UINT message, UINT_PTR timer, DWORD time);
     static std::vector<HWND> VisibleDialogs();
     void Look();
-    void Handle(HWND dialog);
+    static bool IsDue(const SSeenDialog& dialog, ULONGLONG now);
+    void TakePicture(HWND dialog);
+    static void Confirm(HWND dialog);
 
     CString m_strFolder;
     bool m_bConfirm;

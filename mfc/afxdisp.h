@@ -32,18 +32,10 @@ class COccManager;
 void AFX_CDECL AfxEnableControlContainer(COccManager* pOccManager = nullptr);
 
 // Argument types of InvokeHelper: one byte per argument, joined by string concatenation.
-#define VTS_I2 "\x02"
 #define VTS_I4 "\x03"
-#define VTS_R4 "\x04"
 #define VTS_R8 "\x05"
-#define VTS_BSTR "\x08" // LPCTSTR
-#define VTS_DISPATCH "\x09"
-#define VTS_SCODE "\x0A"
-#define VTS_BOOL "\x0B"    // BOOL
-#define VTS_VARIANT "\x0C" // const VARIANT*
-#define VTS_UNKNOWN "\x0D"
-#define VTS_PI4 "\x43"
-#define VTS_PBSTR "\x48"
-#define VTS_PVARIANT "\x4C"
+#define VTS_BSTR "\x08"     // LPCTSTR
+#define VTS_DISPATCH "\x09" // borrowed
+#define VTS_BOOL "\x0B"     // BOOL
+#define VTS_VARIANT "\x0C"  // const VARIANT*
 #define VTS_NONE nullptr
-#define VTS_COLOR VTS_I4

@@ -58,7 +58,7 @@ CString JoinPath(const CString& folder, const CString& name) {
 
 CString ModuleFilePath(HMODULE module) {
     constexpr DWORD kLongestPath = 0x8000;
-    for (DWORD size = MAX_PATH; size <= kLongestPath; size *= 2) {
+    for (DWORD size = MAX_PATH; size < 2 * kLongestPath; size *= 2) {
         std::vector<wchar_t> path(size);
         const DWORD length = ::GetModuleFileNameW(module, path.data(), size);
         if (length < size) {

@@ -107,5 +107,5 @@ public:
 
 private:
     CModelConfig m_modelConfig;
-    CWnd* m_pParentWnd; // the host's, not owned
+    CWnd* m_pParentWnd; // weak
 };

@@ -3,6 +3,7 @@
 
 #include "plm/PLMInteract.h"
 #include "module/Guarded.h"
+#include "module/Text.h"
 #include "plm/DocumentTransfer.h"
 #include "plm/ReturnFile.h"
 #include "plm/ServerQuery.h"
@@ -10,14 +11,7 @@
 #include "plm/SignTags.h"
 
 using varnoke::Guarded;
-
-namespace {
-
-bool HasText(const wchar_t* text) {
-    return text && *text;
-}
-
-} // namespace
+using varnoke::HasText;
 
 long CPLMInteract::DownloadDoc(SSignFileDUL* pList) {
     return Guarded(0L, [&] { return varnoke::DownloadWithDialog(pList, m_pParentWnd); });
@@ -54,7 +48,7 @@ CString CPLMInteract::GetRemoteFileName(wchar_t* pszUserName, wchar_t*) {
 }
 
 CString CPLMInteract::GetProValue(CString strXmlFile, CString strProName) {
-    return Guarded(CString(), [&] { return varnoke::ReadProperty(strXmlFile, strProName); });
+    return varnoke::ReadProperty(strXmlFile, strProName);
 }
 
 long CPLMInteract::SetDocSignTag(wchar_t* pszFolder, wchar_t* pszFileName, long nValue) {

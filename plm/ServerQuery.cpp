@@ -2,6 +2,7 @@
 #include <afxwin.h>
 
 #include "plm/ServerQuery.h"
+#include "module/Guarded.h"
 #include "module/ModulePaths.h"
 #include "plm/XmlDocument.h"
 #include "plm/durvell.h"
@@ -29,12 +30,15 @@ CString QueryDrawingName(const CString& userName) {
 }
 
 CString ReadProperty(const CString& xmlFile, const CString& name) {
-    if (xmlFile.IsEmpty() || name.IsEmpty()) return CString();
-    DomDocument document = CreateDocumentAsIs();
-    if (!LoadFile(document, xmlFile)) return CString();
-    DomElement property(SelectNode(document, L"root/objs/type/obj/pro[@name=\"" + name + L"\"]"));
-    CString value;
-    return property && AttributeReader(L"value").Read(property, value) ? value : CString();
+    return Guarded(CString(), [&] {
+        CString value;
+        if (xmlFile.IsEmpty() || name.IsEmpty()) return value;
+        DomDocument document = CreateDocumentAsIs();
+        if (!LoadFile(document, xmlFile)) return value;
+        DomElement property(SelectNode(document, L"root/objs/type/obj/pro[@name=\"" + name + L"\"]"));
+        if (property) AttributeReader(L"value").Read(property, value);
+        return value;
+    });
 }
 
 } // namespace varnoke

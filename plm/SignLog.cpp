@@ -1,6 +1,7 @@
 // The sign log: which entries a signature or a deletion leaves in the record, and its way to the server.
 #include "plm/SignLog.h"
 
+#include "module/BstrText.h"
 #include "plm/SignLogEntry.h"
 #include "plm/SignRecordFile.h"
 #include "plm/SignDataFolder.h"

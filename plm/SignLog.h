@@ -8,8 +8,8 @@
 namespace varnoke {
 
 /// Logs a signature (kind "N") or a deletion (kind "D") of the document and role that the sign object
-/// names ("ID", "SIGN_ROLE"). A signature and its deletion cancel each other while unsent. Returns 1
-/// when the record file is in its intended state; else 0, with the file unchanged. May throw
+/// names ("ID", "SIGN_ROLE"). A deletion cancels the unsent signature, a further signature replaces it.
+/// Returns 1 when the record file is in its intended state; else 0, with the file unchanged. May throw
 /// _com_error and CException*.
 long WriteDelOrSignLogToLocal(CModelConfig& config, const SSignObj* obj, const CString& folder,
                               const CString& kind);

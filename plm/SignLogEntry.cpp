@@ -1,6 +1,7 @@
 // New entries of the sign log: filled from the sign object, and mapped to what the server gets.
 #include "plm/SignLogEntry.h"
 
+#include "module/BstrText.h"
 #include "module/NewGuid.h"
 
 using namespace QORMODEL;
@@ -9,10 +10,6 @@ using _com_util::CheckError;
 namespace varnoke {
 
 namespace {
-
-CString ToText(const _bstr_t& text) {
-    return CString(static_cast<const wchar_t*>(text));
-}
 
 // The value of a property of the sign object; the last one of a name counts, empty when there is none.
 CString SignValue(const SSignObj& obj, const CString& name) {
@@ -88,10 +85,6 @@ SignLogSource::SignLogSource(const SSignObj& obj, const CString& kind, IQORObjCo
     _bstr_t type;
     CheckError(local->GetAttribute(_bstr_t(L"id"), type.GetAddress()));
     m_strEntryType = ToText(type);
-}
-
-_bstr_t ToBstr(const CString& text) {
-    return _bstr_t(static_cast<const wchar_t*>(text));
 }
 
 CString ReadProperty(IQORDataObject* object, const wchar_t* name) {

@@ -15,15 +15,13 @@ struct SignLogSource {
                   QORMODEL::IQORObjMapConfig* map);
 
     const SSignObj& m_obj;
-    QORMODEL::IQORObjConfig* m_pLocal;  // borrowed
-    QORMODEL::IQORObjMapConfig* m_pMap; // borrowed
+    QORMODEL::IQORObjConfig* m_pLocal;  // weak
+    QORMODEL::IQORObjMapConfig* m_pMap; // weak
     CString m_strKind;                  // "N" or "D"
     CString m_strEntryType;
     CString m_strDocumentId;
     CString m_strRole;
 };
-
-_bstr_t ToBstr(const CString& text);
 
 /// The value of an entry's property, empty when it has none.
 CString ReadProperty(QORMODEL::IQORDataObject* object, const wchar_t* name);

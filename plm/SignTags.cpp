@@ -3,6 +3,7 @@
 
 #include "plm/SignTags.h"
 #include "module/ModulePaths.h"
+#include "module/Text.h"
 #include "plm/SignDataFolder.h"
 #include "plm/TagFile.h"
 
@@ -16,7 +17,7 @@ namespace {
 const wchar_t kTimeTag[] = L"DocSignTimeTag";
 
 bool IsNamed(const wchar_t* folder, const wchar_t* fileName) {
-    return folder && *folder && fileName && *fileName;
+    return HasText(folder) && HasText(fileName);
 }
 
 CString TagFileName(const wchar_t* kind) {
@@ -106,7 +107,7 @@ bool CopyModificationTime(const wchar_t* folder, const wchar_t* fileName, wchar_
     if (!IsNamed(folder, fileName) || !buffer) return false;
     const CString time = ModificationTime(folder, fileName);
     if (time.IsEmpty()) return false;
-    wcscpy(buffer, time);
+    ::lstrcpyW(buffer, time);
     return true;
 }
 

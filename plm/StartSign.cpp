@@ -2,12 +2,13 @@
 #include <afxwin.h>
 
 #include "plm/StartSign.h"
+#include "module/Text.h"
 #include "ui/SDLDlg.h"
 
 namespace varnoke {
 
 bool StartSignArguments::CheckAndClear() const {
-    if (!xml || !*xml || !workFolder || !*workFolder || !login) return false;
+    if (!HasText(xml) || !HasText(workFolder) || !login) return false;
     *login = nullptr;
     if (!steps) return false;
     *steps = nullptr;

@@ -4,6 +4,7 @@
 
 #include "plm/StartSignMerge.h"
 #include "module/ModulePaths.h"
+#include "module/Text.h"
 #include "plm/NoCase.h"
 #include "plm/SignDataFolder.h"
 
@@ -109,7 +110,7 @@ bool AppendDocuments(IXMLDOMDocument* target, const SSignType& source) {
 
 bool AddAttribute(const wchar_t* name, const wchar_t* value, IXMLDOMNamedNodeMap* attributes,
                   IXMLDOMDocument* document) {
-    if (!name || !*name || !value || !attributes || !document) return false;
+    if (!HasText(name) || !value || !attributes || !document) return false;
     DomNode attribute;
     Succeeded(
         document->createNode(_variant_t(long(NODE_ATTRIBUTE)), _bstr_t(name), _bstr_t(L""), &attribute));

@@ -2,7 +2,10 @@
 #include <afxwin.h>
 
 #include "plm/TagFile.h"
+#include "module/ModulePaths.h"
+#include "module/Owned.h"
 #include "plm/NoCase.h"
+#include "plm/TemporaryFile.h"
 
 #include <string>
 
@@ -22,29 +25,46 @@ std::wstring ReadSection(const CString& path, const CString& section) {
     }
 }
 
-/// Size in bytes of a text in the code page that the profile functions write.
-size_t WrittenSize(const std::wstring& text) {
-    if (text.empty()) return 0;
-    return ::WideCharToMultiByte(CP_ACP, 0, text.c_str(), static_cast<int>(text.size()), nullptr, 0, nullptr,
-                                 nullptr);
+/// The file as the profile functions write one that holds nothing but the section.
+std::string FileBytes(const CString& section, const std::wstring& text) {
+    std::wstring file = L"[" + std::wstring(section) + L"]\r\n";
+    for (const wchar_t* line = text.c_str(); *line; line += wcslen(line) + 1)
+        file.append(line).append(L"\r\n");
+    const int length = static_cast<int>(file.size());
+    std::string bytes(::WideCharToMultiByte(CP_ACP, 0, file.c_str(), length, nullptr, 0, nullptr, nullptr),
+                      '\0');
+    ::WideCharToMultiByte(CP_ACP, 0, file.c_str(), length, &bytes[0], static_cast<int>(bytes.size()), nullptr,
+                          nullptr);
+    return bytes;
 }
 
-/// Whether the file holds nothing but the section's plain lines: only then can the section be rewritten as a
-/// whole without losing comments or what else reading it doesn't show.
+/// Whether the file holds nothing but the section's plain lines: only then can it be rewritten as a whole
+/// without losing comments or what else reading the section doesn't show.
 bool IsWholeFile(const CString& path, const CString& section, const std::wstring& text) {
     WIN32_FILE_ATTRIBUTE_DATA file = {};
     if (!::GetFileAttributesExW(path, GetFileExInfoStandard, &file)) return true;
-    const size_t header = WrittenSize((L"[" + section + L"]\r\n").GetString());
-    size_t lines = 0;
-    for (const wchar_t character : text) {
-        if (!character) ++lines;
-    }
-    // A line end is two characters in the file and one in the text.
-    return file.nFileSizeHigh == 0 && file.nFileSizeLow == header + WrittenSize(text) + lines;
+    return file.nFileSizeHigh == 0 && file.nFileSizeLow == FileBytes(section, text).size();
 }
 
-/// Whether the profile functions read the key back as it was written.
+bool WriteWholeFile(const CString& path, const std::string& bytes) {
+    TemporaryFile temporary(FolderOfPath(path));
+    {
+        const FileHandle file = OwnFile(::CreateFileW(temporary.Path(), GENERIC_WRITE, 0, nullptr,
+                                                      CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+        const DWORD size = static_cast<DWORD>(bytes.size());
+        DWORD written = 0;
+        if (!file || !::WriteFile(file.get(), bytes.data(), size, &written, nullptr) || written != size)
+            return false;
+    }
+    return temporary.MoveTo(path);
+}
+
+/// Whether the profile functions read the key back as it was written and tell it from others as is done here:
+/// which letters beyond ASCII they take for equal is their own business.
 bool IsPlainKey(const CString& key) {
+    for (int i = 0; i < key.GetLength(); ++i) {
+        if (key[i] > 0x7F && (::IsCharUpperW(key[i]) || ::IsCharLowerW(key[i]))) return false;
+    }
     CString trimmed = key;
     trimmed.Trim();
     return trimmed == key && key.FindOneOf(L"=\"\r\n") < 0 && key[0] != L';' && key[0] != L'[';
@@ -102,7 +122,10 @@ void WriteTagEntries(const CString& path, const CString& section, const std::vec
     SectionLines lines(text);
     for (const TagEntry& entry : entries)
         lines.Set(entry);
-    ::WritePrivateProfileSectionW(section, lines.Text().c_str(), path);
+    // The profile functions may look every key up from the first one on, which is too slow for long lists.
+    if (!WriteWholeFile(path, FileBytes(section, lines.Text()))) {
+        ::WritePrivateProfileSectionW(section, lines.Text().c_str(), path);
+    }
 }
 
 } // namespace varnoke

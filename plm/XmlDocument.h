@@ -79,7 +79,7 @@ public:
 private:
     DomElement Append(IXMLDOMNode* parent, _bstr_t& tag);
 
-    IXMLDOMDocument* m_document; // not owned
+    IXMLDOMDocument* m_document; // weak
     _bstr_t m_object{L"obj"};
     _bstr_t m_property{L"pro"};
     _bstr_t m_symbol{L"MSYM"};

@@ -10,33 +10,34 @@ app=$out/app
 rm -rf "$out"
 mkdir -p "$app"
 cp "$build"/bin/*.dll "$build"/bin/*.exe "$build"/bin/ModelConfig.Xml "$app"
-wine() { "$PWD/scripts/wine-run.sh" "$build" "$@"; }
 
 cd "$out"
 export SIGNSERVER_JOURNAL="$out/sign-server.log"
-wine() { ../scripts/wine-run.sh "$build" "$@"; }
-wine app/varnoke-samples.exe .
+host() { ../scripts/wine-run.sh "$build" app/varnoke-host.exe "$@"; }
+../scripts/wine-run.sh "$build" app/varnoke-samples.exe . >/dev/null
 cp Varnoke.ini app/
 
-echo
 if [ "$1" = --interactive ]; then
-    mkdir -p pictures
-    wine app/varnoke-host.exe option --pictures pictures --auto
-    wine app/varnoke-host.exe sign --message message.xml --vault vault --work work --pictures pictures --auto
-    echo
-    echo "pictures of the dialogs: $out/pictures"
-    ls pictures
+    mkdir pictures
+    host option --pictures pictures --auto
+    host sign --message message.xml --vault vault --work work --pictures pictures --auto
+    # The document list is confirmed before it shows. Without a model it has no columns, no rows and stays.
+    mv app/ModelConfig.Xml app/ModelConfig.off
+    mkdir pictures/list
+    host sign --message message.xml --vault vault --work work --pictures pictures/list --auto || true
+    printf '\n== a picture of each dialog: %s\n' "$out/pictures"
+    find pictures -name '*.png' | sort
     exit
 fi
-wine app/varnoke-host.exe back-sign --message message.xml --vault vault --work work --return return.xml
+host back-sign --message message.xml --vault vault --work work --return return.xml
 
 show() {
     printf '\n== %s\n' "$1"
     shift
     "$@"
 }
-show "the return file: $out/return_Ret.Xml" cat return_Ret.Xml
+show "the return file: $out/return_Ret.Xml" sed 's/<obj>/\n&/g; s/<\/type>/\n&/; $a\' return_Ret.Xml
 show "what the signing server noted: $SIGNSERVER_JOURNAL" cat "$SIGNSERVER_JOURNAL"
-show "the sign log that reached the server: $out/vault/signlog" sh -c 'cat vault/signlog/*'
-show "the documents' tags" wine app/varnoke-host.exe status work
-show "the drawings on the server: $out/vault/files" ls -l vault/files
+show "the sign log that reached the server, its first entry: $out/vault/signlog" sed '/<\/obj>/q' vault/signlog/*
+show "the documents' tags" host status work
+show "the drawings on the server: $out/vault/files" find vault/files -type f

@@ -21,6 +21,9 @@ echo "$WINEPREFIX" >>"$VARNOKE_RUN_DIR/prefixes"
 (
     flock 9
     if [ ! -f "$WINEPREFIX/ready" ]; then
+        # The caption buttons' symbols.
+        mkdir -p "$WINEPREFIX/drive_c/windows/Fonts"
+        ln -sf /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
         $wine wineboot --init >/dev/null 2>&1
         touch "$WINEPREFIX/ready"
     fi

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <vector>
 
+#include "module/Guarded.h"
 #include "module/Owned.h"
 #include "module/Text.h"
 
@@ -39,7 +40,13 @@ static_assert(sizeof(_variant_t) == sizeof(VARIANT), "owned arguments go to the 
 
 } // namespace
 
-CCOMAPInvokeHelper::~CCOMAPInvokeHelper() = default;
+CCOMAPInvokeHelper::~CCOMAPInvokeHelper() {
+    // The server's code runs here for the last time.
+    varnoke::Guarded(0L, [&] {
+        m_spServer = nullptr;
+        return 1L;
+    });
+}
 
 long CCOMAPInvokeHelper::CreateFromProgID(const wchar_t* progID) {
     if (!varnoke::HasText(progID)) {

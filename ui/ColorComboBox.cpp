@@ -17,7 +17,7 @@ const int kSwatchLeft = 102;
 } // namespace
 
 BEGIN_MESSAGE_MAP(CColorComboBox, CComboBox)
-ON_CONTROL_REFLECT(CBN_SELENDOK, &CColorComboBox::OnSelendok)
+    ON_CONTROL_REFLECT(CBN_SELENDOK, &CColorComboBox::OnSelendok)
 END_MESSAGE_MAP()
 
 int CColorComboBox::AddColor(COLORREF color) {
@@ -37,7 +37,8 @@ int CColorComboBox::InsertAt(int index, COLORREF color) {
 int CColorComboBox::SelectColor(int index) {
     if (index < 0 || index >= GetCount()) return 0;
     const int result = SetCurSel(index);
-    if (result != CB_ERR) m_nSelected = index;
+    if (result == CB_ERR) return 0;
+    m_nSelected = index;
     return result;
 }
 
@@ -103,10 +104,10 @@ void CColorComboBox::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
     const bool isSelected = (item.itemState & ODS_SELECTED) != 0;
 
     const int saved = ::SaveDC(item.hDC);
-    ::SetTextColor(item.hDC, ::GetSysColor(isSelected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
-    ::SetBkColor(item.hDC, ::GetSysColor(isSelected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
     ::FillRect(item.hDC, &item.rcItem, ::GetSysColorBrush(isSelected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
     if (isSelected && ::GetFocus() == m_hWnd) ::DrawFocusRect(item.hDC, &item.rcItem);
+    ::SetTextColor(item.hDC, ::GetSysColor(isSelected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+    ::SetBkColor(item.hDC, ::GetSysColor(isSelected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
     RECT textRect = item.rcItem;
     textRect.left = kTextLeft;
     if (!isLast) {

@@ -6,6 +6,6 @@
 
 class CDwgviewerctrl1 : public CWnd {
 public:
-    // Shows a drawing (full path). Throws when the control is missing or refuses the call.
+    /// Shows a drawing (full path). Throws when the control is missing or refuses the call.
     long OpenDrawing(const CString& strPath);
 };

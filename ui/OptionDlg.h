@@ -13,7 +13,7 @@ public:
 
     explicit COptionDlg(CWnd* pParent = nullptr);
 
-    // Where the colour is read from and written to; borrowed, must outlive the dialog. Null is refused.
+    /// Where the colour is read from and written to; borrowed, must outlive the dialog. Null is refused.
     int SetSettings(CINIConfig* pSettings);
 
 protected:
@@ -24,5 +24,5 @@ protected:
 
 private:
     CColorComboBox m_comboTextColor;
-    CINIConfig* m_pSettings = nullptr; // not owned
+    CINIConfig* m_pSettings = nullptr; // weak
 };

@@ -5,11 +5,11 @@
 
 namespace varnoke {
 
-// {8E82ADC1-DCB0-4D8D-83E9-9B7CE27A0DC4}; Varnoke.rc names it as the class of control 4000.
+/// {8E82ADC1-DCB0-4D8D-83E9-9B7CE27A0DC4}; Varnoke.rc names it as the class of control 4000.
 inline constexpr CLSID kQORGridClass = {
     0x8e82adc1, 0xdcb0, 0x4d8d, {0x83, 0xe9, 0x9b, 0x7c, 0xe2, 0x7a, 0x0d, 0xc4}};
 
-// Rows and columns count from 0; the header is not a row.
+/// Rows and columns count from 0; the header is not a row.
 enum EQORGridMember : long {
     kGridRowCount = 2,          // property, long
     kGridColumnCount = 3,       // property, long

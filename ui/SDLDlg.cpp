@@ -20,17 +20,16 @@ const long kMinColumnWidth = 80;
 
 // An attribute of one of the configuration's entries; empty when it is absent.
 CString EntryText(QORMODEL::IQORObjConfig& config, long nIndex, const wchar_t* pszName) {
-    BSTR value = nullptr;
-    _com_util::CheckError(config.GetEntryAttribute(nIndex, _bstr_t(pszName), &value));
-    const _bstr_t owned(value, false);
-    return CString(static_cast<const wchar_t*>(owned));
+    _bstr_t value;
+    _com_util::CheckError(config.GetEntryAttribute(nIndex, _bstr_t(pszName), value.GetAddress()));
+    return CString(static_cast<const wchar_t*>(value));
 }
 
 } // namespace
 
 BEGIN_MESSAGE_MAP(CSDLDlg, CDialog)
-ON_BN_CLICKED(IDC_CONFIRM, &CSDLDlg::OnOK)
-ON_BN_CLICKED(IDC_DISMISS, &CSDLDlg::OnCancel)
+    ON_BN_CLICKED(IDC_CONFIRM, &CSDLDlg::OnOK)
+    ON_BN_CLICKED(IDC_DISMISS, &CSDLDlg::OnCancel)
 END_MESSAGE_MAP()
 
 CSDLDlg::CSDLDlg(CWnd* pParent) : CDialog(IDD, pParent) {}

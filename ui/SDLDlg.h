@@ -9,20 +9,20 @@
 
 class CModelConfig;
 
-// With at least one document the dialog ends with IDOK before it is shown, all documents chosen.
+/// With at least one document the dialog ends with IDOK before it is shown, all documents chosen.
 class CSDLDlg : public CDialog {
 public:
     enum { IDD = IDD_SERVER_DOCUMENTS };
 
     explicit CSDLDlg(CWnd* pParent = nullptr);
 
-    // The documents to show and the configuration that gives the columns; both borrowed, both must
-    // outlive the dialog. Each returns 1, or 0 for null.
+    /// The documents to show and the configuration that gives the columns; both borrowed, both must
+    /// outlive the dialog. Each returns 1, or 0 for null.
     int SetSignFileType(SSignType* pSignFileType);
     int SetModelConfig(CModelConfig* pModelConfig);
 
-    // Hands out a copy of the first chosen document that has properties, in a list of its own with an
-    // empty identifier; the caller frees it with Cmn_ReleaseSignType. Returns 1, or 0 (and null).
+    /// Hands out a copy of the first chosen document that has properties, in a list of its own with an
+    /// empty identifier; the caller frees it with Cmn_ReleaseSignType. Returns 1, or 0 (and null).
     int GetSelectedSignFileType(SSignType** ppSignFileType) const;
 
 protected:
@@ -40,8 +40,8 @@ private:
     void KeepChosen();
 
     CQORGrid m_grid;
-    SSignType* m_pSignFileType = nullptr;   // not owned
-    CModelConfig* m_pModelConfig = nullptr; // not owned
+    SSignType* m_pSignFileType = nullptr;   // weak
+    CModelConfig* m_pModelConfig = nullptr; // weak
     varnoke::OwnedRecord<SSignType> m_pChosen;
     CStringList m_columnKeys; // one per grid column
 };

@@ -10,21 +10,21 @@
 
 class CINIConfig;
 
-// Use: construct, call the setters in their order, DoModal(), and after IDOK read the results.
+/// Use: construct, call the setters in their order, DoModal(), and after IDOK read the results.
 class CSignDlg : public CDialog {
 public:
     enum { IDD = IDD_SIGN };
 
     explicit CSignDlg(CWnd* pParent = nullptr);
 
-    // Inputs. Each returns 1, or 0 on failure.
+    /// Inputs. Each returns 1, or 0 on failure.
     int SetScopeSelectable(int nSelectable);        // nonzero: the user may change the scope
     int SetUserName(const CString& strUserName);    // empty: the Windows logon name
     int SetRole(const CString& strRole);            // empty: the designer's role
     int SetSealDrawingPath(const CString& strPath); // empty: refused
     int SetSettings(CINIConfig* pSettings);         // borrowed, must outlive the dialog; null: refused
 
-    // Results of a dialog that ended with IDOK.
+    /// Results of a dialog that ended with IDOK.
     CString UserName() const { return m_strUserNameOut; }
     CString Role() const { return m_strRoleOut; }
     CString SealName() const { return m_strSealNameOut; }
@@ -74,7 +74,7 @@ private:
     CString m_strRoleIn;
     CString m_strSealNameIn;
     CString m_strSealDrawingPath;
-    CINIConfig* m_pSettings = nullptr; // not owned
+    CINIConfig* m_pSettings = nullptr; // weak
     CString m_strUserNameOut;
     CString m_strRoleOut;
     CString m_strSealNameOut;

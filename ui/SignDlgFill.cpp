@@ -99,8 +99,8 @@ void CSignDlg::FillDateLocations() {
 
 void CSignDlg::FillFontSizes() {
     Fill(m_comboFontSize, kFontSizes);
-    long size = kDefaultFontSize;
-    if (m_pSettings != nullptr && m_pSettings->GetDateFontSize() >= 1) size = m_pSettings->GetDateFontSize();
+    long size = m_pSettings != nullptr ? m_pSettings->GetDateFontSize() : kDefaultFontSize;
+    if (size < 1) size = kDefaultFontSize;
     CString text;
     text.Format(L"%ld", size);
     SelectOrInsert(m_comboFontSize, text);

@@ -5,23 +5,23 @@
 #include <afxcmn.h>
 #include "ui/TransferVariant.h"
 
-// Setting a label, and laying out the log's text, costs more than the transfer of a small document. So what
-// is to be shown waits until it is drawn: only the latest label and position, but every log line.
+/// Setting a label, and laying out the log's text, costs more than the transfer of a small document. So what
+/// is to be shown waits until it is drawn: only the latest label and position, but every log line.
 class CTransferDisplay {
 public:
-    // Binds the controls; for the dialog's DoDataExchange.
+    /// Binds the controls; for the dialog's DoDataExchange.
     void Exchange(CDataExchange* pDX, const varnoke::STransferVariant& variant);
     void Start(const CString& strFile, const CString& strTotal, int nCount);
 
     void ShowFile(const CString& strText, int nActivity);
     void ShowTotal(const CString& strText);
-    // Adds a line with the current time; an empty text is not logged.
+    /// Adds a line with the current time; an empty text is not logged.
     void Log(const CString& strText);
 
     void Draw();
-    // Draws unless that was done often and just before.
+    /// Draws unless that was done often and just before.
     void DrawWhenDue();
-    // Draws and moves the activity bar on.
+    /// Draws and moves the activity bar on.
     void StepActivity();
 
 private:
@@ -31,7 +31,7 @@ private:
     CProgressCtrl m_barTotal; // keeps its start position: the count in the label is the progress display
     CEdit m_editLog;
 
-    // What waits to be drawn; empty texts when nothing does.
+    /// What waits to be drawn; empty texts when nothing does.
     CString m_strFile;
     int m_nActivity = 0;
     CString m_strTotal;

@@ -1,9 +1,9 @@
 // All members but the list's items belong to the dialog's thread; the worker is heard of by messages only.
 #include "ui/TransferDlg.h"
 
-#include <comdef.h>
 #include "module/Guarded.h"
 #include "module/InfoMessage.h"
+#include "module/Owned.h"
 #include "ui/ResourceText.h"
 
 using namespace varnoke;
@@ -21,8 +21,8 @@ const DWORD kStartPause = 100; // lets the worker come up
 } // namespace
 
 BEGIN_MESSAGE_MAP(CTransferDlg, CDialog)
-ON_WM_TIMER()
-ON_WM_DESTROY()
+    ON_WM_TIMER()
+    ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 CTransferDlg::CTransferDlg(const STransferVariant& variant, CWnd* pParent)
@@ -123,9 +123,9 @@ LRESULT CTransferDlg::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 
 LRESULT CTransferDlg::OnStep(ETransferStep step, BSTR text) {
     m_worker.ReportTaken();
+    const OwnedBstr owned(text);
     return Guarded<LRESULT>(0, [&]() -> LRESULT {
-        const _bstr_t owned(text, false);
-        HandleStep(step, CString(static_cast<const wchar_t*>(owned)));
+        HandleStep(step, CString(text));
         m_display.DrawWhenDue();
         return 1;
     });

@@ -11,12 +11,13 @@ class CTransferDlg : public CDialog {
 public:
     ~CTransferDlg() override;
 
-    // The documents to transfer; borrowed, must outlive the dialog. Returns 1, or 0 for null.
+    /// The documents to transfer; borrowed, must outlive the dialog. Returns 1, or 0 for null.
     int SetFileList(SSignFileDUL* pFileList);
-    // Runs the transfer. Ends with IDOK, or with IDCANCEL when the user closed it early; then the rest of
-    // the documents is left. Either way nobody writes to the list any more when this returns.
+    /// Runs the transfer. Ends with IDOK, or with IDCANCEL when the user closed it early; then the rest of
+    /// the documents is left. Either way nobody writes to the list any more when this returns.
     INT_PTR DoModal() override;
-    // 0 nothing happened, 1 all done, 2 interrupted, 3 some skipped, 4 some failed. Returns 1, or 0 for null.
+    /// 0 nothing happened, 1 all done, 2 interrupted, 3 some skipped, 4 some failed. Returns 1, or 0 for
+    /// null.
     int GetResultCode(int* pResultCode) const;
 
 protected:
@@ -43,7 +44,7 @@ private:
 
     const varnoke::STransferVariant& m_variant;
     CTransferDisplay m_display;
-    SSignFileDUL* m_pFileList = nullptr; // not owned
+    SSignFileDUL* m_pFileList = nullptr; // weak
     CString m_strWarnings;               // lines to be shown when the run is over
     int m_nResultCode = varnoke::kTransferNone;
     int m_nDone = 0;

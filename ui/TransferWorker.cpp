@@ -1,10 +1,8 @@
 // The worker never touches a control, nor its window once that is closed.
 #include "ui/TransferWorker.h"
 
-#include <comdef.h>
 #include <objbase.h>
 #include <process.h>
-#include <memory>
 #include "module/ModulePaths.h"
 
 using namespace varnoke;
@@ -27,14 +25,14 @@ private:
 };
 
 // Null when there is no memory for the text.
-_bstr_t MessageText(const CString& strPath) {
+OwnedBstr MessageText(const CString& strPath) {
     const UINT length = static_cast<UINT>(strPath.GetLength());
     const UINT room = length < kMessageTextRoom ? kMessageTextRoom : length;
-    const BSTR text = ::SysAllocStringLen(nullptr, room);
-    if (text == nullptr) return _bstr_t();
-    memset(text, 0, room * sizeof(wchar_t));
-    memcpy(text, strPath.GetString(), length * sizeof(wchar_t));
-    return _bstr_t(text, false);
+    OwnedBstr text(::SysAllocStringLen(nullptr, room));
+    if (text == nullptr) return text;
+    memset(text.get(), 0, room * sizeof(wchar_t));
+    memcpy(text.get(), strPath.GetString(), length * sizeof(wchar_t));
+    return text;
 }
 
 } // namespace
@@ -81,7 +79,7 @@ void CTransferWorker::TakeBackMessages() {
             quit = true;
             break;
         }
-        if (msg.hwnd == m_hWnd) const _bstr_t text(reinterpret_cast<BSTR>(msg.wParam), false);
+        if (msg.hwnd == m_hWnd) const OwnedBstr text(reinterpret_cast<BSTR>(msg.wParam));
     }
     if (quit) {
         TakeBackMessages();
@@ -142,10 +140,9 @@ bool CTransferWorker::TransferItem(SSignFileDULItem& item, const CString& strPat
 
 // Returns false when there is no memory for the text or nobody to receive it.
 bool CTransferWorker::PostFile(ETransferStep step, const CString& strPath) {
-    _bstr_t text = MessageText(strPath);
-    const BSTR posted = text.GetBSTR();
-    if (posted == nullptr || !Post(step, posted)) return false;
-    text.Detach();
+    OwnedBstr text = MessageText(strPath);
+    if (text == nullptr || !Post(step, text.get())) return false;
+    text.release(); // the dialog's now
     return true;
 }
 

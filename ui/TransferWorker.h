@@ -6,10 +6,10 @@
 #include "module/SignRecords.h"
 #include "ui/TransferVariant.h"
 
-// Reports to its window by posted messages only. A message about a file carries its local path in wParam,
-// as a BSTR with room for at least 1024 characters, zero-filled; whoever handles the message frees it.
-// Use: one run per object. All members are for the window's thread; the window must call Close while it is
-// still there, and nobody may free the list before Wait has returned.
+/// Reports to its window by posted messages only. A message about a file carries its local path in wParam,
+/// as a BSTR with room for at least 1024 characters, zero-filled; whoever handles the message frees it.
+/// Use: one run per object. All members are for the window's thread; the window must call Close while it is
+/// still there, and nobody may free the list before Wait has returned.
 class CTransferWorker {
 public:
     explicit CTransferWorker(const varnoke::STransferVariant& variant);
@@ -17,15 +17,15 @@ public:
     CTransferWorker(const CTransferWorker&) = delete;
     CTransferWorker& operator=(const CTransferWorker&) = delete;
 
-    // Starts the thread. The list is borrowed; the worker writes the state of its items.
+    /// Starts the thread. The list is borrowed; the worker writes the state of its items.
     bool Start(SSignFileDUL* pList, HWND hWnd);
-    // To be called for each message that has been handled: the worker lets only so many lie in the queue, so
-    // that the window stays quick to answer.
+    /// To be called for each message that has been handled: the worker lets only so many lie in the queue, so
+    /// that the window stays quick to answer.
     void ReportTaken();
-    // After the file in hand no further one is transferred and nothing more is posted; what was posted and
-    // not yet handled is taken back.
+    /// After the file in hand no further one is transferred and nothing more is posted; what was posted and
+    /// not yet handled is taken back.
     void Close();
-    // Returns when the thread has ended; until then messages that other threads send are answered.
+    /// Returns when the thread has ended; until then messages that other threads send are answered.
     void Wait();
 
 private:
@@ -41,8 +41,8 @@ private:
     void TakeBackMessages();
 
     const varnoke::STransferVariant& m_variant;
-    SSignFileDUL* m_pList = nullptr; // not owned
-    HWND m_hWnd = nullptr;           // not owned; not touched once closed
+    SSignFileDUL* m_pList = nullptr; // weak
+    HWND m_hWnd = nullptr;           // weak; not touched once closed
     varnoke::KernelHandle m_hThread;
     unsigned m_nThreadId = 0;
     SRWLOCK m_lock = SRWLOCK_INIT;        // a post and closing exclude each other

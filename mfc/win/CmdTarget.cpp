@@ -36,7 +36,7 @@ BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void*, void*) {
     const UINT nMessage = HIWORD(nCode) != 0 ? HIWORD(nCode) : WM_COMMAND;
     const AFX_MSGMAP_ENTRY* pEntry = FindMessageEntry(nMessage, LOWORD(nCode), nID);
     if (pEntry == nullptr) return FALSE;
-    AFX_MSGCALL call = {nMessage, 0, 0, 0};
+    AFX_MSGCALL call = {0, 0, 0};
     pEntry->pfn(this, call);
     return TRUE;
 }

@@ -11,7 +11,6 @@ class CCmdTarget;
 
 // A message or command on its way through the maps.
 struct AFX_MSGCALL {
-    UINT nMessage;
     WPARAM wParam;
     LPARAM lParam;
     LRESULT lResult;

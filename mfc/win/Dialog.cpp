@@ -8,9 +8,9 @@
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
 
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
-ON_COMMAND(IDOK, &CDialog::OnOK)
-ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
-ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
+    ON_COMMAND(IDOK, &CDialog::OnOK)
+    ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+    ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
 END_MESSAGE_MAP()
 
 namespace {
@@ -40,8 +40,6 @@ void RegisterCommonControls() {
 }
 
 } // namespace
-
-CDialog::CDialog() : CDialog(0u) {}
 
 CDialog::CDialog(UINT nIDTemplate, CWnd* pParentWnd)
     : m_lpszTemplateName(MAKEINTRESOURCE(nIDTemplate)), m_pParentWnd(pParentWnd), m_pTemplate(nullptr) {}
@@ -74,13 +72,15 @@ INT_PTR CDialog::DoModal() {
 }
 
 void CDialog::RunFromTemplate(HWND hWndOwner) {
-    CThreadWindows& windows = CThreadWindows::Get();
+    CThreadWindows::Get().m_pCreating = this;
     CDisabledOwner owner(hWndOwner);
-    windows.m_pCreating = this;
     const HWND hWnd = ::CreateDialogIndirectParam(AfxGetResourceHandle(), m_pTemplate->Get(), hWndOwner,
                                                   &CDialog::DialogProc, 0);
-    windows.TakeCreated();
-    if (hWnd == nullptr) return;
+    CThreadWindows::TakeCreated();
+    if (hWnd == nullptr) {
+        CThreadWindows::DropIfUnused();
+        return;
+    }
     if (m_nFlags & WF_CONTINUEMODAL) RunModalLoop(MLF_SHOWONIDLE);
     if (m_hWnd == nullptr) return; // somebody destroyed the window
 
@@ -98,7 +98,7 @@ INT_PTR CALLBACK CDialog::DialogProc(HWND hWnd, UINT message, WPARAM wParam, LPA
     AFX_MANAGE_STATE(AfxGetStaticModuleState())
     try {
         CWnd* pWnd = FromHandlePermanent(hWnd);
-        if (pWnd == nullptr && (pWnd = CThreadWindows::Get().TakeCreated()) != nullptr) {
+        if (pWnd == nullptr && (pWnd = CThreadWindows::TakeCreated()) != nullptr) {
             pWnd->SubclassWindow(hWnd);
             // This very message came past the object.
             if (message == WM_INITDIALOG) return AfxWndProc(hWnd, message, wParam, lParam);

@@ -23,7 +23,6 @@ void AFXAPI DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl);
 class CDialog : public CWnd {
     DECLARE_DYNAMIC(CDialog)
 public:
-    CDialog();
     explicit CDialog(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
     virtual ~CDialog();
 

@@ -20,14 +20,16 @@ BOOL WithoutExceptions(TStep step) noexcept {
 BOOL Start(HINSTANCE hInstance) {
     AfxWinInit(hInstance, nullptr, nullptr, 0);
     g_bStarted = true;
-    return AfxGetApp()->InitInstance();
+    CWinApp* pApp = AfxGetApp();
+    return pApp == nullptr || pApp->InitInstance();
 }
 
 BOOL End() {
     if (!g_bStarted) return FALSE;
     g_bStarted = false;
     CThreadWindows::Drop();
-    return AfxGetApp()->ExitInstance() == 0;
+    CWinApp* pApp = AfxGetApp();
+    return pApp == nullptr || pApp->ExitInstance() == 0;
 }
 
 } // namespace

@@ -52,7 +52,8 @@ IUnknown* OleContainer::GetControl(HWND hWndHost) {
 
 BOOL OleContainer::TranslateKey(HWND hWndDialog, MSG* pMsg) {
     if (pMsg->message < WM_KEYFIRST || pMsg->message > WM_KEYLAST) return FALSE;
-    for (HWND hWnd = pMsg->hwnd; hWnd != nullptr && hWnd != hWndDialog; hWnd = ::GetParent(hWnd)) {
+    for (HWND hWnd = pMsg->hwnd; hWnd != nullptr && hWnd != hWndDialog;
+         hWnd = ::GetAncestor(hWnd, GA_PARENT)) {
         if (IsHostWindow(hWnd))
             return ::SendMessageW(hWnd, WM_FORWARDMSG, 0, reinterpret_cast<LPARAM>(pMsg)) != 0;
     }

@@ -1,6 +1,8 @@
 // What the framework keeps per thread.
 #include "win/ThreadWindows.h"
 
+#include <utility>
+
 namespace {
 
 // A slot rather than a thread_local object: the record goes as soon as it holds nothing, so a thread that
@@ -74,9 +76,8 @@ CWnd* CThreadWindows::FindWindow(HWND hWnd) const {
 }
 
 CWnd* CThreadWindows::TakeCreated() {
-    CWnd* pWnd = m_pCreating;
-    m_pCreating = nullptr;
-    return pWnd;
+    CThreadWindows* pWindows = Find();
+    return pWindows != nullptr ? std::exchange(pWindows->m_pCreating, nullptr) : nullptr;
 }
 
 CMessageInProgress::CMessageInProgress(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)

@@ -21,10 +21,10 @@ public:
     static void DropIfUnused();
     // Frees the calling thread's record whatever it holds; the thread is about to end.
     static void Drop();
+    // Gives up the object that waits for the window that the calling thread creates; null when none waits.
+    static CWnd* TakeCreated();
 
     CWnd* FindWindow(HWND hWnd) const;
-    // Gives the window to the object that waits for the window it is creating; null when none waits.
-    CWnd* TakeCreated();
 
     std::unordered_map<HWND, CWnd*> m_windows;
     std::unordered_map<HWND, std::unique_ptr<CWnd, LendingDelete>> m_temporaryWindows;

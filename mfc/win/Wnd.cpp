@@ -73,11 +73,10 @@ HWND CWnd::UnsubclassWindow() {
 BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, int x,
                     int y, int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam) {
     // A class of the framework's own takes the object with its first message, others are subclassed after.
-    CThreadWindows& windows = CThreadWindows::Get();
-    windows.m_pCreating = this;
+    CThreadWindows::Get().m_pCreating = this;
     const HWND hWnd = ::CreateWindowEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, x, y, nWidth,
                                        nHeight, hWndParent, nIDorHMenu, AfxGetInstanceHandle(), lpParam);
-    const BOOL bWaiting = windows.TakeCreated() != nullptr;
+    const BOOL bWaiting = CThreadWindows::TakeCreated() != nullptr;
     if (hWnd == nullptr) CThreadWindows::DropIfUnused();
     return hWnd != nullptr && (!bWaiting || SubclassWindow(hWnd));
 }

@@ -8,7 +8,6 @@
 class CDataExchange;
 
 #define MLF_NOIDLEMSG 0x0001
-#define MLF_NOKICKIDLE 0x0002
 #define MLF_SHOWONIDLE 0x0004
 
 class CWnd : public CCmdTarget {

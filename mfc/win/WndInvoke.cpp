@@ -11,39 +11,20 @@ _COM_SMARTPTR_TYPEDEF(IDispatch, __uuidof(IDispatch));
 
 namespace {
 
-// Marks an argument type as a pointer in the one-byte form.
-constexpr BYTE byReference = 0x40;
-
 _variant_t NextArgument(BYTE type, va_list& args) {
-    _variant_t value;
-    if (type & byReference) {
-        value.vt = static_cast<VARTYPE>((type & ~byReference) | VT_BYREF);
-        value.byref = va_arg(args, void*);
-        return value;
-    }
     switch (type) {
-    case VT_I2:
-        return _variant_t(static_cast<short>(va_arg(args, int)));
     case VT_I4:
         return _variant_t(va_arg(args, long));
-    case VT_R4:
-        return _variant_t(static_cast<float>(va_arg(args, double)));
     case VT_R8:
         return _variant_t(va_arg(args, double));
     case VT_BOOL:
-        return _variant_t(va_arg(args, int) != 0);
+        return _variant_t(va_arg(args, BOOL) != FALSE);
     case VT_BSTR:
         return _variant_t(va_arg(args, LPCWSTR));
-    case VT_VARIANT:
-        return _variant_t(*va_arg(args, const VARIANT*));
     case VT_DISPATCH:
         return _variant_t(va_arg(args, IDispatch*));
-    case VT_UNKNOWN:
-        return _variant_t(va_arg(args, IUnknown*));
-    case VT_ERROR:
-        value.vt = VT_ERROR;
-        value.scode = va_arg(args, SCODE);
-        return value;
+    case VT_VARIANT:
+        return _variant_t(*va_arg(args, const VARIANT*));
     default:
         AfxThrowOleException(E_INVALIDARG);
     }
@@ -78,14 +59,8 @@ void StoreResult(_variant_t& result, VARTYPE vt, void* pvRet) {
     const HRESULT hr = ::VariantChangeType(&result, &result, 0, vt);
     if (FAILED(hr)) AfxThrowOleException(hr);
     switch (vt) {
-    case VT_I2:
-        *static_cast<short*>(pvRet) = result.iVal;
-        break;
     case VT_I4:
         *static_cast<long*>(pvRet) = result.lVal;
-        break;
-    case VT_R4:
-        *static_cast<float*>(pvRet) = result.fltVal;
         break;
     case VT_R8:
         *static_cast<double*>(pvRet) = result.dblVal;
@@ -97,8 +72,7 @@ void StoreResult(_variant_t& result, VARTYPE vt, void* pvRet) {
         *static_cast<CString*>(pvRet) = result.bstrVal;
         break;
     case VT_DISPATCH:
-    case VT_UNKNOWN:
-        *static_cast<IUnknown**>(pvRet) = result.Detach().punkVal;
+        *static_cast<IDispatch**>(pvRet) = result.Detach().pdispVal;
         break;
     default:
         AfxThrowOleException(E_INVALIDARG);
@@ -144,8 +118,7 @@ void AFX_CDECL CWnd::InvokeHelper(DISPID dwDispID, WORD wFlags, VARTYPE vtRet, v
 }
 
 void AFX_CDECL CWnd::SetProperty(DISPID dwDispID, VARTYPE vtProp, ...) {
-    const BYTE types[] = {static_cast<BYTE>(vtProp & VT_BYREF ? (vtProp & ~VT_BYREF) | byReference : vtProp),
-                          0};
+    const BYTE types[] = {static_cast<BYTE>(vtProp), 0};
     va_list argList;
 #ifdef __clang__
 #pragma clang diagnostic push

@@ -8,7 +8,7 @@ namespace {
 // As in a window procedure, a failing handler has dealt with its message.
 bool PreTranslate(MSG* pMsg) {
     try {
-        for (HWND hWnd = pMsg->hwnd; hWnd != nullptr; hWnd = ::GetParent(hWnd)) {
+        for (HWND hWnd = pMsg->hwnd; hWnd != nullptr; hWnd = ::GetAncestor(hWnd, GA_PARENT)) {
             CWnd* pWnd = CWnd::FromHandlePermanent(hWnd);
             if (pWnd != nullptr && pWnd->PreTranslateMessage(pMsg)) return true;
         }

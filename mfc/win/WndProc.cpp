@@ -2,9 +2,9 @@
 #include "win/ThreadWindows.h"
 
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
-ON_WM_NCDESTROY()
-ON_WM_DRAWITEM()
-ON_WM_MEASUREITEM()
+    ON_WM_NCDESTROY()
+    ON_WM_DRAWITEM()
+    ON_WM_MEASUREITEM()
 END_MESSAGE_MAP()
 
 namespace {
@@ -23,9 +23,8 @@ LRESULT ResultOfFailedHandler(HWND hWnd, UINT nMsg) {
 }
 
 CWnd* FindOrAttachCreated(HWND hWnd) {
-    CThreadWindows& windows = CThreadWindows::Get();
-    CWnd* pWnd = windows.FindWindow(hWnd);
-    if (pWnd == nullptr && (pWnd = windows.TakeCreated()) != nullptr) pWnd->Attach(hWnd);
+    CWnd* pWnd = CWnd::FromHandlePermanent(hWnd);
+    if (pWnd == nullptr && (pWnd = CThreadWindows::TakeCreated()) != nullptr) pWnd->Attach(hWnd);
     return pWnd;
 }
 
@@ -83,7 +82,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
     }
     const AFX_MSGMAP_ENTRY* pEntry = FindMessageEntry(message, 0, 0);
     if (pEntry == nullptr) return FALSE;
-    AFX_MSGCALL call = {message, wParam, lParam, 0};
+    AFX_MSGCALL call = {wParam, lParam, 0};
     pEntry->pfn(this, call); // may delete this object
     *pResult = call.lResult;
     return TRUE;

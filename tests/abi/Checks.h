@@ -8,8 +8,7 @@ void Check(bool holds, const char* text, const char* file, int line);
 // Each runs the checks of one file.
 void Runtime();
 void Modules();
-void Records();
-void Strings();
+void Library();
 
 } // namespace checks
 

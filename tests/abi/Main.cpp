@@ -21,8 +21,7 @@ int wmain(int argc, wchar_t** argv) {
         return 2;
     checks::Runtime();
     checks::Modules();
-    checks::Records();
-    checks::Strings();
+    checks::Library();
     CoUninitialize();
     printf("%d passed, %d failed\n", g_passed, g_failed);
     return g_failed == 0 ? 0 : 1;

@@ -14,10 +14,6 @@ Function* Find(HMODULE module, const char* name) {
     return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(module, name)));
 }
 
-DWORD WINAPI AddInThread(void* function) {
-    return reinterpret_cast<int (*)(int)>(function)(1);
-}
-
 void ProbeRound() {
     HMODULE probe = LoadLibraryW(L"abi-probe.dll");
     CHECK(probe != nullptr);
@@ -27,8 +23,11 @@ void ProbeRound() {
 
     auto* addToThreadValue = Find<int(int)>(probe, "ProbeThreadValue");
     CHECK(addToThreadValue(10) == 17);
+    const auto addInThread = [](void* function) -> DWORD {
+        return reinterpret_cast<int (*)(int)>(function)(1);
+    };
     HANDLE thread =
-        CreateThread(nullptr, 0, AddInThread, reinterpret_cast<void*>(addToThreadValue), 0, nullptr);
+        CreateThread(nullptr, 0, addInThread, reinterpret_cast<void*>(addToThreadValue), 0, nullptr);
     WaitForSingleObject(thread, INFINITE);
     DWORD inThread = 0;
     GetExitCodeThread(thread, &inThread);
@@ -40,26 +39,10 @@ void ProbeRound() {
     CHECK(GetModuleHandleW(L"abi-probe.dll") == nullptr);
 }
 
-// A copy under another name, because this program itself holds the library.
-void LibraryRound(const wchar_t* copy) {
-    HMODULE library = LoadLibraryW(copy);
-    CHECK(library != nullptr);
-    if (library == nullptr) return;
-    auto* construct = Find<void*(void*)>(library, "??0CPLMInteract@@QEAA@XZ");
-    auto* destroy = Find<void(void*)>(library, "??1CPLMInteract@@UEAA@XZ");
-    CHECK(construct != nullptr && destroy != nullptr);
-    if (construct != nullptr && destroy != nullptr) {
-        alignas(16) char object[1024];
-        CHECK(construct(object) == object);
-        destroy(object);
-    }
-    FreeLibrary(library);
-    CHECK(GetModuleHandleW(copy) == nullptr);
-}
-
 } // namespace
 
 void checks::Modules() {
+    // A copy of the library, because this program itself holds it.
     wchar_t original[MAX_PATH], copy[MAX_PATH];
     GetModuleFileNameW(GetModuleHandleW(L"Varnoke.dll"), original, MAX_PATH);
     wcscpy(copy, original);
@@ -67,7 +50,7 @@ void checks::Modules() {
     CHECK(CopyFileW(original, copy, FALSE));
     for (int round = 0; round < 3; ++round) {
         ProbeRound();
-        LibraryRound(copy);
+        CHECK(FreeLibrary(LoadLibraryW(copy)) && GetModuleHandleW(copy) == nullptr);
     }
     DeleteFileW(copy);
 }

@@ -1,5 +1,7 @@
 // The server access library's stand-in finds its folder and its faults by environment variables.
 #include "tests/dialogs/DialogFixture.h"
+#include "tests/support/MemoryUse.h"
+#include "tests/support/ObjectCounts.h"
 
 namespace tests {
 
@@ -33,11 +35,15 @@ void DialogFixture::ExpectBoxes(const wchar_t* owner, const std::vector<std::wst
     }
 }
 
-std::vector<DWORD> DialogFixture::Handles() {
-    DWORD kernel = 0;
-    GetProcessHandleCount(GetCurrentProcess(), &kernel);
-    return {kernel, GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS),
-            GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS)};
+void DialogFixture::ExpectNothingLeft(const std::function<void()>& run) {
+    for (int round = 0; round < 5; ++round) // what the system keeps for good
+        run();
+    const ObjectCounts before = CountObjects();
+    EXPECT_LT(MemoryGrowth(197, run), 128 * 1024);
+    const ObjectCounts after = CountObjects();
+    EXPECT_EQ(before.m_windows, after.m_windows);
+    EXPECT_EQ(before.m_gdi, after.m_gdi);
+    EXPECT_EQ(before.m_kernel, after.m_kernel);
 }
 
 } // namespace tests

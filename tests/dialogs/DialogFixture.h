@@ -31,8 +31,8 @@ protected:
     // Expects exactly these messages to have been shown, each in the library's own box, owned by the
     // dialog of that caption.
     void ExpectBoxes(const wchar_t* owner, const std::vector<std::wstring>& texts) const;
-    // Numbers of kernel handles and window system objects of the process.
-    static std::vector<DWORD> Handles();
+    // Runs a dialog 200 times and expects neither objects nor memory to remain.
+    static void ExpectNothingLeft(const std::function<void()>& run);
 
     TempFolder m_folder;
     SettingsFile m_settings;

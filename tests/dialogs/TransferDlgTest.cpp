@@ -1,5 +1,6 @@
 // The transfer dialogs, shown by CPLMInteract::DownloadDoc and UploadDoc.
 #include "tests/dialogs/DialogFixture.h"
+#include "tests/support/ObjectCounts.h"
 #include <commctrl.h>
 #include <fstream>
 
@@ -212,10 +213,12 @@ TEST_F(Upload, Runs_LeaveNothingBehind) {
         Transfer(kUpload);
     };
     run(1);
-    const std::vector<DWORD> before = Handles();
-    for (int round = 0; round < 10; ++round)
-        run(1 + round);
-    EXPECT_EQ(before, Handles());
+    const ObjectCounts before = CountObjects();
+    for (int round = 1; round < 10; ++round)
+        run(round);
+    const ObjectCounts after = CountObjects();
+    EXPECT_EQ(before.m_windows, after.m_windows);
+    EXPECT_EQ(before.m_kernel, after.m_kernel) << "threads and events of runs that were closed early";
 }
 
 } // namespace

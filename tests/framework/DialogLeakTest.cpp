@@ -87,5 +87,5 @@ TEST(DialogLeak, TwoHundredRuns_LeaveNothing) {
     EXPECT_EQ(nKernel, CountKernelHandles());
     // Only now has the heap grown to what it needs.
     EXPECT_LT(tests::MemoryGrowth(100, [&] { RunDialogs(host); }), 32 * 1024);
-    EXPECT_EQ(0, FakeControlClass::LiveReferences());
+    EXPECT_EQ(0, FakeControlClass::LiveObjects());
 }

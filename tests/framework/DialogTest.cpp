@@ -55,16 +55,12 @@ TEST(Dialog, Owner_IsDisabledWhileTheDialogRuns) {
     child.Attach(::CreateWindowEx(0, _T("STATIC"), nullptr, WS_CHILD, 0, 0, 9, 9, *host.Window(), nullptr,
                                   nullptr, nullptr));
     CScriptedDialog dialog(IDD_PLAIN, &child);
-    BOOL bEnabled = TRUE;
-    HWND hOwner = nullptr;
     dialog.m_script = [&](CScriptedDialog& d) {
-        bEnabled = host.Window()->IsWindowEnabled();
-        hOwner = ::GetWindow(d, GW_OWNER);
+        EXPECT_FALSE(host.Window()->IsWindowEnabled());
+        EXPECT_EQ(host.Window()->m_hWnd, ::GetWindow(d, GW_OWNER));
         d.EndDialog(1);
     };
     EXPECT_EQ(1, dialog.DoModal());
-    EXPECT_FALSE(bEnabled);
-    EXPECT_EQ(host.Window()->m_hWnd, hOwner);
     EXPECT_TRUE(host.Window()->IsWindowEnabled());
     EXPECT_EQ(host.Window()->m_hWnd, ::GetActiveWindow());
 
@@ -101,16 +97,9 @@ TEST(Dialog, Keys_EscapeCancelsAndEnterPressesTheDefaultButton) {
     };
     EXPECT_EQ(IDCANCEL, dialog.DoModal());
 
-    class CDefaultDialog : public CScriptedDialog {
-    public:
-        using CScriptedDialog::CScriptedDialog;
-        BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
-            if (wParam == MAKEWPARAM(IDC_DEFAULT, BN_CLICKED)) EndDialog(9);
-            return CScriptedDialog::OnCommand(wParam, lParam);
-        }
-    } withDefault(IDD_PLAIN, host);
-    withDefault.m_script = [](CScriptedDialog& d) { PressKey(d, VK_RETURN); };
-    EXPECT_EQ(9, withDefault.DoModal());
+    dialog.m_script = [](CScriptedDialog& d) { PressKey(d, VK_RETURN); };
+    dialog.m_click = [](CScriptedDialog& d) { d.EndDialog(9); };
+    EXPECT_EQ(9, dialog.DoModal());
 }
 
 TEST(Dialog, OpensCentredOverItsOwner) {

@@ -63,8 +63,8 @@ TEST_F(OleControl, Members_AreCalledByIdentifier) {
         ASSERT_NE(nullptr, control.GetControlUnknown());
         static const BYTE parms[] = VTS_BSTR VTS_I4 VTS_R8 VTS_BOOL;
         CString text;
-        control.InvokeHelper(FakeJoin, DISPATCH_METHOD, VT_BSTR, &text, parms, L"文", 7L, 2.5, TRUE);
-        EXPECT_STREQ(L"文:7:25:-1", text);
+        control.InvokeHelper(FakeJoin, DISPATCH_METHOD, VT_BSTR, &text, parms, L"文", 8L, 2.5, TRUE);
+        EXPECT_STREQ(L"文:8:20:-1", text);
         control.SetProperty(FakeNumber, VT_I4, 42L);
         long nNumber = 0;
         control.GetProperty(FakeNumber, VT_I4, &nNumber);
@@ -76,7 +76,7 @@ TEST_F(OleControl, Members_AreCalledByIdentifier) {
         ASSERT_NE(nullptr, pSelf);
         pSelf->Release(); // it came with a reference
     });
-    EXPECT_EQ(0, FakeControlClass::LiveReferences());
+    EXPECT_EQ(0, FakeControlClass::LiveObjects());
 }
 
 TEST_F(OleControl, Failures_AreExceptions) {
@@ -101,5 +101,5 @@ TEST_F(OleControl, Failures_AreExceptions) {
             e->Delete();
         }
     });
-    EXPECT_EQ(0, FakeControlClass::LiveReferences());
+    EXPECT_EQ(0, FakeControlClass::LiveObjects());
 }

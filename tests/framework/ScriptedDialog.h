@@ -6,8 +6,6 @@
 #include <afxwin.h>
 
 #include <functional>
-#include <string>
-#include <vector>
 
 #include "tests/framework/resource.h"
 
@@ -22,7 +20,7 @@ public:
 
     Script m_init;           // in OnInitDialog
     Script m_script;         // once, in the modal loop
-    Script m_click, m_timer; // on IDC_PRESS, on a timer
+    Script m_click, m_timer; // on one of the two buttons, on a timer
     BOOL m_bFocus = TRUE;    // OnInitDialog's result
     bool m_bWasVisible = false;
 

@@ -22,25 +22,31 @@ class CEchoEdit : public CEdit {
 public:
     bool m_bToldBefore = false;
     int m_nDestroyed = 0;
+    bool m_bSawCreate = false;
 
 protected:
     void PreSubclassWindow() override { m_bToldBefore = m_hWnd != nullptr; }
     void PostNcDestroy() override { ++m_nDestroyed; }
     afx_msg LRESULT OnEcho(WPARAM wParam, LPARAM lParam) { return static_cast<LRESULT>(wParam) + lParam; }
     afx_msg LRESULT OnFail(WPARAM, LPARAM) { throw new CCountedError; }
-    afx_msg LRESULT OnFailHard(WPARAM, LPARAM) { throw std::runtime_error("no framework exception"); }
+    afx_msg LRESULT OnFailHard(WPARAM, LPARAM) { throw std::runtime_error("not the framework's"); }
+    afx_msg LRESULT OnCreate(WPARAM, LPARAM) {
+        m_bSawCreate = true;
+        return Default();
+    }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(CEchoEdit, CEdit)
-ON_MESSAGE(WM_ECHO, &CEchoEdit::OnEcho)
-ON_MESSAGE(WM_FAIL, &CEchoEdit::OnFail)
-ON_MESSAGE(WM_FAIL_HARD, &CEchoEdit::OnFailHard)
+    ON_MESSAGE(WM_ECHO, &CEchoEdit::OnEcho)
+    ON_MESSAGE(WM_FAIL, &CEchoEdit::OnFail)
+    ON_MESSAGE(WM_FAIL_HARD, &CEchoEdit::OnFailHard)
+    ON_MESSAGE(WM_CREATE, &CEchoEdit::OnCreate)
 END_MESSAGE_MAP()
 
 HWND NewEdit() {
-    return ::CreateWindowEx(0, _T("EDIT"), _T("text"), WS_POPUP, 0, 0, 100, 20, nullptr, nullptr,
-                            AfxGetInstanceHandle(), nullptr);
+    return ::CreateWindowEx(0, _T("EDIT"), _T("text"), WS_POPUP, 0, 0, 100, 20, nullptr, nullptr, nullptr,
+                            nullptr);
 }
 
 } // namespace
@@ -54,6 +60,9 @@ TEST(Window, Subclass_RoutesMessagesAndGivesThemBack) {
     EXPECT_FALSE(second.SubclassWindow(hWnd));
     EXPECT_EQ(nullptr, second.m_hWnd);
     EXPECT_EQ(&edit, CWnd::FromHandle(hWnd));
+    CWnd* pElsewhere = &edit;
+    std::thread([&] { pElsewhere = CWnd::FromHandlePermanent(hWnd); }).join();
+    EXPECT_EQ(nullptr, pElsewhere) << "objects belong to their thread";
 
     EXPECT_EQ(7, ::SendMessage(hWnd, WM_ECHO, 3, 4));
     CString text;
@@ -65,17 +74,9 @@ TEST(Window, Subclass_RoutesMessagesAndGivesThemBack) {
     EXPECT_EQ(0, ::SendMessage(hWnd, WM_ECHO, 3, 4));
     EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(hWnd));
     ASSERT_TRUE(second.SubclassWindow(hWnd));
-    EXPECT_TRUE(second.DestroyWindow());
+    ::DestroyWindow(hWnd);
     EXPECT_EQ(nullptr, second.m_hWnd);
     EXPECT_EQ(1, second.m_nDestroyed);
-}
-
-TEST(Window, DestroyedFromOutside_FreesTheObject) {
-    CEchoEdit edit;
-    ASSERT_TRUE(edit.SubclassWindow(NewEdit()));
-    ::DestroyWindow(edit.m_hWnd);
-    EXPECT_EQ(nullptr, edit.m_hWnd);
-    EXPECT_TRUE(edit.SubclassWindow(NewEdit()));
 }
 
 TEST(Window, Destructor_DestroysItsWindowButNotALentOne) {
@@ -91,20 +92,7 @@ TEST(Window, Destructor_DestroysItsWindowButNotALentOne) {
     CWnd::DeleteTempMap();
     EXPECT_TRUE(::IsWindow(hLent));
     ::DestroyWindow(hLent);
-}
-
-TEST(Window, NullObject_HasNoHandle) {
-    CWnd* pNone = CWnd::FromHandle(nullptr);
-    EXPECT_EQ(nullptr, pNone);
-    EXPECT_EQ(nullptr, pNone->GetSafeHwnd());
-}
-
-TEST(Window, Objects_BelongToTheirThread) {
-    CEchoEdit edit;
-    ASSERT_TRUE(edit.SubclassWindow(NewEdit()));
-    CWnd* pElsewhere = &edit;
-    std::thread([&] { pElsewhere = CWnd::FromHandlePermanent(edit.m_hWnd); }).join();
-    EXPECT_EQ(nullptr, pElsewhere);
+    EXPECT_EQ(nullptr, CWnd::FromHandle(nullptr)->GetSafeHwnd());
 }
 
 TEST(Window, FailingHandler_IsStoppedAtTheWindowProcedure) {
@@ -116,21 +104,16 @@ TEST(Window, FailingHandler_IsStoppedAtTheWindowProcedure) {
     EXPECT_EQ(3, edit.SendMessage(WM_ECHO, 1, 2));
 }
 
-TEST(Window, CreateEx_OwnClassSeesEveryMessage) {
-    class CRecorder : public CWnd {
-    public:
-        std::vector<UINT> m_messages;
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-            m_messages.push_back(message);
-            return CWnd::WindowProc(message, wParam, lParam);
-        }
-    } recorder;
+TEST(Window, CreateEx_OwnClassIsServedFromTheStart) {
     const CString windowClass = AfxRegisterWndClass(CS_HREDRAW);
     EXPECT_STREQ(windowClass, AfxRegisterWndClass(CS_HREDRAW));
-    ASSERT_TRUE(recorder.CreateEx(0, windowClass, _T("recorder"), WS_POPUP, 0, 0, 50, 50, nullptr, nullptr));
-    recorder.DestroyWindow();
-    for (const UINT message : {WM_NCCREATE, WM_CREATE, WM_DESTROY, WM_NCDESTROY})
-        EXPECT_NE(recorder.m_messages.end(),
-                  std::find(recorder.m_messages.begin(), recorder.m_messages.end(), UINT(message)))
-            << message;
+    for (const wchar_t* name : {windowClass.GetString(), L"EDIT"}) {
+        CEchoEdit window;
+        ASSERT_TRUE(window.CreateEx(0, name, _T("window"), WS_POPUP, 0, 0, 50, 50, nullptr, nullptr)) << name;
+        EXPECT_EQ(windowClass == name, window.m_bSawCreate);
+        EXPECT_EQ(3, window.SendMessage(WM_ECHO, 1, 2));
+        EXPECT_TRUE(window.DestroyWindow());
+        EXPECT_EQ(1, window.m_nDestroyed);
+        EXPECT_FALSE(window.CreateEx(0, _T("no such class"), name, WS_POPUP, 0, 0, 1, 1, nullptr, nullptr));
+    }
 }

@@ -1,4 +1,4 @@
-// An ActiveX control in a window of the system's control container.
+// Automation calls, and an ActiveX control in a window of the system's control container.
 #pragma once
 
 #include <windows.h>
@@ -10,29 +10,20 @@ namespace tests {
 
 using DispatchPtr = _com_ptr_t<_com_IIID<IDispatch, &IID_IDispatch>>;
 
-class HostedControl {
-public:
+// Arguments in the member's order.
+HRESULT Invoke(IDispatch* object, DISPID id, WORD flags, std::vector<_variant_t> arguments,
+               _variant_t* result = nullptr, UINT* badArgument = nullptr);
+// Handles the messages that are waiting.
+void Pump();
+
+struct HostedControl {
     // Makes a visible top-level window with the container's window as its child, and the control in that.
     explicit HostedControl(const CLSID& clsid);
     ~HostedControl();
-    HostedControl(const HostedControl&) = delete;
-    HostedControl& operator=(const HostedControl&) = delete;
-
-    IDispatch* Control() const { return m_control; }
-    // The container's window.
-    HWND Container() const { return m_container; }
     // The control's own window.
-    HWND Window() const;
-    // Arguments in the member's order.
-    HRESULT Invoke(DISPID id, WORD flags, std::vector<_variant_t> arguments, _variant_t* result = nullptr);
-    // Handles the messages that are waiting.
-    static void Pump();
-    // The colour of a pixel of the control's window.
-    COLORREF PixelAt(int x, int y) const;
+    HWND Window() const { return GetWindow(m_container, GW_CHILD); }
 
-private:
-    HWND m_frame = nullptr;
-    HWND m_container = nullptr;
+    HWND m_frame, m_container;
     DispatchPtr m_control;
     _com_ptr_t<_com_IIID<IUnknown, &IID_IUnknown>> m_site;
 };

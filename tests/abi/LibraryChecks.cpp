@@ -1,0 +1,150 @@
+// Varnoke.dll as another compiler's program uses it: records by offset, built on either side and released by
+// the library; CString by value; exceptions that must not come out.
+#include <afxwin.h>
+#include <malloc.h>
+#include "plm/PLMInteract.h"
+#include "sign/SignOpt.h"
+#include "tests/abi/Checks.h"
+
+namespace {
+
+struct RawNode {
+    RawNode* next;
+    RawNode* previous;
+    void* data;
+};
+
+struct RawList {
+    void* functions;
+    RawNode* head;
+    RawNode* tail;
+    INT_PTR count;
+    RawNode* freeNodes;
+    void* blocks;
+    INT_PTR blockSize;
+};
+
+CString TextAt(const void* record, size_t offset) {
+    return *reinterpret_cast<const wchar_t* const*>(static_cast<const char*>(record) + offset);
+}
+
+const RawList& ListAt(const void* record) {
+    return *static_cast<const RawList*>(record);
+}
+
+void Records(CPLMInteract& plm, CString folder) {
+    SLoginInfo* login = nullptr;
+    SSignType* steps = nullptr;
+    SSignType* files = nullptr;
+    CString message =
+        L"<root><objs><type id='LoginInfo'><obj><pro name='UserName' value='王工'/>"
+        L"<pro name='Password' value='secret'/><pro name='PLMServer' value='plm:80'/></obj></type>"
+        L"<type id='step'><obj><pro name='ROLE' value='审核'/></obj></type>"
+        L"<type id='doc'><obj><pro name='FNAME' value='a.dwg'/><pro name='VER' value='2'/></obj>"
+        L"<obj><pro name='FNAME' value='b.dwg'/></obj></type></objs></root>";
+    CHECK(plm.StartSignForBackSign(message.GetBuffer(), folder.GetBuffer(), &login, &steps, &files) == 1);
+    if (login == nullptr || steps == nullptr || files == nullptr) return;
+
+    CHECK(TextAt(login, 0) == L"王工" && TextAt(login, 8) == L"secret" && TextAt(login, 0x10) == L"plm:80");
+    CHECK(TextAt(files, 0x38) == L"doc" && TextAt(steps, 0x38).IsEmpty());
+    const RawList& documents = ListAt(files);
+    CHECK(documents.count == 2 && documents.tail == documents.head->next && documents.blockSize == 10);
+    const RawList& first = ListAt(documents.head->data);
+    CHECK(first.count == 2 && first.head->previous == nullptr && first.tail->next == nullptr);
+    CHECK(TextAt(first.head->data, 0) == L"FNAME" && TextAt(first.head->data, 8) == L"a.dwg");
+    CHECK(TextAt(ListAt(documents.tail->data).head->data, 8) == L"b.dwg");
+
+    // This side's nodes, blocks, elements and texts go into the library's lists, which the library frees.
+    for (int i = 0; i < 25; ++i) {
+        auto* added = new SSignObj;
+        added->AddTail(new SSignPro{L"名", CString(L'x', 100)});
+        files->m_lstObj.AddTail(added);
+    }
+    files->m_lstObj.AddHead(static_cast<SSignObj*>(nullptr));
+    CHECK(Cmn_ReleaseSignType(files) == 1 && Cmn_ReleaseSignType(steps) == 1);
+    CHECK(Cmn_ReleaseLoginInfo(login) == 1 && Cmn_ReleaseLoginInfo(nullptr) == 0);
+    auto* info = new SSignInfo;
+    info->m_strReserved4 = L"last text";
+    info->m_strFirstText = info->m_strReserved4;
+    CHECK(Cmn_ReleaseSignInfo(info) == 1);
+}
+
+long ReferencesTo(const CString& text) {
+    return reinterpret_cast<const ATL::CStringData*>(text.GetString())[-1].nRefs;
+}
+
+// Arguments and results are objects; each side has a string manager of its own.
+void Strings(CPLMInteract& plm, const CString& folder) {
+    const CString path = folder + L"\\SignData\\StartSign.Xml", name = L"UserName";
+    CString value = plm.GetProValue(path, name);
+    CHECK(value == L"王工");
+    // The callee destroys its arguments: exactly once.
+    CHECK(ReferencesTo(path) == 1 && ReferencesTo(name) == 1);
+
+    // The result keeps the library's memory; strings of this program take copies.
+    CHECK(value.GetManager() != AfxGetStringManager());
+    CString own = L"own";
+    own = value;
+    CHECK(own.GetManager() == AfxGetStringManager() && ReferencesTo(value) == 1);
+    const CString sharing = value;
+    CHECK(sharing.GetString() == value.GetString() && ReferencesTo(value) == 2);
+    value += L" and more, so that the library's memory has to grow beyond its first size";
+    CHECK(value.Find(L"first") > 0 && ReferencesTo(sharing) == 1 && own == sharing);
+
+    CHECK(plm.GetProValue(path, L"none").IsEmpty());
+    CHECK(plm.GetProValue(CString(), CString()).IsEmpty());
+}
+
+// An object each of whose functions throws; the functions' parameters do not matter to the caller's stack.
+struct Throwing {
+    static HRESULT STDMETHODCALLTYPE ThrowNumber() { throw 7; }
+    static HRESULT STDMETHODCALLTYPE ThrowFrameworkException() { AfxThrowMemoryException(); }
+
+    explicit Throwing(HRESULT(STDMETHODCALLTYPE* function)()) {
+        for (auto& entry : m_functions)
+            entry = function;
+    }
+    template <typename Interface>
+    Interface* As() {
+        return reinterpret_cast<Interface*>(this);
+    }
+
+    HRESULT(STDMETHODCALLTYPE** m_table)() = m_functions;
+    HRESULT(STDMETHODCALLTYPE* m_functions[128])();
+};
+
+void ExceptionsStayInside(CPLMInteract& plm) {
+    for (auto function : {&Throwing::ThrowNumber, &Throwing::ThrowFrameworkException}) {
+        Throwing thrower(function);
+        auto* login = reinterpret_cast<SLoginInfo*>(&thrower);
+        bool escaped = false;
+        long result = -1;
+        try {
+            result = plm.GetLoginInfo(thrower.As<IXMLDOMDocument>(), &login);
+        } catch (...) {
+            escaped = true;
+        }
+        CHECK(!escaped && result == 0 && login == nullptr);
+    }
+}
+
+// The memory comes from this program; the destructor in the table, which frees it, is the library's.
+void DestructionThroughTheTable() {
+    CCOMAPInvokeHelper* base = new CSignOpt;
+    delete base;
+    CHECK(_heapchk() == _HEAPOK);
+}
+
+} // namespace
+
+void checks::Library() {
+    wchar_t temporary[MAX_PATH];
+    GetTempPathW(MAX_PATH, temporary);
+    const CString folder = CString(temporary) + L"varnoke-abi";
+    CreateDirectoryW(folder, nullptr);
+    CPLMInteract plm;
+    Records(plm, folder);
+    Strings(plm, folder);
+    ExceptionsStayInside(plm);
+    DestructionThroughTheTable();
+}
