@@ -7,6 +7,8 @@ target_include_directories(varnoke_common INTERFACE ${CMAKE_SOURCE_DIR})
 target_compile_definitions(varnoke_common INTERFACE UNICODE _UNICODE WINVER=0x0A00 _WIN32_WINNT=0x0A00)
 if(MSVC)
     target_compile_options(varnoke_common INTERFACE /W4 /WX /utf-8)
+    # The replacements that it asks for exist in no other C library.
+    target_compile_definitions(varnoke_common INTERFACE _CRT_SECURE_NO_WARNINGS)
 else()
     target_compile_options(varnoke_common INTERFACE -Wall -Wextra -Werror)
 endif()
@@ -49,7 +51,7 @@ endfunction()
 
 # varnoke_precompile(name): the framework's and the system's headers compiled once, by the framework itself.
 function(varnoke_precompile name)
-    if(TARGET mfc)
+    if(NOT VARNOKE_REAL_MFC)
         target_precompile_headers(${name} REUSE_FROM mfc)
     endif()
 endfunction()

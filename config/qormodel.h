@@ -106,8 +106,7 @@ struct QOR_IID("574328f1-4ac5-4bbc-b55f-e608d9cd1984") IQORDataEntries : public 
 struct QOR_IID("099902f0-2ab3-429b-99fd-bb736691a209") IQORDataModel : public IUnknown {
     /// Creates an entry of a type; it is in no model until it is added.
     virtual HRESULT STDMETHODCALLTYPE CreateEntry(BSTR type, IQORDataEntry** entry) = 0;
-    /// Appends an entry that CreateEntry of the same model made and that is in no model (else
-    /// E_INVALIDARG).
+    /// Appends an entry that CreateEntry made and that is in no model (else E_INVALIDARG).
     virtual HRESULT STDMETHODCALLTYPE AddEntry(IQORDataEntry* entry) = 0;
     virtual HRESULT STDMETHODCALLTYPE GetCount(long* count) = 0;
     /// The entry at a zero-based index, in constant time; E_INVALIDARG when out of range.

@@ -46,8 +46,8 @@ struct SSignFileDUL {
 struct SSignInfo {
     CString m_strFirstText;  ///< first text of the signature, filled by the host
     CString m_strSecondText; ///< second text of the signature, filled by the host
-    CString m_strUserName;
-    CString m_strRole;
+    CString m_strUserName;   ///< the signer
+    CString m_strRole;       ///< in which the signer signs
     CString m_strSealName;
 
     /// Placement of the signature, filled by the host. The server receives A, B - D, E, F - H, C, D, G, H.
@@ -60,8 +60,8 @@ struct SSignInfo {
     double m_dG = 0;
     double m_dH = 0;
 
-    long m_nSealIndex = 0;
-    CString m_strPin;
+    long m_nSealIndex = 0; ///< which of the signer's seals, from the settings
+    CString m_strPin;      ///< of the seal, from the settings
 
     CString m_strDateText; ///< the date as the server prints it
     double m_dDateOffsetX = 0;

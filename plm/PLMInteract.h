@@ -26,6 +26,7 @@ public:
 
     /// Keeps the owner of all dialogs (may be null), then initialises and loads the model configuration.
     long Initialize(CWnd* pParentWnd);
+    /// Releases the configuration's settings; the window is kept. Returns the configuration's result.
     long Uninitialize();
     /// Lends the model configuration, which stays owned by this object.
     long GetModelConfig(CModelConfig** ppModelConfig);
@@ -40,7 +41,8 @@ public:
     long AppendStartSign(wchar_t* pszXml, wchar_t* pszWorkFolder, SLoginInfo** ppLoginInfo,
                          SSignType** ppSignStepType, SSignType** ppSignFileType);
 
-    /// Reading of a message. The documents are borrowed.
+    /// Reading of a message: of its text, which is kept first, or of one part of a loaded document. The
+    /// documents are borrowed; a part that is missing or incomplete is a failure.
     long ParserStartSignXmlString(wchar_t* pszXml, wchar_t* pszWorkFolder, SLoginInfo** ppLoginInfo,
                                   SSignType** ppSignStepType, SSignType** ppSignFileType);
     long GetLoginInfo(IXMLDOMDocument* pDoc, SLoginInfo** ppLoginInfo);
@@ -53,15 +55,19 @@ public:
                                         SSignType** ppSignStepType, SSignType** ppSignFileType);
     long AppendGetLoginInfo(IXMLDOMDocument* pSourceDoc, IXMLDOMDocument* pTargetDoc,
                             SLoginInfo** ppLoginInfo);
+    /// 1 when both have the same user name, which must not be empty; passwords may differ.
     long ValidateLoginInfo(SLoginInfo* pSource, SLoginInfo* pTarget);
     long AppendGetSignStepType(IXMLDOMDocument* pSourceDoc, IXMLDOMDocument* pTargetDoc,
                                SSignType** ppSignStepType);
+    /// 1 when both have the same steps with the same properties in the same order, and at least one.
     long ValidateSignStepType(SSignType* pSource, SSignType* pTarget);
     long AppendGetSignFileType(IXMLDOMDocument* pSourceDoc, IXMLDOMDocument* pTargetDoc,
                                SSignType** ppSignFileType);
-    /// Releases and unlinks the source's documents that the target has already.
+    /// Unlinks and releases the source's documents whose file name the target has already.
     long RemoveExistSignFileTypeFromSource(SSignType* pSource, SSignType* pTarget);
+    /// Adds the source's documents to the target's document group; fails when there is no such group.
     long AppendSignFileTypeToTarget(IXMLDOMDocument* pTargetDoc, SSignType* pSource);
+    /// Adds an attribute; the name must not be empty, the value may be.
     long AddTargetAttribute(wchar_t* pszName, wchar_t* pszValue, IXMLDOMNamedNodeMap* pAttributes,
                             IXMLDOMDocument* pTargetDoc);
 
@@ -82,7 +88,8 @@ public:
     /// The value of the first property of that name in an object XML file, empty on failure.
     CString GetProValue(CString strXmlFile, CString strProName);
 
-    /// Sign tags: markers per document in INI files under SignData of the documents' folder.
+    /// Sign tags: markers per document in INI files under SignData of the documents' folder. A document that
+    /// was never tagged has the tag 0.
     long SetDocSignTag(wchar_t* pszFolder, wchar_t* pszFileName, long nValue);
     long GetDocSignTag(wchar_t* pszFolder, wchar_t* pszFileName, long* pValue);
     long SetDocSignLogTag(wchar_t* pszFolder, wchar_t* pszFileName, long nValue);
@@ -92,7 +99,9 @@ public:
     long GetDocSignTimeTag(wchar_t* pszFolder, wchar_t* pszFileName, long* pChanged);
     /// Copies the local modification time, "YYYY-MM-DD_hh:mm:ss", to a buffer of 1024 characters.
     long GetDocLastModifyTimeString(wchar_t* pszFolder, wchar_t* pszFileName, wchar_t* pszOut);
+    /// Sets the sign tags of a list, with a nonzero nWithLog the sign-log tags too, to 0.
     long UpdateDocsSignTag(SSignFileDUL* pList, long nWithLog);
+    /// Sets the time tags of a list to its documents' modification times.
     long UpdateDocsSignTimeTag(SSignFileDUL* pList);
 
     /// Sign log. strKind is "N" for a signature, "D" for a deletion.

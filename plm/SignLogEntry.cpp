@@ -1,6 +1,7 @@
 // New entries of the sign log: filled from the sign object, and mapped to what the server gets.
 #include "plm/SignLogEntry.h"
 
+#include "config/EntryAttribute.h"
 #include "module/BstrText.h"
 #include "module/NewGuid.h"
 
@@ -19,14 +20,6 @@ CString SignValue(const SSignObj& obj, const CString& name) {
         if (property && property->m_strName == name) value = property->m_strValue;
     }
     return value;
-}
-
-// An attribute of an entry of an object configuration or a map, empty when absent.
-template <class Config>
-CString EntryAttribute(Config* config, long index, const wchar_t* name) {
-    _bstr_t value;
-    CheckError(config->GetEntryAttribute(index, _bstr_t(name), value.GetAddress()));
-    return ToText(value);
 }
 
 // A new entry and its local object, which keeps the client's values apart from those mapped for the server.

@@ -13,9 +13,16 @@ namespace varnoke {
 
 namespace {
 
-/// The section's lines, each ended by a null character.
-std::wstring ReadSection(const CString& path, const CString& section) {
-    for (std::wstring text(32768, L'\0');; text.resize(text.size() * 2)) {
+/// 0 for a missing file.
+size_t FileSize(const CString& path) {
+    WIN32_FILE_ATTRIBUTE_DATA file = {};
+    if (!::GetFileAttributesExW(path, GetFileExInfoStandard, &file)) return 0;
+    return (static_cast<size_t>(file.nFileSizeHigh) << 32) + file.nFileSizeLow;
+}
+
+/// The section's lines, each ended by a null character. A section is seldom longer than its file.
+std::wstring ReadSection(const CString& path, const CString& section, size_t fileSize) {
+    for (std::wstring text(fileSize + 16, L'\0');; text.resize(text.size() * 2)) {
         const DWORD size = static_cast<DWORD>(text.size());
         const DWORD length = ::GetPrivateProfileSectionW(section, &text[0], size, path);
         if (length + 2 < size) {
@@ -36,14 +43,6 @@ std::string FileBytes(const CString& section, const std::wstring& text) {
     ::WideCharToMultiByte(CP_ACP, 0, file.c_str(), length, &bytes[0], static_cast<int>(bytes.size()), nullptr,
                           nullptr);
     return bytes;
-}
-
-/// Whether the file holds nothing but the section's plain lines: only then can it be rewritten as a whole
-/// without losing comments or what else reading the section doesn't show.
-bool IsWholeFile(const CString& path, const CString& section, const std::wstring& text) {
-    WIN32_FILE_ATTRIBUTE_DATA file = {};
-    if (!::GetFileAttributesExW(path, GetFileExInfoStandard, &file)) return true;
-    return file.nFileSizeHigh == 0 && file.nFileSizeLow == FileBytes(section, text).size();
 }
 
 bool WriteWholeFile(const CString& path, const std::string& bytes) {
@@ -113,8 +112,11 @@ void WriteTagEntries(const CString& path, const CString& section, const std::vec
     bool plain = true;
     for (const TagEntry& entry : entries)
         plain = plain && IsPlainKey(entry.key);
-    const std::wstring text = ReadSection(path, section);
-    if (!plain || !IsWholeFile(path, section, text)) {
+    const size_t size = FileSize(path);
+    const std::wstring text = ReadSection(path, section, size);
+    // A file that holds more than the section's plain lines, such as comments, would lose that by being
+    // written as a whole.
+    if (!plain || (size != 0 && size != FileBytes(section, text).size())) {
         for (const TagEntry& entry : entries)
             ::WritePrivateProfileStringW(section, entry.key, entry.value, path);
         return;

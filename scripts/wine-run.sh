@@ -16,7 +16,15 @@ export WINEPREFIX=$build/wineprefix WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all}
 export WINEDLLOVERRIDES="mscoree,mshtml,winedbg.exe="
 # Code page 936, so that the profile functions keep Chinese text.
 export LC_ALL=zh_CN.UTF-8 DISPLAY=$VARNOKE_DISPLAY
-echo "$WINEPREFIX" >>"$VARNOKE_RUN_DIR/prefixes"
+if ! grep -qsxF "$WINEPREFIX" "$VARNOKE_RUN_DIR/prefixes"; then
+    # Sessions of the same prefix take turns: they would share a Wine server, whose windows are on the first
+    # one's display, and which the first to end stops, the other's programs with it.
+    exec 8>"$build/.wineprefix.session.lock"
+    flock 8
+    tail --pid="$VARNOKE_SESSION" -s 0.2 -f /dev/null </dev/null >/dev/null 2>&1 &
+    exec 8>&-
+    echo "$WINEPREFIX" >>"$VARNOKE_RUN_DIR/prefixes"
+fi
 
 (
     flock 9

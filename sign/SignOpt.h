@@ -32,9 +32,13 @@ public:
     /// Calls the server's diagnostic method.
     long Test(wchar_t* text);
 
+    /// Places a signature. The host has filled the sign texts and the placement of `info`.
     long Sign(IDispatch* document, SSignInfo* info);
     long SignForBackSign(IDispatch* document, SSignInfo* info);
+    /// Deletes the signature with the first sign text, user name and role of `info`.
     long DeleteSignForBackSign(IDispatch* document, SSignInfo* info);
+    /// Deletes all signatures, validates them, deletes the invalid ones. `text` is handed on to the server
+    /// and must not be empty.
     long DeleteAllSignForBackSign(IDispatch* document, wchar_t* text);
     long SignatureValidateForBackSign(IDispatch* document, wchar_t* text);
     long ClearInvalidSignForBackSign(IDispatch* document, wchar_t* text);

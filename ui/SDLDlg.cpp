@@ -2,6 +2,7 @@
 #include "ui/SDLDlg.h"
 
 #include <vector>
+#include "config/EntryAttribute.h"
 #include "config/ModelConfig.h"
 #include "module/Guarded.h"
 #include "module/InfoMessage.h"
@@ -17,13 +18,6 @@ const long kNumberColumn = 0;
 const long kChosenColumn = 1;
 const long kFirstAttributeColumn = 2;
 const long kMinColumnWidth = 80;
-
-// An attribute of one of the configuration's entries; empty when it is absent.
-CString EntryText(QORMODEL::IQORObjConfig& config, long nIndex, const wchar_t* pszName) {
-    _bstr_t value;
-    _com_util::CheckError(config.GetEntryAttribute(nIndex, _bstr_t(pszName), value.GetAddress()));
-    return CString(static_cast<const wchar_t*>(value));
-}
 
 } // namespace
 
@@ -83,8 +77,8 @@ void CSDLDlg::FillGrid() {
     m_grid.SetColumnKind(kChosenColumn, kGridColumnCheck);
     m_grid.SetColumnEditor(kChosenColumn, L"QORCheckBoxEdit.dll");
     for (long i = 0; i < attributes; ++i) {
-        const CString name = EntryText(*config, i, L"name");
-        const CString caption = EntryText(*config, i, L"caption");
+        const CString name = EntryAttribute(config.GetInterfacePtr(), i, L"name");
+        const CString caption = EntryAttribute(config.GetInterfacePtr(), i, L"caption");
         AddColumn(kFirstAttributeColumn + i, caption.IsEmpty() ? name : caption, name);
     }
 

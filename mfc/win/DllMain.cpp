@@ -35,18 +35,16 @@ BOOL End() {
 } // namespace
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID) {
+    // The module state is kept per thread; touched while a thread ends, it would leave handles behind.
+    if (dwReason == DLL_THREAD_DETACH) CThreadWindows::Drop();
+    if (dwReason == DLL_THREAD_ATTACH || dwReason == DLL_THREAD_DETACH) return TRUE;
+
     AFX_MANAGE_STATE(AfxGetStaticModuleState())
-    switch (dwReason) {
-    case DLL_PROCESS_ATTACH:
-        if (WithoutExceptions([hInstance] { return Start(hInstance); })) return TRUE;
-        WithoutExceptions(End); // undoes what InitInstance did before it gave up
-        return FALSE;
-    case DLL_PROCESS_DETACH:
+    if (dwReason == DLL_PROCESS_DETACH) {
         WithoutExceptions(End);
-        break;
-    case DLL_THREAD_DETACH:
-        CThreadWindows::Drop();
-        break;
+        return TRUE;
     }
-    return TRUE;
+    if (WithoutExceptions([hInstance] { return Start(hInstance); })) return TRUE;
+    WithoutExceptions(End); // undoes what InitInstance did before it gave up
+    return FALSE;
 }

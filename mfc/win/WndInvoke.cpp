@@ -21,10 +21,6 @@ _variant_t NextArgument(BYTE type, va_list& args) {
         return _variant_t(va_arg(args, BOOL) != FALSE);
     case VT_BSTR:
         return _variant_t(va_arg(args, LPCWSTR));
-    case VT_DISPATCH:
-        return _variant_t(va_arg(args, IDispatch*));
-    case VT_VARIANT:
-        return _variant_t(*va_arg(args, const VARIANT*));
     default:
         AfxThrowOleException(E_INVALIDARG);
     }
@@ -50,12 +46,8 @@ std::vector<_variant_t> CollectArguments(const BYTE* pbTypes, va_list& args) {
     throw pException;
 }
 
-// Hands the result over as the caller's type; what it holds then belongs to the caller.
+// Hands the result over as the caller's type.
 void StoreResult(_variant_t& result, VARTYPE vt, void* pvRet) {
-    if (vt == VT_VARIANT) {
-        *static_cast<VARIANT*>(pvRet) = result.Detach();
-        return;
-    }
     const HRESULT hr = ::VariantChangeType(&result, &result, 0, vt);
     if (FAILED(hr)) AfxThrowOleException(hr);
     switch (vt) {
@@ -70,9 +62,6 @@ void StoreResult(_variant_t& result, VARTYPE vt, void* pvRet) {
         break;
     case VT_BSTR:
         *static_cast<CString*>(pvRet) = result.bstrVal;
-        break;
-    case VT_DISPATCH:
-        *static_cast<IDispatch**>(pvRet) = result.Detach().pdispVal;
         break;
     default:
         AfxThrowOleException(E_INVALIDARG);

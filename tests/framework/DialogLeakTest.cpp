@@ -7,85 +7,51 @@
 #include "tests/framework/FakeControl.h"
 #include "tests/support/HostWindow.h"
 #include "tests/support/MemoryUse.h"
+#include "tests/support/ObjectCounts.h"
 
-namespace {
-
-BOOL CALLBACK CountWindow(HWND, LPARAM pCount) {
-    ++*reinterpret_cast<int*>(pCount);
-    return TRUE;
-}
-
-BOOL CALLBACK CountWithChildren(HWND hWnd, LPARAM pCount) {
-    ::EnumChildWindows(hWnd, CountWindow, pCount);
-    return CountWindow(hWnd, pCount);
-}
-
-int CountWindows() {
-    int nCount = 0;
-    ::EnumThreadWindows(::GetCurrentThreadId(), CountWithChildren, reinterpret_cast<LPARAM>(&nCount));
-    return nCount;
-}
-
-// Wine does not count for GetGuiResources; there an index alone stands for an object in the process's table.
-int CountGdiObjects() {
-    if (const DWORD dwCount = ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS))
-        return static_cast<int>(dwCount);
-    int nCount = 0;
-    for (UINT_PTR n = 1; n <= 0xFFFF; ++n)
-        nCount += ::GetObjectType(reinterpret_cast<HGDIOBJ>(n)) != 0;
-    return nCount;
-}
-
-// Asks for each possible handle, since the count itself is not to be had everywhere.
-int CountKernelHandles() {
-    int nCount = 0;
-    DWORD dwFlags = 0;
-    for (UINT_PTR n = 4; n < 0x4000; n += 4)
-        nCount += ::GetHandleInformation(reinterpret_cast<HANDLE>(n), &dwFlags);
-    return nCount;
-}
-
-void RunDialogs(CWnd* pParent) {
-    CScriptedDialog plain(IDD_PLAIN, pParent);
-    CComboBox combo;
-    plain.m_init = [&](CScriptedDialog& d) { combo.SubclassDlgItem(IDC_COLORS, &d); };
-    plain.m_script = [](CScriptedDialog& d) {
-        const CClientDC dc(d.GetDlgItem(IDC_NAME));
-        d.EndDialog(1);
-    };
-    EXPECT_EQ(1, plain.DoModal());
-    CScriptedDialog controls(IDD_CONTROLS, pParent);
-    controls.m_init = [](CScriptedDialog& d) { d.EndDialog(2); };
-    EXPECT_EQ(2, controls.DoModal());
-}
-
-} // namespace
+using tests::CountObjects;
+using tests::ObjectCounts;
 
 TEST(DialogLeak, Counts_SeeWhatIsThere) {
-    const int nWindows = CountWindows(), nGdi = CountGdiObjects(), nKernel = CountKernelHandles();
+    const ObjectCounts before = CountObjects();
     tests::HostWindow host;
     const HGDIOBJ hPen = ::CreatePen(PS_SOLID, 1, RGB(9, 9, 9));
     const HANDLE hEvent = ::CreateEvent(nullptr, FALSE, FALSE, nullptr);
-    EXPECT_GT(CountWindows(), nWindows);
-    EXPECT_GT(CountGdiObjects(), nGdi);
-    EXPECT_GT(CountKernelHandles(), nKernel);
+    const ObjectCounts after = CountObjects();
     ::CloseHandle(hEvent);
     ::DeleteObject(hPen);
+    EXPECT_GT(after.m_windows, before.m_windows);
+    EXPECT_GT(after.m_gdi, before.m_gdi);
+    EXPECT_GT(after.m_kernel, before.m_kernel);
 }
 
 TEST(DialogLeak, TwoHundredRuns_LeaveNothing) {
     AfxEnableControlContainer();
     const FakeControlClass registered;
     tests::HostWindow host;
+    const auto runBoth = [&] {
+        CScriptedDialog plain(IDD_PLAIN, host);
+        CComboBox combo;
+        plain.m_init = [&](CScriptedDialog& d) { combo.SubclassDlgItem(IDC_COLORS, &d); };
+        plain.m_script = [](CScriptedDialog& d) {
+            const CClientDC dc(d.GetDlgItem(IDC_NAME));
+            d.EndDialog(1);
+        };
+        EXPECT_EQ(1, plain.DoModal());
+        CScriptedDialog controls(IDD_CONTROLS, host);
+        controls.m_init = [](CScriptedDialog& d) { d.EndDialog(2); };
+        EXPECT_EQ(2, controls.DoModal());
+    };
     for (int nRun = 0; nRun < 5; ++nRun) // what the system keeps for good
-        RunDialogs(host);
-    const int nWindows = CountWindows(), nGdi = CountGdiObjects(), nKernel = CountKernelHandles();
+        runBoth();
+    const ObjectCounts before = CountObjects();
     for (int nRun = 0; nRun < 100; ++nRun)
-        RunDialogs(host);
-    EXPECT_EQ(nWindows, CountWindows());
-    EXPECT_EQ(nGdi, CountGdiObjects());
-    EXPECT_EQ(nKernel, CountKernelHandles());
+        runBoth();
+    const ObjectCounts after = CountObjects();
+    EXPECT_EQ(before.m_windows, after.m_windows);
+    EXPECT_EQ(before.m_gdi, after.m_gdi);
+    EXPECT_EQ(before.m_kernel, after.m_kernel);
     // Only now has the heap grown to what it needs.
-    EXPECT_LT(tests::MemoryGrowth(100, [&] { RunDialogs(host); }), 32 * 1024);
+    EXPECT_LT(tests::MemoryGrowth(100, runBoth), 32 * 1024);
     EXPECT_EQ(0, FakeControlClass::LiveObjects());
 }

@@ -34,11 +34,8 @@ public:
             info->bstrDescription = SysAllocString(L"描述");
             info->bstrSource = SysAllocString(L"fake");
             return DISP_E_EXCEPTION;
-        case FakeSelf:
-            V_VT(result) = VT_DISPATCH;
-            V_DISPATCH(result) = this;
-            AddRef();
-            return S_OK;
+        case FakeName:
+            return standins::GiveText(*result, L"名");
         default:
             return DISP_E_MEMBERNOTFOUND;
         }

@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-enum FakeMember { FakeJoin = 1, FakeNumber = 2, FakeFail = 3, FakeSelf = 4 };
+enum FakeMember { FakeJoin = 1, FakeNumber = 2, FakeFail = 3, FakeName = 4 };
 
 // Controls of this class can be created from construction to destruction.
 class FakeControlClass {

@@ -169,7 +169,7 @@ TEST_F(CommandLineTest, Sign_WalksThroughItsDialogsUnattended) {
     EXPECT_EQ(1, SignCalls("Sign", "\twang\t校对\t"));
     EXPECT_EQ(1, Tag(L"DocSignTag", L"a.dwg"));
     // Download, sign dialog, upload.
-    for (const wchar_t* name : {L"01.png", L"02.png", L"03.png"}) {
+    for (const wchar_t* name : {L"01-下载文档.png", L"02-签名.png", L"03-上传文档.png"}) {
         ASSERT_TRUE(fs::exists(pictures / name)) << result.Text();
         EXPECT_EQ("\x89PNG\r\n\x1A\n", ReadBytes(pictures / name).substr(0, 8));
     }

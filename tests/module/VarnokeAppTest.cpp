@@ -3,7 +3,6 @@
 #include <objbase.h>
 #include <thread>
 #include <gtest/gtest.h>
-#include "module/Guarded.h"
 #include "tests/support/TempFolder.h"
 
 namespace {
@@ -34,22 +33,6 @@ TEST(VarnokeApp, LoadAndUnload_LeaveTheThreadsComAsItWas) {
             if (mta) CoUninitialize();
         }).join();
     }
-}
-
-TEST(Guarded, SwitchesTheModuleStateAndEndsEveryException) {
-    AFX_MODULE_STATE host = {};
-    AFX_MODULE_STATE* const before = AfxSetModuleState(&host);
-    const auto run = [](auto&& raise) {
-        return varnoke::Guarded(-1, [&] {
-            EXPECT_EQ(AfxGetModuleState(), AfxGetStaticModuleState());
-            raise();
-            return 1;
-        });
-    };
-    EXPECT_EQ(run([] {}), 1);
-    EXPECT_EQ(run([] { throw 1; }), -1);
-    EXPECT_EQ(run([] { AfxThrowMemoryException(); }), -1);
-    EXPECT_EQ(AfxSetModuleState(before), &host) << "the caller's state comes back";
 }
 
 } // namespace

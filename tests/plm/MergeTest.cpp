@@ -9,103 +9,79 @@ namespace {
 
 class MergeTest : public PlmTest {
 protected:
-    // Also checks that a file that isn't rewritten keeps its bytes.
+    // Also checks that the kept file isn't touched.
     void ExpectRefused(const std::wstring& xml) {
         const std::string kept = Kept();
         Results results;
-        EXPECT_EQ(Merge(xml, results), 0);
+        EXPECT_EQ(Merge(xml, results), 0) << ToUtf8(xml);
         EXPECT_TRUE(results.AllNull());
         EXPECT_EQ(Kept(), kept);
     }
 };
 
-std::wstring With(const std::wstring& login, const std::wstring& steps) {
-    return Message(login + steps + Group(L"DOC", Object({L"New"})));
-}
-
 TEST_F(MergeTest, AddsNewDocumentsOnly) {
     const struct {
-        std::wstring kept, added, handedOut, file;
+        const wchar_t *kept, *added, *handedOut, *file;
     } cases[] = {
-        {Documents({L"A", L"B"}), Documents({L"a", L"C"}), L"DOC[FNAME=C]",
-         L"DOC[FNAME=A][FNAME=B][FNAME=C]"},
-        {Documents({L"A", L"B"}), Documents({L"b", L"a", L"A"}), L"DOC", L"DOC[FNAME=A][FNAME=B]"},
-        // A name that is new twice is added twice; the first FNAME counts; an object without one is always
-        // new.
-        {Documents({L"A"}),
-         Message(
-             kSteps + kLogin +
-             Group(L"NEW", Object({L"C", L"fname=A"}) + Object({L"X=A"}) + Object({L"Y=&lt;1", L"fName=C"}))),
-         L"NEW[FNAME=C fname=A][X=A][Y=<1 fName=C]", L"DOC[FNAME=A][FNAME=C fname=A][X=A][Y=<1 fName=C]"},
+        {L"A;B", L"a;C", L"DOC:C", L"DOC:A;B;C"},
+        {L"A;B", L"b;a;A", L"DOC:", L"DOC:A;B"},
+        // A name that is new twice is added twice; the first FNAME counts; without one an object is new.
+        {L"A", L"C,fname=A;X=A;Y=<1,fName=C", L"DOC:C,fname=A;X=A;Y=<1,fName=C",
+         L"DOC:A;C,fname=A;X=A;Y=<1,fName=C"},
     };
     for (const auto& merge : cases) {
-        Results first, second;
-        ASSERT_EQ(Read(merge.kept, first), 1);
-        EXPECT_EQ(Merge(merge.added, second), 1);
-        EXPECT_EQ(Described(second.files), merge.handedOut);
-        EXPECT_EQ(FilesIn(m_kept), merge.file);
+        ASSERT_EQ(Read(Documents(merge.kept)), 1);
+        Results results;
+        EXPECT_EQ(Merge(Documents(merge.added), results), 1);
+        EXPECT_EQ(Described(results.files), merge.handedOut);
+        EXPECT_EQ(DocumentsIn(m_kept), merge.file);
         EXPECT_EQ(FileCount(), 1u);
     }
     EXPECT_NE(Kept().find("<obj MSYM=\"\"><pro name=\"FNAME\" value=\"C\"/>"), std::string::npos) << Kept();
 }
 
 TEST_F(MergeTest, SignerAndStepsMustBeTheSame) {
-    const std::wstring login = Group(L"LoginInfo", Object({L"UserName=wang", L"Password=p", L"PLMServer=s"}));
-    const std::wstring steps = Group(L"step", Object({L"N=1", L"M=2"}) + Object({L"N=3"}));
-    Results first;
-    ASSERT_EQ(Read(With(login, steps), first), 1);
-    for (const std::wstring& other : {Group(L"step", Object({L"N=3"}) + Object({L"N=1", L"M=2"})),
-                                      Group(L"step", Object({L"N=1", L"M=2"})),
-                                      Group(L"step", Object({L"M=2", L"N=1"}) + Object({L"N=3"})),
-                                      Group(L"step", Object({L"N=1"}) + Object({L"N=3"})),
-                                      Group(L"step", Object({L"N=1", L"M=3"}) + Object({L"N=3"})),
-                                      Group(L"step", Object({L"N=1", L"X=2"}) + Object({L"N=3"}))})
-        ExpectRefused(With(login, other));
-    for (const wchar_t* user : {L"UserName=li", L"UserName="})
-        ExpectRefused(With(Group(L"LoginInfo", Object({user, L"Password=p", L"PLMServer=s"})), steps));
+    ASSERT_EQ(Read(Message(kLogin + L"step:N=1,M=2;N=3|DOC:A")), 1);
+    for (const wchar_t* steps :
+         {L"N=3;N=1,M=2", L"N=1,M=2", L"M=2,N=1;N=3", L"N=1;N=3", L"N=1,M=3;N=3", L"N=1,X=2;N=3"})
+        ExpectRefused(Message(kLogin + L"step:" + steps + L"|DOC:B"));
+    for (const wchar_t* user : {L"li", L""})
+        ExpectRefused(Message(std::wstring(L"LoginInfo:UserName=") + user +
+                              L",Password=p,PLMServer=s|step:N=1,M=2;N=3|DOC:B"));
     ExpectRefused(L"<root>");
-
     Results results;
-    const std::wstring sameUser =
-        Group(L"LoginInfo", Object({L"UserName=WANG", L"Password=new", L"PLMServer=t"}));
-    EXPECT_EQ(Merge(With(sameUser, Group(L"step", Object({L"n=1", L"m=2"}) + Object({L"N=3"}))), results), 1);
+    EXPECT_EQ(
+        Merge(Message(L"LoginInfo:UserName=WANG,Password=new,PLMServer=t|step:n=1,m=2;N=3|DOC:B"), results),
+        1);
     EXPECT_EQ(Described(results.login), L"WANG/new/t");
-    EXPECT_EQ(Described(results.steps), L"[n=1 m=2][N=3]");
+    EXPECT_EQ(Described(results.steps), L":n=1,m=2;N=3");
 }
 
 TEST_F(MergeTest, KeptMessageMustBeThere) {
-    Results missing;
-    EXPECT_EQ(Merge(Documents({L"A"}), missing), 0);
-    EXPECT_EQ(Call(&CPLMInteract::AppendStartSign, Documents({L"A"}), missing), 0);
-    EXPECT_TRUE(missing.AllNull());
+    Results missing, merged;
+    EXPECT_EQ(Merge(Documents(L"A"), missing), 0);
+    EXPECT_EQ(Call(&CPLMInteract::AppendStartSign, Documents(L"A"), missing, m_folder.Text()), 0);
     for (const char* bytes : {"", "<root>", "<root/>"}) {
         WriteBytes(m_kept, bytes);
-        ExpectRefused(Documents({L"A"}));
+        ExpectRefused(Documents(L"A"));
     }
-    Results first, second;
-    ASSERT_EQ(Read(Documents({L"A"}), first), 1);
+    ASSERT_EQ(Read(Documents(L"A")), 1);
     SetFileAttributesW(m_kept.c_str(), FILE_ATTRIBUTE_READONLY);
-    EXPECT_EQ(Merge(Documents({L"B"}), second), 1);
-    EXPECT_EQ(FilesIn(m_kept), L"DOC[FNAME=A][FNAME=B]");
+    EXPECT_EQ(Merge(Documents(L"B"), merged), 1);
+    EXPECT_EQ(DocumentsIn(m_kept), L"DOC:A;B");
 }
 
 TEST_F(MergeTest, RecordsOfTheHost) {
     SLoginInfo wang{L"wang", L"", L""}, nobody;
     EXPECT_EQ(m_plm.ValidateLoginInfo(&wang, &wang), 1);
-    EXPECT_EQ(m_plm.ValidateLoginInfo(&nobody, &nobody), 0);
-    EXPECT_EQ(m_plm.ValidateLoginInfo(&wang, nullptr), 0);
-
-    Results results;
-    ASSERT_EQ(Read(Documents({L"A"}), results), 1);
-    SSignType empty;
-    EXPECT_EQ(m_plm.ValidateSignStepType(&empty, &empty), 0);
-    EXPECT_EQ(m_plm.ValidateSignStepType(nullptr, results.steps), 0);
-    EXPECT_EQ(m_plm.RemoveExistSignFileTypeFromSource(nullptr, results.files), 0);
-    EXPECT_EQ(m_plm.RemoveExistSignFileTypeFromSource(results.files, &empty), 1);
-    EXPECT_EQ(results.files->m_lstObj.GetCount(), 1);
-    EXPECT_EQ(m_plm.AppendSignFileTypeToTarget(nullptr, &empty), 0);
-    results.steps->m_lstObj.AddTail(static_cast<SSignObj*>(nullptr)); // compared like any other
-    EXPECT_EQ(m_plm.ValidateSignStepType(results.steps, results.steps), 0);
+    EXPECT_EQ(m_plm.ValidateLoginInfo(&nobody, &nobody) + m_plm.ValidateLoginInfo(&wang, nullptr), 0);
+    SSignType type;
+    EXPECT_EQ(m_plm.ValidateSignStepType(&type, &type) + m_plm.ValidateSignStepType(nullptr, &type), 0);
+    EXPECT_EQ(m_plm.RemoveExistSignFileTypeFromSource(nullptr, &type), 0);
+    EXPECT_EQ(m_plm.AppendSignFileTypeToTarget(nullptr, &type), 0);
+    type.m_lstObj.AddTail(static_cast<SSignObj*>(nullptr));
+    EXPECT_EQ(m_plm.ValidateSignStepType(&type, &type), 0);
+    EXPECT_EQ(m_plm.RemoveExistSignFileTypeFromSource(&type, &type), 1);
 }
 
 TEST_F(MergeTest, TargetAttribute) {
@@ -117,16 +93,16 @@ TEST_F(MergeTest, TargetAttribute) {
     ASSERT_EQ(document.CreateInstance(dom), S_OK);
     ASSERT_EQ(document->createElement(_bstr_t(L"obj"), &element), S_OK);
     ASSERT_EQ(element->get_attributes(&map), S_OK);
-    EXPECT_EQ(m_plm.AddTargetAttribute(Text(L"a"), Text(L"1"), map, document), 1);
-    EXPECT_EQ(m_plm.AddTargetAttribute(Text(L"a"), Text(L"<2>"), map, document), 1);
-    EXPECT_EQ(m_plm.AddTargetAttribute(Text(L"b"), Text(L""), map, document), 1);
+    const auto add = [&](const wchar_t* name, const wchar_t* value) {
+        return m_plm.AddTargetAttribute(Text(name), Text(value), map, document);
+    };
+    EXPECT_EQ(add(L"a", L"1") + add(L"a", L"<2>") + add(L"b", L""), 3);
+    EXPECT_EQ(add(L"", L"1") + add(nullptr, L"1") + add(L"a", nullptr), 0);
+    EXPECT_EQ(m_plm.AddTargetAttribute(Text(L"a"), Text(L"1"), nullptr, document), 0);
+    EXPECT_EQ(m_plm.AddTargetAttribute(Text(L"a"), Text(L"1"), map, nullptr), 0);
     _bstr_t xml;
     ASSERT_EQ(element->get_xml(xml.GetAddress()), S_OK);
     EXPECT_STREQ(xml, L"<obj a=\"&lt;2&gt;\" b=\"\"/>");
-    EXPECT_EQ(m_plm.AddTargetAttribute(Text(L""), Text(L"1"), map, document), 0);
-    EXPECT_EQ(m_plm.AddTargetAttribute(Text(L"a"), nullptr, map, document), 0);
-    EXPECT_EQ(m_plm.AddTargetAttribute(Text(L"a"), Text(L"1"), nullptr, document), 0);
-    EXPECT_EQ(m_plm.AddTargetAttribute(Text(L"a"), Text(L"1"), map, nullptr), 0);
 }
 
 class ReturnFileTest : public PlmTest {
@@ -145,35 +121,25 @@ TEST_F(ReturnFileTest, MarksDocuments) {
     const struct {
         std::vector<const wchar_t*> names;
         std::wstring marks;
-    } cases[] = {
-        {{L"", L"b.DWG"}, L"[0][1][0]"}, {{}, L"[0][0][0]"}, {{L"1"}, L"[0][0][1]"}, {{L""}, L"[0][0][0]"}};
-    Results results;
-    ASSERT_EQ(Read(Message(kLogin + kSteps +
-                           Group(L"DOC", Object({L"A.dwg"}) + Object({L"X=b.dwg", L"B.dwg"}) +
-                                             Object({L"C.dwg", L"fname=1", L"FNAME="})) +
-                           Group(L"OTHER", Object({L"b.dwg"}))),
-                   results),
-              1);
+    } cases[] = {{{L"", L"b.DWG"}, L"010"}, {{}, L"000"}, {{L"1"}, L"001"}, {{L""}, L"000"}};
+    ASSERT_EQ(Read(Documents(L"A.dwg;X=b.dwg,B.dwg;C.dwg,fname=1,FNAME=|OTHER:b.dwg")), 1);
     const std::string kept = Kept();
     WriteBytes(m_ret, "old");
     for (const auto& run : cases) {
         SetFileAttributesW(m_ret.c_str(), FILE_ATTRIBUTE_READONLY);
         ASSERT_EQ(Notify(run.names, L"fName", m_given), 1);
-        const std::wstring text = FromUtf8(ReadBytes(m_ret));
+        const std::wstring text = FromUtf8(ReadBytes(m_ret)), mark = L"<pro name=\"SignRet\" value=\"";
         std::wstring marks;
-        const std::wstring mark = L"<pro name=\"SignRet\" value=\"";
         for (size_t at = text.find(mark); at != std::wstring::npos; at = text.find(mark, at + 1))
-            marks += L"[" + text.substr(at + mark.size(), 1) + L"]";
+            marks += text[at + mark.size()];
         EXPECT_EQ(marks, run.marks);
         EXPECT_EQ(text.find(L"LoginInfo"), std::wstring::npos);
         EXPECT_EQ(text.find(L"step"), std::wstring::npos);
         EXPECT_NE(text.find(L"OTHER"), std::wstring::npos);
     }
     EXPECT_EQ(Kept(), kept);
-    for (const auto& [key, file] :
-         {std::pair(L"", m_given), std::pair<const wchar_t*, std::wstring>(nullptr, m_given),
-          std::pair(L"FNAME", std::wstring()), std::pair(L"FNAME", m_folder.Text() + L"\\no\\x.y")})
-        EXPECT_EQ(Notify({}, key, file), 0);
+    EXPECT_EQ(Notify({}, L"", m_given) + Notify({}, nullptr, m_given) + Notify({}, L"FNAME", L""), 0);
+    EXPECT_EQ(Notify({}, L"FNAME", m_folder.Text() + L"\\missing\\x.y"), 0);
     // A path without a full stop is cut to nothing.
     const std::filesystem::path current = std::filesystem::current_path();
     current_path(m_folder.Path());
@@ -186,11 +152,9 @@ TEST_F(ReturnFileTest, IncompleteMessageGivesNoFile) {
     create_directories(m_ret.parent_path());
     EXPECT_EQ(Notify({}, L"FNAME", m_given), 0); // nothing kept
     for (const std::wstring& groups :
-         {kSteps + Group(L"DOC", Object({L"A"})), kLogin + Group(L"DOC", Object({L"A"})), kLogin + kSteps,
-          kLogin + kSteps + Group(L"DOC", L""), kLogin + kSteps + Group(L"DOC", Object({L"A"}) + L"<obj/>"),
-          kLogin + kSteps + Group(L"DOC", L"<obj><pro name='N'/></obj>")}) {
-        Results results;
-        Read(Message(groups), results);
+         {kSteps + L"DOC:A", kLogin + L"DOC:A", kLogin + kSteps, kLogin + kSteps + L"DOC:|MORE:A",
+          kLogin + kSteps + L"DOC:A;-", kLogin + kSteps + L"DOC:<obj><pro name='N'/></obj>"}) {
+        Read(Message(groups));
         EXPECT_EQ(Notify({}, L"FNAME", m_given), 0);
         EXPECT_FALSE(exists(m_ret));
     }

@@ -1,8 +1,9 @@
-// Start-sign messages as text, the records read from them as text, and a work folder with a CPLMInteract.
+// Start-sign messages and records in short notation, and a work folder with a CPLMInteract.
 #pragma once
 #include <afxwin.h>
 #include <vector>
 #include <gtest/gtest.h>
+#include "module/OwnedRecord.h"
 #include "plm/PLMInteract.h"
 #include "tests/support/TempFolder.h"
 
@@ -20,57 +21,71 @@ private:
     std::wstring m_text;
 };
 
-// One object from "NAME=value" words; a word without "=" is an "FNAME".
-inline std::wstring Object(const std::vector<std::wstring>& words) {
-    std::wstring xml = L"<obj>";
-    for (const std::wstring& word : words) {
-        const size_t equals = word.find(L'=');
-        const bool named = equals != std::wstring::npos;
-        xml += L"<pro name='" + (named ? word.substr(0, equals) : L"FNAME") + L"' value='" +
-               (named ? word.substr(equals + 1) : word) + L"'/>";
+inline std::vector<std::wstring> Split(const std::wstring& text, wchar_t separator) {
+    std::vector<std::wstring> parts;
+    for (size_t start = 0, end = 0; start < text.size(); start = end + 1) {
+        end = (std::min)(text.find(separator, start), text.size());
+        parts.push_back(text.substr(start, end - start));
     }
-    return xml + L"</obj>";
+    return parts;
 }
 
-inline std::wstring Group(const std::wstring& id, const std::wstring& objects) {
-    return L"<type id='" + id + L"'>" + objects + L"</type>";
+inline std::wstring Escaped(std::wstring text) {
+    for (size_t at = text.find_first_of(L"&<"); at != std::wstring::npos;
+         at = text.find_first_of(L"&<", at + 1))
+        text.replace(at, 1, text[at] == L'&' ? L"&amp;" : L"&lt;");
+    return text;
 }
 
+// "ID:object;object|ID:object" as a message. An object is "NAME=value,NAME=value"; "value" alone is an FNAME,
+// "-" an object without properties. Groups and objects that begin with "<" are taken as they stand.
 inline std::wstring Message(const std::wstring& groups) {
-    return L"<root><objs>" + groups + L"</objs></root>";
+    std::wstring xml = L"<root><objs>";
+    for (const std::wstring& group : Split(groups, L'|')) {
+        const size_t colon = group.find(L':');
+        xml += group[0] == L'<' ? group : L"<type id='" + group.substr(0, colon) + L"'>";
+        if (group[0] == L'<') continue;
+        for (const std::wstring& object : Split(group.substr(colon + 1), L';')) {
+            xml += object[0] == L'<' ? object : L"<obj>";
+            if (object[0] == L'<') continue;
+            for (const std::wstring& word : Split(object == L"-" ? L"" : object, L',')) {
+                const size_t equals = word.find(L'=');
+                const bool named = equals != std::wstring::npos;
+                xml += L"<pro name='" + (named ? word.substr(0, equals) : L"FNAME") + L"' value='" +
+                       Escaped(word.substr(named ? equals + 1 : 0)) + L"'/>";
+            }
+            xml += L"</obj>";
+        }
+        xml += L"</type>";
+    }
+    return xml + L"</objs></root>";
 }
 
-inline const std::wstring kLogin =
-    Group(L"LoginInfo", Object({L"UserName=wang", L"Password=p", L"PLMServer=s"}));
-inline const std::wstring kSteps = Group(L"step", Object({L"STEP=审核"}));
+inline const std::wstring kLogin = L"LoginInfo:UserName=wang,Password=p,PLMServer=s|";
+inline const std::wstring kSteps = L"step:STEP=审核|";
 
-// A message with the usual login and step and one document per name.
-inline std::wstring Documents(const std::vector<std::wstring>& names) {
-    std::wstring objects;
-    for (const std::wstring& name : names)
-        objects += Object({name});
-    return Message(kLogin + kSteps + Group(L"DOC", objects));
+// A message with the usual login and step.
+inline std::wstring Documents(const std::wstring& objects) {
+    return Message(kLogin + kSteps + L"DOC:" + objects);
 }
 
 inline std::wstring Described(const SLoginInfo* login) {
-    if (!login) return L"none";
+    if (!login) return L"";
     return std::wstring(login->m_strUserName) + L"/" + login->m_strPassword.GetString() + L"/" +
            login->m_strPLMServer.GetString();
 }
 
-// The identifier, then each object as "[NAME=value NAME=value]".
+// In the notation of Message.
 inline std::wstring Described(const SSignType* type) {
-    if (!type) return L"none";
-    std::wstring text(type->m_strId);
+    if (!type) return L"";
+    std::wstring text = std::wstring(type->m_strId) + L":";
     for (POSITION at = type->m_lstObj.GetHeadPosition(); at;) {
         const SSignObj* object = type->m_lstObj.GetNext(at);
-        text += L"[";
         for (POSITION in = object->GetHeadPosition(); in;) {
             const SSignPro* property = object->GetNext(in);
-            text += std::wstring(property->m_strName) + L"=" + property->m_strValue.GetString() +
-                    (in ? L" " : L"");
+            if (property->m_strName != L"FNAME") text += std::wstring(property->m_strName) + L"=";
+            text += std::wstring(property->m_strValue) + (in ? L"," : at ? L";" : L"");
         }
-        text += L"]";
     }
     return text;
 }
@@ -93,27 +108,38 @@ struct Results {
     SSignType* files = Unset<SSignType>();
 };
 
+// Items of remote and local names, after a null one.
+using ItemNames = std::vector<std::pair<const wchar_t*, const wchar_t*>>;
+inline varnoke::OwnedRecord<SSignFileDUL> NewList(const std::wstring& folder, const ItemNames& names) {
+    varnoke::OwnedRecord<SSignFileDUL> list(new SSignFileDUL);
+    list->m_strFolder = folder.c_str();
+    list->m_lstItem.AddTail(static_cast<SSignFileDULItem*>(nullptr));
+    for (const auto& [remote, local] : names)
+        list->m_lstItem.AddTail(new SSignFileDULItem{remote, local});
+    return list;
+}
+
 class PlmTest : public testing::Test {
 protected:
     using Operation = long (CPLMInteract::*)(wchar_t*, wchar_t*, SLoginInfo**, SSignType**, SSignType**);
+    static constexpr Operation kRead = &CPLMInteract::StartSignForBackSign;
+    static constexpr Operation kMerge = &CPLMInteract::AppendParserStartSignXmlString;
 
-    long Call(Operation operation, const std::wstring& xml, Results& results) {
-        return (m_plm.*operation)(Text(xml), Text(m_folder.Text()), &results.login, &results.steps,
-                                  &results.files);
+    long Call(Operation operation, const std::wstring& xml, Results& results, const std::wstring& folder) {
+        return (m_plm.*operation)(Text(xml), Text(folder), &results.login, &results.steps, &results.files);
     }
-    long Read(const std::wstring& xml, Results& results) {
-        return Call(&CPLMInteract::StartSignForBackSign, xml, results);
+    long Read(const std::wstring& xml, Results&& results = {}) {
+        return Call(kRead, xml, results, m_folder.Text());
     }
     long Merge(const std::wstring& xml, Results& results) {
-        return Call(&CPLMInteract::AppendParserStartSignXmlString, xml, results);
+        return Call(kMerge, xml, results, m_folder.Text());
     }
     std::string Kept() const { return ReadBytes(m_kept); }
-    // What the kept file or another one holds, as Described gives it.
-    std::wstring FilesIn(const std::filesystem::path& file) {
+    // The documents in a kept message.
+    std::wstring DocumentsIn(const std::filesystem::path& file) {
         Results results;
-        TempFolder other;
-        (m_plm.ParserStartSignXmlString)(Text(FromUtf8(ReadBytes(file))), Text(other.Text()), &results.login,
-                                         &results.steps, &results.files);
+        const TempFolder other;
+        Call(kRead, FromUtf8(ReadBytes(file)), results, other.Text());
         return Described(results.files);
     }
     size_t FileCount() const {

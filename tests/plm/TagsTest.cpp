@@ -1,6 +1,5 @@
 // Sign tags of single documents and of lists.
 #include "tests/plm/PlmFixture.h"
-#include "module/OwnedRecord.h"
 
 using namespace tests;
 
@@ -12,16 +11,15 @@ class TagsTest : public PlmTest {
 protected:
     std::filesystem::path TagFile(int kind) const { return m_folder / L"SignData" / kTagFiles[kind]; }
 
-    // Sets the document's modification time, local.
-    void SetTime(const wchar_t* name, WORD year, WORD month, WORD day, WORD hour, WORD minute,
-                 WORD second) const {
-        const SYSTEMTIME local = {year, month, 0, day, hour, minute, second, 0};
+    // Sets the document's modification time to 9:05 and some seconds, local, on 2015-07-14.
+    void SetTime(const wchar_t* name, WORD second) const {
+        const SYSTEMTIME local = {2015, 7, 0, 14, 9, 5, second, 0};
         SYSTEMTIME utc;
         FILETIME time;
         TzSpecificLocalTimeToSystemTime(nullptr, &local, &utc);
         SystemTimeToFileTime(&utc, &time);
-        const HANDLE file = CreateFileW((m_folder / name).c_str(), FILE_WRITE_ATTRIBUTES, 0, nullptr,
-                                        OPEN_EXISTING, 0, nullptr);
+        const HANDLE file =
+            CreateFileW((m_folder / name).c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
         ASSERT_TRUE(SetFileTime(file, nullptr, nullptr, &time));
         CloseHandle(file);
     }
@@ -46,10 +44,10 @@ TEST_F(TagsTest, SetAndGet) {
         EXPECT_EQ((m_plm.*get)(withSlash, name, &value), 1);
         EXPECT_EQ(value, -5);
         EXPECT_EQ(ReadBytes(TagFile(kind)).find(kind ? "[DocSignLogTag]\r\n" : "[DocSignTag]\r\n"), 0u);
-        for (const auto& [where, what] :
-             {std::pair<const wchar_t*, const wchar_t*>(nullptr, L"x"), {L"", L"x"}, {L"c:", nullptr}, {L"c:", L""}}) {
-            EXPECT_EQ((m_plm.*set)(Text(where), Text(what), 1), 0);
-            EXPECT_EQ((m_plm.*get)(Text(where), Text(what), &value), 0);
+        for (const wchar_t* missing : {L"", static_cast<const wchar_t*>(nullptr)}) {
+            EXPECT_EQ((m_plm.*set)(Text(missing), name, 1) + (m_plm.*set)(folder, Text(missing), 1), 0);
+            EXPECT_EQ((m_plm.*get)(Text(missing), name, &value) + (m_plm.*get)(folder, Text(missing), &value),
+                      0);
         }
         EXPECT_EQ((m_plm.*get)(folder, name, nullptr), 0);
         WriteBytes(m_folder / L"file", "");
@@ -70,7 +68,7 @@ TEST_F(TagsTest, TimeTag) {
     WriteBytes(m_folder / L"a.dwg", "");
     EXPECT_EQ(m_plm.GetDocSignTimeTag(folder, name, &changed), 1); // nothing recorded yet
     EXPECT_EQ(changed, 1);
-    SetTime(L"a.dwg", 2015, 7, 14, 9, 5, 0);
+    SetTime(L"a.dwg", 0);
     EXPECT_EQ(m_plm.GetDocLastModifyTimeString(folder, name, time), 1);
     EXPECT_STREQ(time, L"2015-07-14_09:05:00");
     EXPECT_EQ(m_plm.GetDocLastModifyTimeString(folder, name, nullptr), 0);
@@ -78,7 +76,7 @@ TEST_F(TagsTest, TimeTag) {
     EXPECT_EQ(ReadBytes(TagFile(2)), "[DocSignTimeTag]\r\na.dwg=2015-07-14_09:05:00\r\n");
     EXPECT_EQ(m_plm.GetDocSignTimeTag(folder, name, &changed), 0);
     EXPECT_EQ(changed, 0);
-    SetTime(L"a.dwg", 2015, 7, 14, 9, 5, 1);
+    SetTime(L"a.dwg", 1);
     EXPECT_EQ(m_plm.GetDocSignTimeTag(folder, name, &changed), 1);
     EXPECT_EQ(changed, 1);
 }
@@ -95,13 +93,17 @@ TEST_F(TagsTest, ListsGiveTheFilesOfSingleOperations) {
         "\r\n[DocSignTag]\r\nno line end=1",
         many,
     };
-    const std::vector<std::vector<const wchar_t*>> nameLists = {
-        {L"a.dwg", L"", L"b.dwg", L"图 1.dwg", L"A.dwg"},
-        {L"x=y.dwg", L"a.dwg", L";c.dwg", L"[d].dwg", L"x=y.dwg", L" e"}};
+    const ItemNames nameLists[] = {
+        {{L"", L"a.dwg"}, {L"", L""}, {L"", L"b.dwg"}, {L"", L"图 1.dwg"}, {L"", L"A.dwg"}},
+        {{L"", L"x=y.dwg"},
+         {L"", L"a.dwg"},
+         {L"", L";c.dwg"},
+         {L"", L"[d].dwg"},
+         {L"", L"x=y.dwg"},
+         {L"", L" e"}}};
     for (const std::string& before : befores) {
-        for (const auto& names : nameLists) {
+        for (const ItemNames& names : nameLists) {
             SCOPED_TRACE(before.substr(0, 60));
-            varnoke::OwnedRecord<SSignFileDUL> list(new SSignFileDUL);
             const TempFolder single, whole;
             for (const TempFolder* folder : {&single, &whole}) {
                 WriteBytes(*folder / L"a.dwg", "");
@@ -110,31 +112,26 @@ TEST_F(TagsTest, ListsGiveTheFilesOfSingleOperations) {
                     SetFileAttributesW((*folder / L"SignData" / file).c_str(), FILE_ATTRIBUTE_READONLY);
                 }
             }
-            list->m_strFolder = whole.Text().c_str();
-            list->m_lstItem.AddTail(static_cast<SSignFileDULItem*>(nullptr));
-            for (const wchar_t* name : names) {
-                list->m_lstItem.AddTail(new SSignFileDULItem);
-                list->m_lstItem.GetTail()->m_strLocalName = name;
-                m_plm.SetDocSignTag(Text(single.Text()), Text(name), 0);
-                m_plm.SetDocSignLogTag(Text(single.Text()), Text(name), 0);
-                m_plm.SetDocSignTimeTag(Text(single.Text()), Text(name));
+            last_write_time(whole / L"a.dwg", last_write_time(single / L"a.dwg"));
+            for (const auto& item : names) {
+                m_plm.SetDocSignTag(Text(single.Text()), Text(item.second), 0);
+                m_plm.SetDocSignLogTag(Text(single.Text()), Text(item.second), 0);
+                m_plm.SetDocSignTimeTag(Text(single.Text()), Text(item.second));
             }
+            const auto list = NewList(whole.Text(), names);
             EXPECT_EQ(m_plm.UpdateDocsSignTag(list.get(), 1), 1);
             EXPECT_EQ(m_plm.UpdateDocsSignTimeTag(list.get()), 1);
             for (const wchar_t* file : kTagFiles)
-                EXPECT_EQ(ReadBytes(whole / L"SignData" / file), ReadBytes(single / L"SignData" / file));
+                EXPECT_TRUE(ReadBytes(whole / L"SignData" / file) == ReadBytes(single / L"SignData" / file))
+                    << file;
         }
     }
 }
 
 TEST_F(TagsTest, LogTagsOnlyWhenWanted) {
-    varnoke::OwnedRecord<SSignFileDUL> list(new SSignFileDUL);
-    list->m_strFolder = m_folder.Text().c_str();
-    list->m_lstItem.AddTail(new SSignFileDULItem);
-    EXPECT_EQ(m_plm.UpdateDocsSignTag(list.get(), 1), 1);
+    EXPECT_EQ(m_plm.UpdateDocsSignTag(NewList(m_folder.Text(), {{L"r", L""}}).get(), 1), 1);
     EXPECT_FALSE(exists(m_folder / L"SignData")); // the only document has no name
-    list->m_lstItem.GetHead()->m_strLocalName = L"a.dwg";
-    EXPECT_EQ(m_plm.UpdateDocsSignTag(list.get(), 0), 1);
+    EXPECT_EQ(m_plm.UpdateDocsSignTag(NewList(m_folder.Text(), {{L"", L"a.dwg"}}).get(), 0), 1);
     EXPECT_EQ(ReadBytes(TagFile(0)), "[DocSignTag]\r\na.dwg=0\r\n");
     EXPECT_FALSE(exists(TagFile(1)));
 }
