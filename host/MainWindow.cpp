@@ -13,7 +13,7 @@ constexpr wchar_t kWindowClass[] = L"VarnokeHost";
 } // namespace
 
 BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
-ON_WM_PAINT()
+    ON_WM_PAINT()
 END_MESSAGE_MAP()
 
 CMainWindow::~CMainWindow() {

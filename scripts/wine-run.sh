@@ -17,7 +17,7 @@ export WINEDLLOVERRIDES="mscoree,mshtml,winedbg.exe="
 # Code page 936, so that the profile functions keep Chinese text.
 export LC_ALL=zh_CN.UTF-8 DISPLAY=$VARNOKE_DISPLAY
 if ! grep -qsxF "$WINEPREFIX" "$VARNOKE_RUN_DIR/prefixes"; then
-    # Sessions of the same prefix take turns: they would share a Wine server, whose windows are on the first
+    # Runs in the same prefix take turns: they would share a Wine server, whose windows are on the first
     # one's display, and which the first to end stops, the other's programs with it.
     exec 8>"$build/.wineprefix.session.lock"
     flock 8

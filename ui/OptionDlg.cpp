@@ -8,8 +8,8 @@
 #include "ui/StoredColor.h"
 
 BEGIN_MESSAGE_MAP(COptionDlg, CDialog)
-ON_BN_CLICKED(IDC_CONFIRM, &COptionDlg::OnOK)
-ON_BN_CLICKED(IDC_DISMISS, &COptionDlg::OnCancel)
+    ON_BN_CLICKED(IDC_CONFIRM, &COptionDlg::OnOK)
+    ON_BN_CLICKED(IDC_DISMISS, &COptionDlg::OnCancel)
 END_MESSAGE_MAP()
 
 COptionDlg::COptionDlg(CWnd* pParent) : CDialog(IDD, pParent) {}

@@ -33,11 +33,11 @@ CalendarDate PickedDate(const CDateTimeCtrl& picker) {
 } // namespace
 
 BEGIN_MESSAGE_MAP(CSignDlg, CDialog)
-ON_BN_CLICKED(IDC_CONFIRM, &CSignDlg::OnOK)
-ON_BN_CLICKED(IDC_DISMISS, &CSignDlg::OnCancel)
-ON_BN_CLICKED(IDC_SCOPE_CURRENT, &CSignDlg::OnClickedScopeCurrent)
-ON_BN_CLICKED(IDC_SCOPE_OPENED, &CSignDlg::OnClickedScopeOpened)
-ON_BN_CLICKED(IDC_SCOPE_ALL, &CSignDlg::OnClickedScopeAll)
+    ON_BN_CLICKED(IDC_CONFIRM, &CSignDlg::OnOK)
+    ON_BN_CLICKED(IDC_DISMISS, &CSignDlg::OnCancel)
+    ON_BN_CLICKED(IDC_SCOPE_CURRENT, &CSignDlg::OnClickedScopeCurrent)
+    ON_BN_CLICKED(IDC_SCOPE_OPENED, &CSignDlg::OnClickedScopeOpened)
+    ON_BN_CLICKED(IDC_SCOPE_ALL, &CSignDlg::OnClickedScopeAll)
 END_MESSAGE_MAP()
 
 CSignDlg::CSignDlg(CWnd* pParent) : CDialog(IDD, pParent) {}

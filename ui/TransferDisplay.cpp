@@ -8,7 +8,7 @@ using namespace varnoke;
 namespace {
 
 const ULONGLONG kDrawInterval = 100; // ms
-const int kUnpacedDraws = 10;        // so that a short list is shown step by step
+const int kShortList = 10;           // documents; a short list is shown step by step
 const int kLogLimit = 0x7ffffffe;
 
 } // namespace
@@ -22,6 +22,7 @@ void CTransferDisplay::Exchange(CDataExchange* pDX, const STransferVariant& vari
 }
 
 void CTransferDisplay::Start(const CString& strFile, const CString& strTotal, int nCount) {
+    m_bPaced = nCount > kShortList;
     m_labelFile.SetWindowText(strFile);
     m_barFile.SetRange32(0, kActivityEnd);
     m_barFile.SetPos(0);
@@ -71,12 +72,7 @@ void CTransferDisplay::Draw() {
 }
 
 void CTransferDisplay::DrawWhenDue() {
-    if (m_nUnpacedDraws < kUnpacedDraws) {
-        ++m_nUnpacedDraws;
-        Draw();
-    } else if (::GetTickCount64() - m_nLastDrawn >= kDrawInterval) {
-        Draw();
-    }
+    if (!m_bPaced || ::GetTickCount64() - m_nLastDrawn >= kDrawInterval) Draw();
 }
 
 void CTransferDisplay::StepActivity() {

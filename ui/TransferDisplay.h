@@ -37,5 +37,5 @@ private:
     CString m_strTotal;
     CString m_strLines;
     ULONGLONG m_nLastDrawn = 0; // ms
-    int m_nUnpacedDraws = 0;
+    bool m_bPaced = false;
 };

@@ -10,8 +10,8 @@ using namespace varnoke;
 namespace {
 
 const UINT kMessageTextRoom = 1024;
-const LONG kMostPosted = 32; // messages in the window's queue
-const DWORD kNoRoomWait = 2; // ms
+const LONG kMostPosted = 128; // messages in the window's queue
+const DWORD kNoRoomWait = 2;  // ms
 
 class CExclusiveLock {
 public:
