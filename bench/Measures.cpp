@@ -2,14 +2,12 @@
 #include <afxwin.h>
 
 #include "bench/Measures.h"
+#include "bench/BareParser.h"
+#include "bench/LogMeasure.h"
 #include "bench/MessageText.h"
 #include "bench/Stopwatch.h"
 
-#include <comdef.h>
-#include <msxml2.h>
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <memory>
 
 namespace bench {
@@ -17,29 +15,6 @@ namespace bench {
 namespace {
 
 constexpr int kProperties = 10;
-constexpr CLSID kDocument60 = {0x88d96a05, 0xf192, 0x11d4, {0xa6, 0x5f, 0x00, 0x40, 0x96, 0x32, 0x51, 0xe5}};
-using Document = _com_ptr_t<_com_IIID<IXMLDOMDocument, &IID_IXMLDOMDocument>>;
-
-void Require(bool condition, const char* what) {
-    if (condition) return;
-    std::printf("failed: %s\n", what);
-    std::exit(2);
-}
-
-Document LoadBare(const std::wstring& text) {
-    Document document;
-    VARIANT_BOOL loaded = VARIANT_FALSE;
-    Require(SUCCEEDED(document.CreateInstance(kDocument60)), "creating a document");
-    document->put_async(VARIANT_FALSE);
-    document->loadXML(_bstr_t(text.c_str()), &loaded);
-    Require(loaded != VARIANT_FALSE, "loading a message");
-    return document;
-}
-
-void SaveBare(const Document& document, const std::wstring& path) {
-    Require(SUCCEEDED(document->save(_variant_t(path.c_str()))), "saving a message");
-}
-
 struct Records {
     SLoginInfo* login = nullptr;
     SSignType* steps = nullptr;
@@ -151,6 +126,7 @@ Costs MeasureAll(const Workspace& workspace, CPLMInteract& interact, int documen
     MeasureMerging(workspace, interact, documents, costs);
     costs[Tagging] = MeasureTagging(workspace, interact, documents);
     costs[Returning] = MeasureReturning(workspace, interact, documents);
+    MeasureLogging(workspace, interact, documents, costs[BareLogging], costs[Logging]);
     return costs;
 }
 

@@ -16,6 +16,8 @@ enum Cost {
     Merging,     ///< a message into a kept one of the same size with other documents
     Tagging,     ///< both tags and the times of documents that are tagged already
     Returning,   ///< the return file, with every document signed
+    BareLogging, ///< the bare parser: load and save a sign record
+    Logging,     ///< one further entry of that record
     CostCount
 };
 /// Milliseconds.

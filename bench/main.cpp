@@ -3,7 +3,9 @@
 #include <afxwin.h>
 #include <objbase.h>
 
+#include "bench/BareParser.h"
 #include "bench/Measures.h"
+#include "module/Owned.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -56,11 +58,13 @@ bool ReportGrowth(const char* what, const Comparison& times, Cost cost) {
 bool ReportAll(const Comparison& times) {
     bool kept = Report("reading a message : bare parser", times.big[Reading] / times.big[BareReading], 1.5);
     kept &= Report("merging into a message : bare parser", times.big[Merging] / times.big[BareMerging], 3);
+    kept &= Report("one log entry : bare parser", times.big[Logging] / times.big[BareLogging], 3);
     kept &= ReportGrowth("bare parser", times, BareReading);
     kept &= ReportGrowth("reading a message", times, Reading);
     kept &= ReportGrowth("merging into a message", times, Merging);
     kept &= ReportGrowth("tags of a document list", times, Tagging);
     kept &= ReportGrowth("return file", times, Returning);
+    kept &= ReportGrowth("one log entry", times, Logging);
     kept &= ReportGrowth("release of records", times, Release);
     return kept;
 }
@@ -76,7 +80,10 @@ int wmain(int argc, wchar_t** argv) {
     bool kept = false;
     {
         const Workspace workspace;
+        // Its folder is where the model configuration lies.
+        const varnoke::LibraryHandle services(::LoadLibraryW(L"QORLocal.dll"));
         CPLMInteract interact;
+        Require(interact.Initialize(nullptr) == 1, "loading the model configuration");
         kept = ReportAll(Comparison(workspace, interact, rounds));
     }
     ::CoUninitialize();

@@ -16,8 +16,9 @@ CBackSignRun::CBackSignRun(CSession& session, const SLoginInfo& login, const CSt
 
 void CBackSignRun::Run(const std::vector<CDocument>& documents) {
     const EText connection = Connect();
+    const std::vector<EText> refusals = RefusalsOf(documents);
     for (size_t i = 0; i < documents.size(); ++i) {
-        EText outcome = RefusalOf(documents, i);
+        EText outcome = refusals[i];
         if (outcome == EText::Ready) outcome = connection;
         if (outcome == EText::Ready) outcome = Process(documents[i]);
         if (outcome == EText::Signed) m_signedNames.AddTail(documents[i].Name());

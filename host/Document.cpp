@@ -1,8 +1,6 @@
 // One document of a start-sign message.
 #include <afxwin.h>
 
-#include <algorithm>
-
 #include "host/Document.h"
 
 namespace host {
@@ -41,14 +39,6 @@ void CDocument::FillEmpty(const wchar_t* name, const CString& value) const {
     }
 }
 
-bool CDocument::SharesName(const CDocument& other) const {
-    return std::any_of(m_names.begin(), m_names.end(), [&other](const CString& mine) {
-        return std::any_of(other.m_names.begin(), other.m_names.end(), [&mine](const CString& name) {
-            return !mine.IsEmpty() && SameFileName(mine, name);
-        });
-    });
-}
-
 std::vector<CDocument> DocumentsOf(const SSignType& files) {
     std::vector<CDocument> documents;
     for (POSITION position = files.m_lstObj.GetHeadPosition(); position;) {
@@ -56,10 +46,6 @@ std::vector<CDocument> DocumentsOf(const SSignType& files) {
         if (object) documents.emplace_back(*object);
     }
     return documents;
-}
-
-bool SameFileName(const CString& a, const CString& b) {
-    return ::CompareStringOrdinal(a, a.GetLength(), b, b.GetLength(), TRUE) == CSTR_EQUAL;
 }
 
 } // namespace host

@@ -32,9 +32,8 @@ public:
 
     /// Why the document is refused; None for one that may be fetched.
     ENameFault NameFault() const { return CheckDocumentName(m_strName); }
-    /// Whether both documents carry the same file name. All values of the name property count: the result
-    /// file finds a document by any of them.
-    bool SharesName(const CDocument& other) const;
+    /// All values of the name property: the result file finds a document by any of them.
+    const std::vector<CString>& AllNames() const { return m_names; }
 
 private:
     SSignObj* m_pObject; // weak
@@ -47,8 +46,5 @@ private:
 
 /// The documents of a message, in message order.
 std::vector<CDocument> DocumentsOf(const SSignType& files);
-
-/// Equal as file names are: without regard to case.
-bool SameFileName(const CString& a, const CString& b);
 
 } // namespace host

@@ -1,6 +1,8 @@
 // Lines about the documents of a run.
 #include <afxwin.h>
 
+#include <algorithm>
+
 #include "host/Command.h"
 #include "host/Console.h"
 #include "host/DocumentLine.h"
@@ -29,15 +31,44 @@ EText TextOfFault(ENameFault fault) {
     return EText::Ready;
 }
 
+struct SOwnedName {
+    CString m_strName;
+    size_t m_nDocument;
+};
+
+/// The names of all documents in the order of names, so that equal ones are neighbours.
+std::vector<SOwnedName> SortedNames(const std::vector<CDocument>& documents) {
+    std::vector<SOwnedName> names;
+    for (size_t i = 0; i < documents.size(); ++i) {
+        for (const CString& name : documents[i].AllNames()) {
+            if (!name.IsEmpty()) names.push_back({name, i});
+        }
+    }
+    std::sort(names.begin(), names.end(), [](const SOwnedName& a, const SOwnedName& b) {
+        const int order = CompareFileNames(a.m_strName, b.m_strName);
+        return order != 0 ? order < 0 : a.m_nDocument < b.m_nDocument;
+    });
+    return names;
+}
+
 } // namespace
 
-EText RefusalOf(const std::vector<CDocument>& documents, size_t index) {
-    const ENameFault fault = documents[index].NameFault();
-    if (fault != ENameFault::None) return TextOfFault(fault);
-    for (size_t other = 0; other < documents.size(); ++other) {
-        if (other != index && documents[index].SharesName(documents[other])) return EText::RefusedTwice;
+std::vector<EText> RefusalsOf(const std::vector<CDocument>& documents) {
+    std::vector<EText> refusals;
+    for (const CDocument& document : documents) {
+        refusals.push_back(TextOfFault(document.NameFault()));
     }
-    return EText::Ready;
+    const std::vector<SOwnedName> names = SortedNames(documents);
+    for (size_t i = 1; i < names.size(); ++i) {
+        const SOwnedName &one = names[i - 1], &other = names[i];
+        if (one.m_nDocument == other.m_nDocument || CompareFileNames(one.m_strName, other.m_strName) != 0) {
+            continue;
+        }
+        for (size_t document : {one.m_nDocument, other.m_nDocument}) {
+            if (refusals[document] == EText::Ready) refusals[document] = EText::RefusedTwice;
+        }
+    }
+    return refusals;
 }
 
 void PrintDocumentLine(const std::vector<CDocument>& documents, size_t index, EText outcome) {

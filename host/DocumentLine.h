@@ -10,9 +10,9 @@
 
 namespace host {
 
-/// Why the host refuses the document, or Ready. Documents that share a file name are all refused: one would
-/// overwrite the other in the work folder, and the result file couldn't tell them apart.
-EText RefusalOf(const std::vector<CDocument>& documents, size_t index);
+/// For each document why the host refuses it, or Ready. Documents that share a file name are all refused: one
+/// would overwrite the other in the work folder, and the result file couldn't tell them apart.
+std::vector<EText> RefusalsOf(const std::vector<CDocument>& documents);
 
 /// Prints the line of one document, by its name, or by its place in the message when it has none.
 void PrintDocumentLine(const std::vector<CDocument>& documents, size_t index, EText outcome);

@@ -47,4 +47,8 @@ ENameFault CheckDocumentName(const CString& name) {
     return ENameFault::None;
 }
 
+int CompareFileNames(const CString& a, const CString& b) {
+    return ::CompareStringOrdinal(a, a.GetLength(), b, b.GetLength(), TRUE) - CSTR_EQUAL;
+}
+
 } // namespace host

@@ -12,4 +12,7 @@ enum class ENameFault { None, Empty, Path, Device, Ending, Character, SignData }
 /// drops dots and blanks at the end) or over the library's own files there is a fault.
 ENameFault CheckDocumentName(const CString& name);
 
+/// Order of file names, without regard to case: negative, 0 or positive.
+int CompareFileNames(const CString& a, const CString& b);
+
 } // namespace host

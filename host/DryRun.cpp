@@ -57,8 +57,9 @@ void CDryRun::ReportSettings(CSignOpt& signOpt) {
 
 size_t CDryRun::ReportDocuments(const std::vector<CDocument>& documents) {
     size_t ready = 0;
+    const std::vector<EText> refusals = RefusalsOf(documents);
     for (size_t i = 0; i < documents.size(); ++i) {
-        EText outcome = RefusalOf(documents, i);
+        EText outcome = refusals[i];
         if (outcome == EText::Ready && !IsInVault(documents[i])) outcome = EText::NotInVault;
         if (outcome == EText::Ready) ++ready;
         PrintDocumentLine(documents, i, outcome);

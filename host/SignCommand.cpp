@@ -41,7 +41,7 @@ int CSignCommand::Run(const COptions& options) {
     const std::vector<CDocument> documents = DocumentsOf(*records.m_pFiles);
     if (documents.empty()) return exitNone;
 
-    EText outcome = RefusalOf(documents, 0);
+    EText outcome = RefusalsOf(documents).front();
     if (outcome == EText::Ready) outcome = Process(session, *records.m_pLogin, documents.front());
     PrintDocumentLine(documents, 0, outcome);
     if (outcome != EText::Signed) return exitNone;

@@ -2,6 +2,7 @@
 #include <afxwin.h>
 
 #include <algorithm>
+#include <numeric>
 
 #include "host/Console.h"
 #include "host/Document.h"
@@ -34,18 +35,26 @@ std::vector<CString> KeysOf(const CString& folder, const CString& tag) {
     return names;
 }
 
-/// Every document that has a tag of any kind, once.
+/// Every document that has a tag of any kind, once, in the order of the files.
 std::vector<CString> TaggedDocuments(const CString& folder) {
     std::vector<CString> documents;
     for (const wchar_t* tag : kTags) {
-        for (const CString& name : KeysOf(folder, tag)) {
-            const bool known =
-                std::any_of(documents.begin(), documents.end(),
-                            [&name](const CString& document) { return SameFileName(document, name); });
-            if (!known) documents.push_back(name);
-        }
+        const std::vector<CString> keys = KeysOf(folder, tag);
+        documents.insert(documents.end(), keys.begin(), keys.end());
     }
-    return documents;
+    std::vector<size_t> order(documents.size());
+    std::iota(order.begin(), order.end(), size_t(0));
+    const auto compare = [&](size_t a, size_t b) { return CompareFileNames(documents[a], documents[b]); };
+    std::stable_sort(order.begin(), order.end(), [&](size_t a, size_t b) { return compare(a, b) < 0; });
+    order.erase(
+        std::unique(order.begin(), order.end(), [&](size_t a, size_t b) { return compare(a, b) == 0; }),
+        order.end());
+    std::sort(order.begin(), order.end());
+    std::vector<CString> once;
+    for (size_t index : order) {
+        once.push_back(documents[index]);
+    }
+    return once;
 }
 
 } // namespace
