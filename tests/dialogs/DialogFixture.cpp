@@ -1,7 +1,5 @@
 // The server access library's stand-in finds its folder and its faults by environment variables.
 #include "tests/dialogs/DialogFixture.h"
-#include "tests/support/MemoryUse.h"
-#include "tests/support/ObjectCounts.h"
 
 namespace tests {
 
@@ -33,17 +31,6 @@ void DialogFixture::ExpectBoxes(const wchar_t* owner, const std::vector<std::wst
         EXPECT_EQ(ToUtf8(box.m_ownerCaption), ToUtf8(owner)) << ToUtf8(texts[i]);
         EXPECT_TRUE(box.m_information) << ToUtf8(texts[i]);
     }
-}
-
-void DialogFixture::ExpectNothingLeft(const std::function<void()>& run) {
-    for (int round = 0; round < 100; ++round) // until the heap has grown to what it needs
-        run();
-    const ObjectCounts before = CountObjects();
-    EXPECT_LT(MemoryGrowth(97, run), 32 * 1024);
-    const ObjectCounts after = CountObjects();
-    EXPECT_EQ(before.m_windows, after.m_windows);
-    EXPECT_EQ(before.m_gdi, after.m_gdi);
-    EXPECT_EQ(before.m_kernel, after.m_kernel);
 }
 
 } // namespace tests

@@ -6,20 +6,12 @@
 #include "sign/SignOpt.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/HostWindow.h"
+#include "tests/support/ObjectCounts.h"
 #include "tests/support/SettingsFile.h"
 #include "tests/support/TempFolder.h"
+#include "tests/support/Text.h"
 
 namespace tests {
-
-// A text that exported functions may take as wchar_t*.
-class Text {
-public:
-    Text(std::wstring text) : m_text(std::move(text)) {}
-    operator wchar_t*() { return m_text.data(); }
-
-private:
-    std::wstring m_text;
-};
 
 class DialogFixture : public testing::Test {
 protected:
@@ -31,8 +23,6 @@ protected:
     // Expects exactly these messages to have been shown, each in the library's own box, owned by the
     // dialog of that caption.
     void ExpectBoxes(const wchar_t* owner, const std::vector<std::wstring>& texts) const;
-    // Runs a dialog 200 times and expects neither objects nor memory to remain.
-    static void ExpectNothingLeft(const std::function<void()>& run);
 
     TempFolder m_folder;
     SettingsFile m_settings;

@@ -1,7 +1,35 @@
-// Module state per thread.
+// Module state per thread; a regular DLL's application object starts and ends with the DLL, and may refuse to
+// be loaded.
 #include <afx.h>
+
 #include <gtest/gtest.h>
+
+#include <string>
 #include <thread>
+
+namespace {
+
+std::wstring Notes() {
+    wchar_t notes[64] = {};
+    ::GetEnvironmentVariableW(L"REGULAR_DLL_NOTES", notes, _countof(notes));
+    return notes;
+}
+
+} // namespace
+
+TEST(RegularDll, StartAndEnd_AreCalledOnceEach) {
+    for (const wchar_t* mode : {L"", L"refuse", L"throw"}) {
+        ::SetEnvironmentVariableW(L"REGULAR_DLL_MODE", mode);
+        ::SetEnvironmentVariableW(L"REGULAR_DLL_NOTES", nullptr);
+        const HMODULE hModule = ::LoadLibraryW(L"regular-dll.dll");
+        EXPECT_EQ(*mode == 0, hModule != nullptr) << mode;
+        if (hModule != nullptr) {
+            EXPECT_EQ(L"init(regular-dll) ", Notes());
+            ::FreeLibrary(hModule);
+        }
+        EXPECT_EQ(L"init(regular-dll) exit ", Notes()) << mode;
+    }
+}
 
 TEST(ModuleState, ScopesNestAndEndWithExceptions) {
     AFX_MODULE_STATE outer = {}, inner = {};

@@ -1,10 +1,12 @@
-// Dialogs with ActiveX controls: calls by identifier, errors, and places whose control is missing.
+// Dialogs with ActiveX controls: errors of calls, places whose control is missing, and what many runs leave.
 #include "tests/framework/ScriptedDialog.h"
 
 #include <afxdisp.h>
 #include <gtest/gtest.h>
 
 #include "tests/framework/FakeControl.h"
+#include "tests/support/HostWindow.h"
+#include "tests/support/ObjectCounts.h"
 
 namespace {
 
@@ -45,47 +47,27 @@ protected:
 TEST_F(OleControl, Unregistered_LeavesAnEmptyPlace) {
     Run(IDC_UNKNOWN_CONTROL, [](CWnd& control) {
         EXPECT_EQ(nullptr, control.GetControlUnknown());
-        EXPECT_EQ(OLE_E_BLANK, ThrownStatus([&] { control.SetProperty(FakeNumber, VT_I4, 1L); }));
+        EXPECT_EQ(OLE_E_BLANK, ThrownStatus([&] { control.SetProperty(FakeName, VT_I4, 1L); }));
         CWnd* pDialog = control.GetParent();
         CRect place;
         control.GetClientRect(place);
         EXPECT_GT(place.Width(), 50);
-        const HWND hBefore = ::GetDlgItem(*pDialog, IDC_BEFORE);
-        EXPECT_EQ(control.m_hWnd, ::GetNextDlgTabItem(*pDialog, hBefore, FALSE))
+        EXPECT_EQ(control.m_hWnd, ::GetNextDlgTabItem(*pDialog, ::GetDlgItem(*pDialog, IDC_NAME), FALSE))
             << "the tab order is the template's";
         EXPECT_EQ(nullptr, pDialog->GetControlUnknown()) << "a plain window";
     });
 }
 
-TEST_F(OleControl, Members_AreCalledByIdentifier) {
-    const FakeControlClass registered;
-    Run(IDC_FAKE_CONTROL, [](CWnd& control) {
-        ASSERT_NE(nullptr, control.GetControlUnknown());
-        static const BYTE parms[] = VTS_BSTR VTS_I4 VTS_R8 VTS_BOOL;
-        CString text;
-        control.InvokeHelper(FakeJoin, DISPATCH_METHOD, VT_BSTR, &text, parms, L"文", 8L, 2.5, TRUE);
-        EXPECT_STREQ(L"文:8:20:-1", text);
-        control.SetProperty(FakeNumber, VT_I4, 42L);
-        long nNumber = 0;
-        control.GetProperty(FakeNumber, VT_I4, &nNumber);
-        EXPECT_EQ(42, nNumber);
-        control.GetProperty(FakeNumber, VT_BSTR, &text); // converted
-        EXPECT_STREQ(L"42", text);
-    });
-    EXPECT_EQ(0, FakeControlClass::LiveObjects());
-}
-
 TEST_F(OleControl, Failures_AreExceptions) {
     const FakeControlClass registered;
     Run(IDC_FAKE_CONTROL, [](CWnd& control) {
+        ASSERT_NE(nullptr, control.GetControlUnknown());
         const auto call = [&](DISPID member) {
             control.InvokeHelper(member, DISPATCH_METHOD, VT_EMPTY, nullptr, nullptr);
         };
+        long nNumber = 0;
         EXPECT_EQ(DISP_E_MEMBERNOTFOUND, ThrownStatus([&] { call(99); }));
-        EXPECT_EQ(DISP_E_TYPEMISMATCH, ThrownStatus([&] {
-                      long nNumber = 0;
-                      control.InvokeHelper(FakeName, DISPATCH_PROPERTYGET, VT_I4, &nNumber, nullptr);
-                  }));
+        EXPECT_EQ(DISP_E_TYPEMISMATCH, ThrownStatus([&] { control.GetProperty(FakeName, VT_I4, &nNumber); }));
         try {
             call(FakeFail);
             ADD_FAILURE() << "no exception";
@@ -97,4 +79,36 @@ TEST_F(OleControl, Failures_AreExceptions) {
         }
     });
     EXPECT_EQ(0, FakeControlClass::LiveObjects());
+}
+
+TEST_F(OleControl, ManyRuns_LeaveNothing) {
+    const FakeControlClass registered;
+    tests::HostWindow host;
+    tests::ExpectNothingLeft([&] {
+        CScriptedDialog plain(IDD_PLAIN, host);
+        CComboBox combo;
+        plain.m_init = [&](CScriptedDialog& d) { combo.SubclassDlgItem(IDC_COLORS, &d); };
+        plain.m_script = [](CScriptedDialog& d) {
+            const CClientDC dc(d.GetDlgItem(IDC_NAME));
+            d.EndDialog(1);
+        };
+        EXPECT_EQ(1, plain.DoModal());
+        CScriptedDialog controls(IDD_CONTROLS, host);
+        controls.m_init = [](CScriptedDialog& d) { d.EndDialog(2); };
+        EXPECT_EQ(2, controls.DoModal());
+    });
+    EXPECT_EQ(0, FakeControlClass::LiveObjects());
+}
+
+TEST(ObjectCounts, SeeWhatIsThere) {
+    const tests::ObjectCounts before = tests::CountObjects();
+    tests::HostWindow host;
+    const HGDIOBJ hPen = ::CreatePen(PS_SOLID, 1, RGB(9, 9, 9));
+    const HANDLE hEvent = ::CreateEvent(nullptr, FALSE, FALSE, nullptr);
+    const tests::ObjectCounts after = tests::CountObjects();
+    ::CloseHandle(hEvent);
+    ::DeleteObject(hPen);
+    EXPECT_GT(after.m_windows, before.m_windows);
+    EXPECT_GT(after.m_gdi, before.m_gdi);
+    EXPECT_GT(after.m_kernel, before.m_kernel);
 }

@@ -1,8 +1,6 @@
 // A dialog whose start and course a test supplies.
 #pragma once
 
-#include <afxcmn.h>
-#include <afxdtctl.h>
 #include <afxwin.h>
 
 #include <functional>
@@ -18,10 +16,9 @@ public:
     explicit CScriptedDialog(UINT nIDTemplate = IDD_PLAIN, CWnd* pParent = nullptr)
         : CDialog(nIDTemplate, pParent) {}
 
-    Script m_init;           // in OnInitDialog
-    Script m_script;         // once, in the modal loop
-    Script m_click, m_timer; // on one of the two buttons, on a timer
-    BOOL m_bFocus = TRUE;    // OnInitDialog's result
+    Script m_init;        // in OnInitDialog
+    Script m_script;      // in the modal loop, on each WM_RUN_SCRIPT; the first is posted
+    BOOL m_bFocus = TRUE; // OnInitDialog's result
     bool m_bWasVisible = false;
 
 protected:
@@ -32,20 +29,9 @@ protected:
         return m_bFocus;
     }
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_RUN_SCRIPT && m_script) m_script(*this);
         const LRESULT lResult = CDialog::WindowProc(message, wParam, lParam);
         m_bWasVisible = m_bWasVisible || (m_hWnd != nullptr && IsWindowVisible());
         return lResult;
     }
-    afx_msg void OnClickedPress() {
-        if (m_click) m_click(*this);
-    }
-    afx_msg void OnTimer(UINT_PTR nIDEvent) {
-        CDialog::OnTimer(nIDEvent);
-        if (m_timer) m_timer(*this);
-    }
-    afx_msg LRESULT OnRunScript(WPARAM, LPARAM) {
-        if (m_script) m_script(*this);
-        return 0;
-    }
-    DECLARE_MESSAGE_MAP()
 };

@@ -52,16 +52,12 @@ private:
 } // namespace
 
 TEST(StringBuffer, Copies_ShareUntilOneIsWritten) {
-    CString first(L"abc");
-    CString second(first);
-    CString third;
-    third = second;
-    EXPECT_TRUE(first.GetString() == second.GetString() && first.GetString() == third.GetString());
+    CString first(L"abc"), second(first);
+    EXPECT_EQ(first.GetString(), second.GetString());
     second.SetAt(1, L'X');
-    third += L"d";
-    EXPECT_STREQ(first, L"abc");
+    first += L"d";
+    EXPECT_STREQ(first, L"abcd");
     EXPECT_STREQ(second, L"aXc");
-    EXPECT_STREQ(third, L"abcd");
 }
 
 TEST(StringBuffer, Assignment_KeepsTheTargetsManager) {

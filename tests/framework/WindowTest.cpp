@@ -1,5 +1,5 @@
-// Window objects: attachment, subclassing, failing handlers.
-#include <afxwin.h>
+// Window objects: attachment, subclassing, reflection, failing handlers.
+#include "tests/framework/ScriptedDialog.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 
 namespace {
 
-const UINT WM_ECHO = WM_APP + 10, WM_FAIL = WM_APP + 11, WM_FAIL_HARD = WM_APP + 12;
+const UINT WM_ECHO = WM_APP + 10, WM_FAIL = WM_APP + 11;
 
 int g_liveErrors = 0;
 
@@ -22,17 +22,14 @@ class CEchoEdit : public CEdit {
 public:
     bool m_bToldBefore = false;
     int m_nDestroyed = 0;
-    bool m_bSawCreate = false;
 
 protected:
     void PreSubclassWindow() override { m_bToldBefore = m_hWnd != nullptr; }
     void PostNcDestroy() override { ++m_nDestroyed; }
     afx_msg LRESULT OnEcho(WPARAM wParam, LPARAM lParam) { return static_cast<LRESULT>(wParam) + lParam; }
-    afx_msg LRESULT OnFail(WPARAM, LPARAM) { throw new CCountedError; }
-    afx_msg LRESULT OnFailHard(WPARAM, LPARAM) { throw std::runtime_error("not the framework's"); }
-    afx_msg LRESULT OnCreate(WPARAM, LPARAM) {
-        m_bSawCreate = true;
-        return Default();
+    afx_msg LRESULT OnFail(WPARAM wParam, LPARAM) {
+        if (wParam != 0) throw std::runtime_error("not the framework's");
+        throw new CCountedError;
     }
     DECLARE_MESSAGE_MAP()
 };
@@ -40,8 +37,26 @@ protected:
 BEGIN_MESSAGE_MAP(CEchoEdit, CEdit)
     ON_MESSAGE(WM_ECHO, &CEchoEdit::OnEcho)
     ON_MESSAGE(WM_FAIL, &CEchoEdit::OnFail)
-    ON_MESSAGE(WM_FAIL_HARD, &CEchoEdit::OnFailHard)
-    ON_MESSAGE(WM_CREATE, &CEchoEdit::OnCreate)
+END_MESSAGE_MAP()
+
+class CSwatchCombo : public CComboBox {
+public:
+    int m_nChosen = 0;
+    COLORREF m_clrDrawn = CLR_INVALID;
+
+    void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override {
+        const RECT& rect = lpDrawItemStruct->rcItem;
+        ::FillRect(lpDrawItemStruct->hDC, &rect, static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)));
+        m_clrDrawn = ::GetPixel(lpDrawItemStruct->hDC, rect.left + 1, rect.top + 1);
+    }
+
+protected:
+    afx_msg void OnSelEndOk() { ++m_nChosen; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CSwatchCombo, CComboBox)
+    ON_CONTROL_REFLECT(CBN_SELENDOK, &CSwatchCombo::OnSelEndOk)
 END_MESSAGE_MAP()
 
 HWND NewEdit() {
@@ -100,20 +115,27 @@ TEST(Window, FailingHandler_IsStoppedAtTheWindowProcedure) {
     ASSERT_TRUE(edit.SubclassWindow(NewEdit()));
     EXPECT_EQ(0, edit.SendMessage(WM_FAIL));
     EXPECT_EQ(0, g_liveErrors);
-    EXPECT_EQ(0, edit.SendMessage(WM_FAIL_HARD));
+    EXPECT_EQ(0, edit.SendMessage(WM_FAIL, TRUE));
     EXPECT_EQ(3, edit.SendMessage(WM_ECHO, 1, 2));
 }
 
-TEST(Window, CreateEx_OwnClassIsServedFromTheStart) {
-    const CString windowClass = AfxRegisterWndClass(CS_HREDRAW);
-    EXPECT_STREQ(windowClass, AfxRegisterWndClass(CS_HREDRAW));
-    for (const wchar_t* name : {windowClass.GetString(), L"EDIT"}) {
-        CEchoEdit window;
-        ASSERT_TRUE(window.CreateEx(0, name, _T("window"), WS_POPUP, 0, 0, 50, 50, nullptr, nullptr)) << name;
-        EXPECT_EQ(windowClass == name, window.m_bSawCreate);
-        EXPECT_EQ(3, window.SendMessage(WM_ECHO, 1, 2));
-        EXPECT_TRUE(window.DestroyWindow());
-        EXPECT_EQ(1, window.m_nDestroyed);
-        EXPECT_FALSE(window.CreateEx(0, _T("no such class"), name, WS_POPUP, 0, 0, 1, 1, nullptr, nullptr));
-    }
+TEST(Window, Reflection_ReachesTheControlThroughItsParent) {
+    CScriptedDialog dialog;
+    CSwatchCombo combo;
+    dialog.m_init = [&](CScriptedDialog& d) {
+        ASSERT_TRUE(combo.SubclassDlgItem(IDC_COLORS, &d));
+        combo.AddString(_T("green"));
+        combo.SetCurSel(0);
+    };
+    dialog.m_script = [&](CScriptedDialog& d) {
+        combo.UpdateWindow();
+        for (const WORD code : {CBN_SELENDOK, CBN_CLOSEUP})
+            d.SendMessage(WM_COMMAND, MAKEWPARAM(IDC_COLORS, code), reinterpret_cast<LPARAM>(combo.m_hWnd));
+        CString text;
+        EXPECT_THROW(combo.GetLBText(7, text), CInvalidArgException*);
+        d.EndDialog(1);
+    };
+    EXPECT_EQ(1, dialog.DoModal());
+    EXPECT_EQ(RGB(0, 0, 0), combo.m_clrDrawn);
+    EXPECT_EQ(1, combo.m_nChosen);
 }

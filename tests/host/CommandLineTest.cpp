@@ -1,23 +1,17 @@
 // Usage, message files of all encodings, and the commands beside the silent run.
 #include "tests/host/HostFixture.h"
 
-#include <algorithm>
-
 namespace fs = std::filesystem;
 
 namespace tests {
 
 namespace {
 
-std::string Utf16(const std::wstring& text, bool bigEndian, bool mark) {
-    std::string bytes;
-    for (const wchar_t c : (mark ? L"\xFEFF" : L"") + text) {
-        const char low = static_cast<char>(c & 0xFF);
-        const char high = static_cast<char>(c >> 8);
-        bytes += bigEndian ? high : low;
-        bytes += bigEndian ? low : high;
-    }
-    return bytes;
+std::string Utf16(std::wstring text, bool bigEndian) {
+    if (bigEndian)
+        for (wchar_t& c : text)
+            c = _byteswap_ushort(c);
+    return std::string(reinterpret_cast<const char*>(text.data()), text.size() * sizeof(wchar_t));
 }
 
 std::string Gbk(const std::wstring& text) {
@@ -51,9 +45,6 @@ TEST_F(CommandLineTest, BadUsage_IsRefusedWithTheReason) {
     EXPECT_EQ(0u, help.exitCode);
     EXPECT_NE(std::string::npos,
               help.out.find("back-sign --message FILE --vault DIR --work DIR --return FILE [--dry-run]"));
-}
-
-TEST_F(CommandLineTest, Texts_AreInTheUsersLanguage) {
     SetEnvironmentVariableW(L"VARNOKE_LANGUAGE", L"zh");
     EXPECT_NE(std::string::npos, RunHost({}).err.find("用法：varnoke-host.exe"));
 }
@@ -68,86 +59,70 @@ TEST_F(CommandLineTest, MessageFile_IsReadInEveryEncoding) {
     const std::vector<std::string> files = {
         ToUtf8(declared(L"UTF-8")),
         "\xEF\xBB\xBF" + ToUtf8(declared(L"utf-8")),
-        Utf16(declared(L"UTF-16"), false, true),
-        Utf16(declared(L"UTF-16"), true, true),
-        Utf16(declared(L"UTF-16"), false, false),
+        Utf16(L"\xFEFF" + declared(L"UTF-16"), false),
+        Utf16(L"\xFEFF" + declared(L"UTF-16"), true),
+        Utf16(declared(L"UTF-16"), false),
         Gbk(declared(L"GBK")),
         Gbk(declared(L"gb2312")),
         Gbk(declared(L"GB18030")),
     };
     for (size_t i = 0; i < files.size(); ++i) {
-        WriteBytes(Message(), files[i]);
+        WriteBytes(m_message, files[i]);
         const HostResult result = BackSign({L"--dry-run"});
         EXPECT_EQ(0u, result.exitCode) << "file " << i << ": " << result.Text();
         EXPECT_TRUE(result.Said("图纸.dwg: ready")) << "file " << i << ": " << result.Text();
     }
 }
 
-TEST_F(CommandLineTest, RefusedMessage_SignsNothing) {
+TEST_F(CommandLineTest, RefusedMessagesAndMissingFolders_SignNothing) {
     Prepare({{L"a.dwg"}});
-    const std::string good = ReadBytes(Message());
+    const std::string good = ReadBytes(m_message);
     std::string withoutSteps = good;
-    withoutSteps.replace(withoutSteps.find("\"step\""), 6, "\"Step\"");
-    const std::string zero = good + std::string(1, '\0') + good;
-    const std::vector<std::string> files = {"",
-                                            "no xml",
-                                            withoutSteps,
-                                            zero,
-                                            "\xFF\xFE<",
-                                            "<a>\xFF\xC3</a>",
-                                            "<?xml version='1.0' encoding='x-klingon'?>" + good};
-    for (size_t i = 0; i < files.size(); ++i) {
-        WriteBytes(Message(), files[i]);
-        EXPECT_EQ(2u, BackSign().exitCode) << "file " << i;
-        EXPECT_EQ(2u, BackSign({L"--dry-run"}).exitCode) << "file " << i;
+    withoutSteps.replace(withoutSteps.find("'step'"), 6, "'Step'");
+    for (const std::string& file :
+         {std::string(), std::string("no xml"), withoutSteps, good + std::string(1, '\0') + good,
+          std::string("\xFF\xFE<"), std::string("<a>\xFF\xC3</a>"),
+          "<?xml version='1.0' encoding='x-klingon'?>" + good}) {
+        WriteBytes(m_message, file);
+        EXPECT_EQ(2u, BackSign().exitCode) << file;
+        EXPECT_EQ(2u, BackSign({L"--dry-run"}).exitCode) << file;
     }
-    fs::remove(Message());
+    fs::remove(m_message);
     EXPECT_EQ(2u, BackSign().exitCode);
-    EXPECT_FALSE(fs::exists(Vault() / L"journal.log"));
-    EXPECT_EQ("", ReturnValues());
-}
-
-TEST_F(CommandLineTest, MissingFolders_AreRefusedBeforeAnythingHappens) {
-    Prepare({{L"a.dwg"}});
-    for (const auto& missing :
-         {std::pair<size_t, const wchar_t*>{4, L"nowhere"}, {6, L"no\\where"}, {8, L"no\\r.xml"}}) {
-        std::vector<std::wstring> arguments = {
-            L"back-sign",     L"--message",      Message().wstring(),
-            L"--vault",       Vault().wstring(), L"--work",
-            Work().wstring(), L"--return",       (m_folder / L"ret.xml").wstring()};
-        arguments[missing.first] = (m_folder / missing.second).wstring();
-        EXPECT_EQ(2u, RunHost(arguments).exitCode) << missing.first;
+    WriteBytes(m_message, good);
+    for (fs::path* option : {&m_vault, &m_work, &m_return}) {
+        const fs::path kept = std::exchange(*option, m_folder / L"no/where");
+        EXPECT_EQ(2u, BackSign().exitCode) << kept;
+        *option = kept;
     }
-    EXPECT_FALSE(fs::exists(Vault() / L"journal.log"));
+    EXPECT_FALSE(fs::exists(m_vault / L"journal.log"));
+    EXPECT_EQ("", ReturnValues());
 }
 
 TEST_F(CommandLineTest, Append_AddsNewDocumentsToTheKeptMessage) {
     Prepare({{L"a.dwg"}});
-    const std::vector<std::wstring> append = {L"append",       L"--message",      Message().wstring(),
-                                              L"--vault",      Vault().wstring(), L"--work",
-                                              Work().wstring()};
-    EXPECT_EQ(2u, RunHost(append).exitCode) << "no message is kept yet";
+    EXPECT_EQ(2u, Run(L"append").exitCode) << "no message is kept yet";
     ASSERT_EQ(0u, BackSign().exitCode);
-    EXPECT_EQ(4u, RunHost(append).exitCode) << "the document is kept already";
+    EXPECT_EQ(4u, Run(L"append").exitCode) << "the document is kept already";
 
-    WriteBytes(Message(), ToUtf8(MessageText({{L"A.DWG"}, {L"new.dwg"}})));
-    const HostResult merged = RunHost(append);
+    WriteBytes(m_message, ToUtf8(MessageText({{L"A.DWG"}, {L"new.dwg"}})));
+    const HostResult merged = Run(L"append");
     EXPECT_EQ(0u, merged.exitCode) << merged.Text();
     EXPECT_TRUE(merged.Said("merged: new.dwg")) << merged.Text();
-    const std::string kept = ReadBytes(Work() / L"SignData" / L"StartSign.Xml");
+    const std::string kept = ReadBytes(m_work / L"SignData" / L"StartSign.Xml");
     EXPECT_NE(std::string::npos, kept.find("a.dwg"));
     EXPECT_NE(std::string::npos, kept.find("new.dwg"));
 }
 
 TEST_F(CommandLineTest, Status_TellsTagsAndChanges) {
-    EXPECT_EQ(4u, RunHost({L"status", Work().wstring()}).exitCode);
+    EXPECT_EQ(4u, RunHost({L"status", m_work}).exitCode);
     Prepare({{L"a.dwg"}, {L"图.dwg"}, {L"c.dwg"}});
     Fault(L"UploadFailNames", L"c.dwg");
     ASSERT_EQ(3u, BackSign().exitCode);
     WritePrivateProfileStringW(L"DocSignTimeTag", L"图.dwg", L"2015-07-14_09:05:00",
-                               (Work() / L"SignData" / L"DocSignTimeTag.ini").c_str());
-    fs::remove(Work() / L"c.dwg");
-    const HostResult status = RunHost({L"status", Work().wstring()});
+                               (m_work / L"SignData" / L"DocSignTimeTag.ini").c_str());
+    fs::remove(m_work / L"c.dwg");
+    const HostResult status = RunHost({L"status", m_work});
     EXPECT_EQ(0u, status.exitCode);
     EXPECT_TRUE(status.Said("Document  Sign tag  Log tag  File")) << status.Text();
     EXPECT_TRUE(status.Said("a.dwg     1         1        unchanged")) << status.Text();
@@ -159,10 +134,8 @@ TEST_F(CommandLineTest, Sign_WalksThroughItsDialogsUnattended) {
     Prepare({{L"a.dwg"}});
     const fs::path pictures = m_folder / L"pictures";
     bool shown = false;
-    const HostResult result =
-        RunHost({L"sign", L"--message", Message().wstring(), L"--vault", Vault().wstring(), L"--work",
-                 Work().wstring(), L"--pictures", pictures.wstring(), L"--auto", L"--keep-log"},
-                [&](DWORD process) { shown = shown || VisibleWindows(process) > 0; });
+    const HostResult result = Run(L"sign", {L"--pictures", pictures, L"--auto", L"--keep-log"},
+                                  [&](DWORD process) { shown = shown || VisibleWindows(process) > 0; });
     EXPECT_TRUE(shown);
     EXPECT_EQ(0u, result.exitCode) << result.Text();
     EXPECT_TRUE(result.Said("a.dwg: downloaded, signed, uploaded")) << result.Text();
@@ -173,7 +146,7 @@ TEST_F(CommandLineTest, Sign_WalksThroughItsDialogsUnattended) {
         ASSERT_TRUE(fs::exists(pictures / name)) << result.Text();
         EXPECT_EQ("\x89PNG\r\n\x1A\n", ReadBytes(pictures / name).substr(0, 8));
     }
-    EXPECT_EQ(0u, RunHost({L"log", L"--work", Work().wstring()}).exitCode) << "the log was to be kept";
+    EXPECT_EQ(0u, RunHost({L"log", L"--work", m_work}).exitCode) << "the log was to be kept";
 }
 
 } // namespace

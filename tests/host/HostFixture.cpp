@@ -3,20 +3,15 @@
 
 #include <windows.h>
 
-#include <algorithm>
 #include <sstream>
+
+#include "tests/support/Message.h"
 
 namespace fs = std::filesystem;
 
 namespace tests {
 
 namespace {
-
-std::wstring Property(const std::wstring& name, std::wstring value) {
-    for (size_t at = 0; (at = value.find(L'&', at)) != std::wstring::npos; at += 5)
-        value.replace(at, 1, L"&amp;");
-    return L"<pro name=\"" + name + L"\" value=\"" + value + L"\"/>";
-}
 
 int CountLines(const fs::path& file, const std::string& call, const std::string& containing) {
     if (!fs::exists(file)) return 0;
@@ -31,9 +26,9 @@ int CountLines(const fs::path& file, const std::string& call, const std::string&
 } // namespace
 
 HostTest::HostTest() {
-    fs::create_directories(Vault() / L"files");
-    fs::create_directory(Work());
-    WriteBytes(Vault() / L"session.ini", "[Session]\r\nUserName=wang\r\nPassword=p\r\nServer=plm\r\n");
+    fs::create_directories(m_vault / L"files");
+    fs::create_directory(m_work);
+    WriteBytes(m_vault / L"session.ini", "[Session]\r\nUserName=wang\r\nPassword=p\r\nServer=plm\r\n");
     SetEnvironmentVariableW(L"VARNOKE_LANGUAGE", L"en");
     SetEnvironmentVariableW(L"SIGNSERVER_JOURNAL", (m_folder / L"sign.log").c_str());
 }
@@ -43,67 +38,63 @@ HostTest::~HostTest() {
         SetEnvironmentVariableW(name, nullptr);
 }
 
-void HostTest::Store(const std::wstring& remote, const std::string& bytes) const {
-    WriteBytes(Vault() / L"files" / remote, bytes);
-}
-
-std::string HostTest::Stored(const std::wstring& remote) const {
-    return ReadBytes(Vault() / L"files" / remote);
+void HostTest::Store(const std::wstring& remote) const {
+    WriteBytes(m_vault / L"files" / remote, "AC1015 drawing");
 }
 
 std::wstring HostTest::MessageText(const std::vector<TestDocument>& documents,
                                    const std::wstring& declaration) {
     std::wstring objects;
     int number = 0;
-    for (const TestDocument& document : documents) {
-        objects +=
-            L"<obj>" + Property(L"ID", L"D" + std::to_wstring(++number)) + Property(L"FNAME", document.name);
-        if (!document.remote.empty()) objects += Property(L"LOCATION", document.remote);
-        objects += Property(L"SIGN_ROLE", L"校对") + L"</obj>";
-    }
-    return declaration + L"<root><objs><type id=\"LoginInfo\"><obj>" + Property(L"UserName", L"wang") +
-           Property(L"Password", L"secret") + Property(L"PLMServer", L"plm") +
-           L"</obj></type><type id=\"step\"><obj>" + Property(L"STEPID", L"S1") +
-           L"</obj></type><type id=\"DRAWING\">" + objects + L"</type></objs></root>";
+    for (const TestDocument& document : documents)
+        objects += L"ID=D" + std::to_wstring(++number) + L",FNAME=" + document.name +
+                   (document.remote.empty() ? L"" : L",LOCATION=" + document.remote) + L",SIGN_ROLE=校对;";
+    return declaration +
+           Message(L"LoginInfo:UserName=wang,Password=secret,PLMServer=plm|step:STEPID=S1|DRAWING:" +
+                   objects);
 }
 
 void HostTest::Prepare(const std::vector<TestDocument>& documents) const {
-    WriteBytes(Message(), ToUtf8(MessageText(documents)));
+    WriteBytes(m_message, ToUtf8(MessageText(documents)));
     for (const TestDocument& document : documents)
         Store(document.remote.empty() ? document.name : document.remote);
 }
 
 void HostTest::Fault(const wchar_t* key, const wchar_t* value) const {
-    WritePrivateProfileStringW(L"Fault", key, value, (Vault() / L"Durvell.ini").c_str());
+    WritePrivateProfileStringW(L"Fault", key, value, (m_vault / L"Durvell.ini").c_str());
 }
 
-HostResult HostTest::BackSign(const std::vector<std::wstring>& further,
-                              const std::function<void(DWORD)>& whileRunning) const {
-    std::vector<std::wstring> arguments = {
-        L"back-sign",     L"--message",      Message().wstring(),
-        L"--vault",       Vault().wstring(), L"--work",
-        Work().wstring(), L"--return",       (m_folder / L"ret.xml").wstring()};
+HostResult HostTest::Run(const wchar_t* command, const std::vector<std::wstring>& further,
+                         const std::function<void(DWORD)>& whileRunning) const {
+    std::vector<std::wstring> arguments = {command, L"--message", m_message, L"--vault",
+                                           m_vault, L"--work",    m_work};
     arguments.insert(arguments.end(), further.begin(), further.end());
     return RunHost(arguments, whileRunning);
 }
 
+HostResult HostTest::BackSign(const std::vector<std::wstring>& further,
+                              const std::function<void(DWORD)>& whileRunning) const {
+    std::vector<std::wstring> arguments = {L"--return", m_return};
+    arguments.insert(arguments.end(), further.begin(), further.end());
+    return Run(L"back-sign", arguments, whileRunning);
+}
+
 std::string HostTest::ReturnValues() const {
-    if (!fs::exists(ReturnFile())) return "";
-    const std::string text = ReadBytes(ReturnFile());
+    const std::string text = fs::exists(m_returned) ? ReadBytes(m_returned) : "";
     const std::string mark = "name=\"SignRet\" value=\"";
     std::string values;
-    for (size_t at = 0; (at = text.find(mark, at)) != std::string::npos; at += mark.size())
-        values += text.substr(at + mark.size(), 1);
+    for (size_t at = 0; (at = text.find(mark, at)) != std::string::npos;)
+        values += text[at += mark.size()];
     return values;
 }
 
 long HostTest::Tag(const wchar_t* tag, const wchar_t* document) const {
-    const fs::path file = Work() / L"SignData" / (std::wstring(tag) + L".ini");
+    const fs::path file = m_work / L"SignData" / (std::wstring(tag) + L".ini");
     return static_cast<long>(GetPrivateProfileIntW(tag, document, -1, file.c_str()));
 }
 
 int HostTest::Calls(const char* call, const std::string& containing) const {
-    return CountLines(Vault() / L"journal.log", call, containing);
+    return CountLines(m_vault / L"journal.log", call, containing);
 }
 
 int HostTest::SignCalls(const char* call, const std::string& containing) const {
@@ -111,26 +102,20 @@ int HostTest::SignCalls(const char* call, const std::string& containing) const {
 }
 
 bool HostTest::ServerLogged(const std::string& id) const {
-    if (!fs::exists(Vault() / L"signlog")) return false;
-    for (const auto& entry : fs::directory_iterator(Vault() / L"signlog"))
+    if (!fs::exists(m_vault / L"signlog")) return false;
+    for (const auto& entry : fs::directory_iterator(m_vault / L"signlog"))
         if (ReadBytes(entry.path()).find("name=\"QORMFILEID\" value=\"" + id + "\"") != std::string::npos)
             return true;
     return false;
 }
 
-std::string HostTest::Snapshot() const {
-    std::vector<std::string> entries;
-    for (const auto& entry : fs::recursive_directory_iterator(m_folder.Path())) {
-        std::string line = ToUtf8(entry.path().wstring()) + " " +
-                           std::to_string(GetFileAttributesW(entry.path().c_str())) + " ";
-        if (entry.is_regular_file()) line += ReadBytes(entry.path());
-        entries.push_back(line);
-    }
-    std::sort(entries.begin(), entries.end());
-    std::string all;
-    for (const std::string& entry : entries)
-        all += entry + "\n";
-    return all;
+std::set<std::string> HostTest::Snapshot() const {
+    std::set<std::string> entries;
+    for (const auto& entry : fs::recursive_directory_iterator(m_folder.Path()))
+        entries.insert(ToUtf8(entry.path().wstring()) + " " +
+                       std::to_string(GetFileAttributesW(entry.path().c_str())) + " " +
+                       (entry.is_regular_file() ? ReadBytes(entry.path()) : ""));
+    return entries;
 }
 
 } // namespace tests

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -23,14 +24,8 @@ protected:
     HostTest();
     ~HostTest() override;
 
-    std::filesystem::path Vault() const { return m_folder / L"vault"; }
-    std::filesystem::path Work() const { return m_folder / L"work"; }
-    std::filesystem::path Message() const { return m_folder / L"message.xml"; }
-    std::filesystem::path ReturnFile() const { return m_folder / L"ret_Ret.Xml"; }
-
-    // Puts a drawing on the server, or a text of its own.
-    void Store(const std::wstring& remote, const std::string& bytes = "AC1015 drawing") const;
-    std::string Stored(const std::wstring& remote) const;
+    // Puts a drawing on the server.
+    void Store(const std::wstring& remote) const;
     // Document i (from 1) has the identifier "D<i>".
     static std::wstring MessageText(const std::vector<TestDocument>& documents,
                                     const std::wstring& declaration = L"");
@@ -39,6 +34,9 @@ protected:
     // [Fault] of the server: see its documentation.
     void Fault(const wchar_t* key, const wchar_t* value) const;
 
+    // A command with the options --message, --vault and --work.
+    HostResult Run(const wchar_t* command, const std::vector<std::wstring>& further = {},
+                   const std::function<void(DWORD)>& whileRunning = nullptr) const;
     HostResult BackSign(const std::vector<std::wstring>& further = {},
                         const std::function<void(DWORD)>& whileRunning = nullptr) const;
     // "SignRet" values of the return file in order, such as "101"; empty without a file.
@@ -50,9 +48,12 @@ protected:
     // Whether a sign record that the server got has the document's identifier.
     bool ServerLogged(const std::string& id) const;
     // Path, attributes and content of everything below the test's folder.
-    std::string Snapshot() const;
+    std::set<std::string> Snapshot() const;
 
-    TempFolder m_folder;
+    const TempFolder m_folder;
+    const std::filesystem::path m_message = m_folder / L"message.xml", m_returned = m_folder / L"ret_Ret.Xml";
+    std::filesystem::path m_vault = m_folder / L"vault", m_work = m_folder / L"work",
+                          m_return = m_folder / L"ret.xml"; // the option's value
 };
 
 } // namespace tests

@@ -1,45 +1,25 @@
-// Child processes with pipes.
+// Child processes whose output goes to files.
 #include "tests/host/HostProcess.h"
 
-#include <filesystem>
 #include <stdexcept>
-#include <thread>
+
+#include "tests/support/TempFolder.h"
 
 namespace tests {
 
 namespace {
 
-struct Pipe {
-    HANDLE read = nullptr;
-    HANDLE write = nullptr;
+HANDLE NewOutput(const std::filesystem::path& file) {
+    SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
+    return CreateFileW(file.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, 0, nullptr);
+}
 
-    Pipe() {
-        SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
-        if (!CreatePipe(&read, &write, &inherited, 0)) throw std::runtime_error("CreatePipe");
-        SetHandleInformation(read, HANDLE_FLAG_INHERIT, 0);
-    }
-    ~Pipe() {
-        CloseWrite();
-        CloseHandle(read);
-    }
-    void CloseWrite() {
-        if (write) CloseHandle(write);
-        write = nullptr;
-    }
-    std::string ReadAll() const {
-        std::string text;
-        char part[4096];
-        for (DWORD count = 0; ReadFile(read, part, sizeof part, &count, nullptr) && count > 0;)
-            text.append(part, count);
-        return text;
-    }
-};
-
-std::wstring CommandLine(const std::vector<std::wstring>& arguments) {
-    std::wstring line = L"\"" + BinFolder() + L"\\varnoke-host.exe\"";
-    for (const std::wstring& argument : arguments)
-        line += L" \"" + argument + L"\"";
-    return line;
+// The folder of the binaries under test: VARNOKE_BIN, else this program's own.
+std::wstring BinFolder() {
+    wchar_t path[MAX_PATH] = L"";
+    if (GetEnvironmentVariableW(L"VARNOKE_BIN", path, MAX_PATH)) return path;
+    GetModuleFileNameW(nullptr, path, MAX_PATH);
+    return std::filesystem::path(path).parent_path().wstring();
 }
 
 BOOL CALLBACK CountWindow(HWND window, LPARAM counted) {
@@ -56,39 +36,29 @@ bool HostResult::Said(const std::string& line) const {
     return ("\n" + out).find("\n" + line + "\r\n") != std::string::npos;
 }
 
-std::wstring BinFolder() {
-    wchar_t path[MAX_PATH] = L"";
-    if (GetEnvironmentVariableW(L"VARNOKE_BIN", path, MAX_PATH)) return path;
-    GetModuleFileNameW(nullptr, path, MAX_PATH);
-    return std::filesystem::path(path).parent_path().wstring();
-}
-
 HostResult RunHost(const std::vector<std::wstring>& arguments,
                    const std::function<void(DWORD)>& whileRunning) {
-    Pipe out, err;
+    std::wstring line = L"\"" + BinFolder() + L"\\varnoke-host.exe\"";
+    for (const std::wstring& argument : arguments)
+        line += L" \"" + argument + L"\"";
+    const TempFolder outputs;
     STARTUPINFOW startup = {};
     startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESTDHANDLES;
-    startup.hStdOutput = out.write;
-    startup.hStdError = err.write;
+    startup.hStdOutput = NewOutput(outputs / L"out");
+    startup.hStdError = NewOutput(outputs / L"err");
     PROCESS_INFORMATION process;
-    std::wstring line = CommandLine(arguments);
     if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
                         &process))
         throw std::runtime_error("varnoke-host.exe does not start: error " + std::to_string(GetLastError()));
-    out.CloseWrite();
-    err.CloseWrite();
-
-    HostResult result;
-    std::thread readOut([&] { result.out = out.ReadAll(); });
-    std::thread readErr([&] { result.err = err.ReadAll(); });
     while (WaitForSingleObject(process.hProcess, 50) == WAIT_TIMEOUT)
         if (whileRunning) whileRunning(process.dwProcessId);
-    readOut.join();
-    readErr.join();
+    HostResult result;
     GetExitCodeProcess(process.hProcess, &result.exitCode);
-    CloseHandle(process.hThread);
-    CloseHandle(process.hProcess);
+    for (const HANDLE handle : {process.hThread, process.hProcess, startup.hStdOutput, startup.hStdError})
+        CloseHandle(handle);
+    result.out = ReadBytes(outputs / L"out");
+    result.err = ReadBytes(outputs / L"err");
     return result;
 }
 

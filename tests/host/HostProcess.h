@@ -11,15 +11,12 @@ namespace tests {
 
 struct HostResult {
     DWORD exitCode;
-    std::string out; // UTF-8, as the pipe got it
+    std::string out; // UTF-8, as the host wrote it
     std::string err;
 
     bool Said(const std::string& line) const; // a whole line of standard output
     std::string Text() const { return "exit " + std::to_string(exitCode) + "\n" + out + err; }
 };
-
-// The folder of the binaries under test: VARNOKE_BIN, else this program's own.
-std::wstring BinFolder();
 
 // Runs varnoke-host.exe to its end; `whileRunning` is called about every 50 ms with its process identifier.
 HostResult RunHost(const std::vector<std::wstring>& arguments,
