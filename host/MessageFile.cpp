@@ -11,7 +11,7 @@ namespace host {
 
 namespace {
 
-constexpr LONGLONG kMaxFileSize = 64 * 1024 * 1024;
+constexpr LONGLONG kMaxFileSize = 64LL * 1024 * 1024;
 constexpr UINT kUtf16 = 1200;
 constexpr UINT kUtf16BigEndian = 1201;
 

@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# Runs clang-tidy on the given files, or on all of our own sources. Needs the package clang-tidy and a
-# configured msabi build.
+# Runs clang-tidy on the given files, or on all sources of library, host and stand-ins.
+# Needs the package clang-tidy and a configured msabi build.
 # usage: tidy.sh [FILE...]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 if [ $# -eq 0 ]; then
     mapfile -t files < <(git ls-files 'module/*.cpp' 'config/*.cpp' 'sign/*.cpp' 'plm/*.cpp' 'ui/*.cpp' \
-        'host/*.cpp' 'standins/*.cpp' 'mfc/*.cpp')
+        'host/*.cpp' 'standins/*.cpp')
     set -- "${files[@]}"
 fi
 printf '%s\0' "$@" | xargs -0 -n 1 -P "$(nproc)" clang-tidy -p build/msabi --quiet
