@@ -25,6 +25,8 @@ bool CInteractiveSession::Open() {
         PrintError(Text(EText::NoPictureFolder, {pictures}));
         return false;
     }
+    // The library's dialogs follow the host: unaware, they would be enlarged as blurred pictures.
+    ::SetProcessDPIAware();
     if (!m_session.Open(true)) {
         PrintError(Text(EText::FrameworkFailed));
         return false;

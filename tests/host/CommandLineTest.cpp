@@ -21,6 +21,28 @@ std::string Gbk(const std::wstring& text) {
     return bytes;
 }
 
+// The resolution that programs started from now on find.
+class ScreenResolution {
+public:
+    explicit ScreenResolution(DWORD dpi) {
+        RegSetKeyValueW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", L"LogPixels", REG_DWORD, &dpi,
+                        sizeof dpi);
+    }
+    ~ScreenResolution() { RegDeleteKeyValueW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", L"LogPixels"); }
+};
+
+struct PictureSize {
+    double width, height;
+};
+
+PictureSize SizeOfPng(const fs::path& file) {
+    const std::string bytes = ReadBytes(file);
+    const auto number = [&](size_t offset) {
+        return _byteswap_ulong(*reinterpret_cast<const unsigned long*>(&bytes.at(offset)));
+    };
+    return {double(number(16)), double(number(20))};
+}
+
 using CommandLineTest = HostTest;
 
 TEST_F(CommandLineTest, BadUsage_IsRefusedWithTheReason) {
@@ -147,6 +169,20 @@ TEST_F(CommandLineTest, Sign_WalksThroughItsDialogsUnattended) {
         EXPECT_EQ("\x89PNG\r\n\x1A\n", ReadBytes(pictures / name).substr(0, 8));
     }
     EXPECT_EQ(0u, RunHost({L"log", L"--work", m_work}).exitCode) << "the log was to be kept";
+}
+
+TEST_F(CommandLineTest, Dialogs_GrowWithTheScreensResolution) {
+    PictureSize usual = {};
+    for (const DWORD dpi : {96, 144, 192}) {
+        const ScreenResolution resolution(dpi);
+        const fs::path pictures = m_folder / std::to_wstring(dpi);
+        ASSERT_EQ(0u, RunHost({L"option", L"--pictures", pictures, L"--auto"}).exitCode);
+        const PictureSize size = SizeOfPng(pictures / L"01-选项.png");
+        if (dpi == 96) usual = size;
+        // Fonts come in whole pixels.
+        EXPECT_NEAR(dpi / 96.0, size.width / usual.width, 0.1) << dpi;
+        EXPECT_NEAR(dpi / 96.0, size.height / usual.height, 0.2) << dpi;
+    }
 }
 
 } // namespace
