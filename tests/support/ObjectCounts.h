@@ -47,17 +47,18 @@ void ExpectNothingLeft(Body run, int rounds = 200) {
     for (int round = 0; round < rounds / 2; ++round) // until the heap has grown to what it needs
         run();
     ObjectCounts before, after;
+    const long long allowed = rounds / 2 * 1024;
     long long growth = 0;
     for (int batch = 0; batch < 3; ++batch) {
         before = CountObjects();
         growth = MemoryGrowth(rounds / 2 - 3, run);
         after = CountObjects();
-        if (after <= before && growth < 32 * 1024) return;
+        if (after <= before && growth < allowed) return;
     }
     EXPECT_EQ(before.m_windows, after.m_windows);
     EXPECT_EQ(before.m_gdi, after.m_gdi);
     EXPECT_EQ(before.m_kernel, after.m_kernel);
-    EXPECT_LT(growth, 32 * 1024);
+    EXPECT_LT(growth, allowed);
 }
 
 } // namespace tests
