@@ -19,9 +19,9 @@ export LC_ALL=zh_CN.UTF-8 DISPLAY=$VARNOKE_DISPLAY
 if ! grep -qsxF "$WINEPREFIX" "$VARNOKE_RUN_DIR/prefixes"; then
     # Runs in the same prefix take turns: they would share a Wine server, whose windows are on the first
     # one's display, and which the first to end stops, the other's programs with it.
-    exec 8>"$build/.wineprefix.session.lock"
+    exec 8>"$build/.wineprefix.run.lock"
     flock 8
-    tail --pid="$VARNOKE_SESSION" -s 0.2 -f /dev/null </dev/null >/dev/null 2>&1 &
+    tail --pid="$VARNOKE_RUN_PID" -s 0.2 -f /dev/null </dev/null >/dev/null 2>&1 &
     exec 8>&-
     echo "$WINEPREFIX" >>"$VARNOKE_RUN_DIR/prefixes"
 fi
@@ -52,4 +52,11 @@ fi
     fi
 ) 9>"$build/.wineprefix.lock"
 
-exec $wine "$@"
+if [ -t 2 ] || [ -f /dev/stderr ]; then
+    exec $wine "$@"
+fi
+# Wine's server and services keep the standard error of the program that starts them, and outlive it by
+# seconds: whoever reads that through a pipe would wait for them.
+errors=$(mktemp)
+trap 'cat "$errors" >&2; rm -f "$errors"' EXIT
+$wine "$@" 2>"$errors"

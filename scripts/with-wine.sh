@@ -22,5 +22,5 @@ for _ in $(seq 100); do
     kill -0 "$xvfb" 2>/dev/null || { cat "$run_dir/xvfb.log" >&2; exit 1; }
     sleep 0.05
 done
-export VARNOKE_DISPLAY=":$(tr -d '[:space:]' <"$run_dir/display")" VARNOKE_RUN_DIR=$run_dir VARNOKE_SESSION=$$
+export VARNOKE_DISPLAY=":$(tr -d '[:space:]' <"$run_dir/display")" VARNOKE_RUN_DIR=$run_dir VARNOKE_RUN_PID=$$
 "$@"
