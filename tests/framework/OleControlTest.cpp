@@ -84,7 +84,7 @@ TEST_F(OleControl, Failures_AreExceptions) {
 TEST_F(OleControl, ManyRuns_LeaveNothing) {
     const FakeControlClass registered;
     tests::HostWindow host;
-    tests::ExpectNothingLeft([&] {
+    const auto showBoth = [&] {
         CScriptedDialog plain(IDD_PLAIN, host);
         CComboBox combo;
         plain.m_init = [&](CScriptedDialog& d) { combo.SubclassDlgItem(IDC_COLORS, &d); };
@@ -96,7 +96,8 @@ TEST_F(OleControl, ManyRuns_LeaveNothing) {
         CScriptedDialog controls(IDD_CONTROLS, host);
         controls.m_init = [](CScriptedDialog& d) { d.EndDialog(2); };
         EXPECT_EQ(2, controls.DoModal());
-    });
+    };
+    tests::ExpectNothingLeft(showBoth, 60);
     EXPECT_EQ(0, FakeControlClass::LiveObjects());
 }
 
