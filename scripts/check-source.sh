@@ -9,7 +9,7 @@ complain() {
     failed=1
 }
 
-mapfile -t sources < <(git ls-files --cached --others --exclude-standard -- '*.cpp' '*.h' '*.rc' | sort)
+mapfile -t sources < <(find . -path ./build -prune -o \( -name '*.cpp' -o -name '*.h' -o -name '*.rc' \) -printf '%P\n' | sort)
 for file in "${sources[@]}"; do
     lines=$(wc -l <"$file")
     [ "$lines" -le 400 ] || complain "$file has $lines lines; 400 are the limit"
