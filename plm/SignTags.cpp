@@ -39,14 +39,12 @@ void WriteTags(const wchar_t* kind, const CString& signData, const std::vector<T
 
 /// Empty when there is no such document.
 CString ModificationTime(const CString& folder, const CString& fileName) {
-    WIN32_FILE_ATTRIBUTE_DATA file = {};
-    SYSTEMTIME utc = {}, local = {};
     CString text;
-    if (::GetFileAttributesExW(JoinPath(folder, fileName), GetFileExInfoStandard, &file) &&
-        ::FileTimeToSystemTime(&file.ftLastWriteTime, &utc) &&
-        ::SystemTimeToTzSpecificLocalTime(nullptr, &utc, &local)) {
-        text.Format(L"%.4d-%.2d-%.2d_%.2d:%.2d:%.2d", local.wYear, local.wMonth, local.wDay, local.wHour,
-                    local.wMinute, local.wSecond);
+    CFileStatus status;
+    if (CFile::GetStatus(JoinPath(folder, fileName), status)) {
+        const CTime& time = status.m_mtime;
+        text.Format(L"%.4d-%.2d-%.2d_%.2d:%.2d:%.2d", time.GetYear(), time.GetMonth(), time.GetDay(),
+                    time.GetHour(), time.GetMinute(), time.GetSecond());
     }
     return text;
 }

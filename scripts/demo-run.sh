@@ -22,6 +22,7 @@ if [ "$1" = --interactive ]; then
     host option --pictures pictures --auto
     host sign --message message.xml --vault vault --work work --pictures pictures --auto
     # The document list is confirmed before it shows. Without a model it has no columns, no rows and stays.
+    printf '\n== once more without a model configuration, so that the empty document list shows\n'
     mv app/ModelConfig.Xml app/ModelConfig.off
     mkdir pictures/list
     host sign --message message.xml --vault vault --work work --pictures pictures/list --auto || true
