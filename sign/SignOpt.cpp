@@ -83,25 +83,22 @@ long CSignOpt::DeleteSignForBackSign(IDispatch* document, SSignInfo* info) {
     });
 }
 
-long CSignOpt::DeleteAllSignForBackSign(IDispatch* document, wchar_t* text) {
+long CSignOpt::CallWithText(IDispatch* document, const wchar_t* text, const wchar_t* method) {
     return Guarded(0L, [&]() -> long {
-        return document != nullptr && HasText(text) ? Call(m_config.GetDynDisp(L"DeleteAllSign"), {text}) : 0;
+        return document != nullptr && HasText(text) ? Call(m_config.GetDynDisp(method), {text}) : 0;
     });
+}
+
+long CSignOpt::DeleteAllSignForBackSign(IDispatch* document, wchar_t* text) {
+    return CallWithText(document, text, L"DeleteAllSign");
 }
 
 long CSignOpt::SignatureValidateForBackSign(IDispatch* document, wchar_t* text) {
-    return Guarded(0L, [&]() -> long {
-        return document != nullptr && HasText(text) ? Call(m_config.GetDynDisp(L"SignatureValidate"), {text})
-                                                    : 0;
-    });
+    return CallWithText(document, text, L"SignatureValidate");
 }
 
 long CSignOpt::ClearInvalidSignForBackSign(IDispatch* document, wchar_t* text) {
-    return Guarded(0L, [&]() -> long {
-        return document != nullptr && HasText(text)
-                   ? Call(m_config.GetDynDisp(L"SignatureInvalidDelete"), {text})
-                   : 0;
-    });
+    return CallWithText(document, text, L"SignatureInvalidDelete");
 }
 
 long CSignOpt::ClearInvalidSign(IDispatch* document, wchar_t* text) {
@@ -113,7 +110,7 @@ long CSignOpt::CancelSign(IDispatch* document, wchar_t* first, wchar_t* second, 
         if (document == nullptr || !HasText(first) || !HasText(second) || !HasText(third)) {
             return 0;
         }
-        // An installation may rename this operation, but the server knows it as the deletion of a signature.
+        // The configured name only has to be there: what is called is always the deletion of a signature.
         if (m_config.GetDynDisp(L"CancelSign").IsEmpty()) {
             return 0;
         }

@@ -5,14 +5,25 @@
 #include "module/Owned.h"
 #include "ui/ColorText.h"
 #include "ui/ResourceText.h"
+#include "ui/ScaledPixels.h"
 #include "ui/resource.h"
+
+using varnoke::ScaledPixels;
 
 namespace {
 
+// In pixels of a screen with 96 dots per inch.
 const int kItemHeight = 16;
 const int kTextLeft = 5;
 const int kTextRight = 100;
 const int kSwatchLeft = 102;
+const int kSwatchMarginX = 5;
+const int kSwatchMarginY = 2;
+
+int ItemHeight() {
+    const CClientDC screen(nullptr);
+    return ScaledPixels(screen, kItemHeight);
+}
 
 } // namespace
 
@@ -86,11 +97,11 @@ bool CColorComboBox::GetSelectedColor(int* pColor) const {
 void CColorComboBox::PreSubclassWindow() {
     CComboBox::PreSubclassWindow();
     // A combo box of a template has asked for its item height before it is subclassed.
-    SetItemHeight(0, kItemHeight);
+    SetItemHeight(0, ItemHeight());
 }
 
 void CColorComboBox::MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
-    lpMeasureItemStruct->itemHeight = kItemHeight;
+    lpMeasureItemStruct->itemHeight = ItemHeight();
 }
 
 void CColorComboBox::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
@@ -109,10 +120,10 @@ void CColorComboBox::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
     ::SetTextColor(item.hDC, ::GetSysColor(isSelected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
     ::SetBkColor(item.hDC, ::GetSysColor(isSelected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
     RECT textRect = item.rcItem;
-    textRect.left = kTextLeft;
+    textRect.left = ScaledPixels(item.hDC, kTextLeft);
     if (!isLast) {
         DrawSwatch(item, color);
-        textRect.right = kTextRight;
+        textRect.right = ScaledPixels(item.hDC, kTextRight);
     }
     ::DrawTextW(item.hDC, text, text.GetLength(), &textRect, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
     ::RestoreDC(item.hDC, saved);
@@ -120,8 +131,8 @@ void CColorComboBox::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
 
 void CColorComboBox::DrawSwatch(const DRAWITEMSTRUCT& item, COLORREF color) {
     RECT swatch = item.rcItem;
-    ::InflateRect(&swatch, -5, -2);
-    swatch.left = kSwatchLeft;
+    ::InflateRect(&swatch, -ScaledPixels(item.hDC, kSwatchMarginX), -ScaledPixels(item.hDC, kSwatchMarginY));
+    swatch.left = ScaledPixels(item.hDC, kSwatchLeft);
     const varnoke::GdiObject<HBRUSH> brush(::CreateSolidBrush(color));
     ::SelectObject(item.hDC, ::GetStockObject(BLACK_PEN));
     const HGDIOBJ previous = ::SelectObject(item.hDC, brush.get());

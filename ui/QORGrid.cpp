@@ -68,11 +68,11 @@ CString CQORGrid::GetCellText(long nRow, long nColumn) {
 }
 
 void CQORGrid::SetRowValue(long nRow, long nValue) {
-    InvokeHelper(kGridRowValue, DISPATCH_PROPERTYPUT, VT_EMPTY, nullptr, kTwoNumbers, nRow, nValue);
+    InvokeHelper(kGridRowValue, DISPATCH_METHOD, VT_EMPTY, nullptr, kTwoNumbers, nRow, nValue);
 }
 
 long CQORGrid::GetRowValue(long nRow) {
     long value = 0;
-    InvokeHelper(kGridRowValue, DISPATCH_PROPERTYGET, VT_I4, &value, kOneNumber, nRow);
+    InvokeHelper(kGridRowValue, DISPATCH_METHOD, VT_I4, &value, kOneNumber, nRow);
     return value;
 }

@@ -24,9 +24,9 @@ enum EQORGridMember : long {
     kGridSetFixedColumns = 46,  // method (long count): columns that do not scroll
     kGridSetFixedRows = 54,     // method (long count): rows that do not scroll
     kGridAppendRow = 49,        // method: adds an empty row at the end
-    kGridRowValue = 60,         // property with argument (long row), long: the caller's value of a row
-    kGridSetColumnKind = 68,    // method (long column, long kind): EQORGridColumnKind
-    kGridSetGridLines = 69,     // method (long shown): 1 = lines between the cells
+    kGridRowValue = 60,      // method (long row, long value), (long row) -> long: the caller's value of a row
+    kGridSetColumnKind = 68, // method (long column, long kind): EQORGridColumnKind
+    kGridSetGridLines = 69,  // method (long shown): 1 = lines between the cells
 };
 
 enum EQORGridColumnKind : long {

@@ -1,6 +1,7 @@
 // Every row starts chosen and the list confirms itself, so it stays on screen only when it is empty.
 #include "ui/SDLDlg.h"
 
+#include <algorithm>
 #include <vector>
 #include "config/EntryAttribute.h"
 #include "config/ModelConfig.h"
@@ -9,6 +10,7 @@
 #include "ui/DocumentCopy.h"
 #include "ui/QORGridIds.h"
 #include "ui/ResourceText.h"
+#include "ui/ScaledPixels.h"
 
 using namespace varnoke;
 
@@ -17,7 +19,7 @@ namespace {
 const long kNumberColumn = 0;
 const long kChosenColumn = 1;
 const long kFirstAttributeColumn = 2;
-const long kMinColumnWidth = 80;
+const int kMinColumnWidth = 80; // pixels at 96 dots per inch
 
 } // namespace
 
@@ -85,9 +87,10 @@ void CSDLDlg::FillGrid() {
     CRect client;
     m_grid.GetClientRect(&client);
     const long columns = attributes + kFirstAttributeColumn;
-    const long width = client.Width() / columns;
+    const CClientDC screen(nullptr);
+    const long width = std::max<long>(client.Width() / columns, ScaledPixels(screen, kMinColumnWidth));
     for (long column = 0; column < columns; ++column)
-        m_grid.SetColumnWidth(column, width < kMinColumnWidth ? kMinColumnWidth : width);
+        m_grid.SetColumnWidth(column, width);
 
     if (m_pSignFileType == nullptr) return;
     long position = 0;
@@ -135,7 +138,8 @@ bool CSDLDlg::IsChosen(long nRow) {
 }
 
 UINT CSDLDlg::FindFault() {
-    const long rows = m_grid.GetRowCount();
+    // A grid that is not installed has no rows.
+    const long rows = Guarded(0L, [this] { return m_grid.GetRowCount(); });
     if (rows <= 0) return IDS_NO_DOCUMENTS;
     for (long row = 0; row < rows; ++row) {
         if (IsChosen(row)) return 0;

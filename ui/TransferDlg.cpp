@@ -80,7 +80,10 @@ void CTransferDlg::OnTimer(UINT_PTR nIDEvent) {
         OnStartTimer();
         break;
     case kActivityTimer:
-        m_display.StepActivity();
+        Guarded(0, [this] {
+            m_display.StepActivity();
+            return 1;
+        });
         break;
     case kCloseTimer:
         KillTimer(kCloseTimer);
@@ -91,7 +94,12 @@ void CTransferDlg::OnTimer(UINT_PTR nIDEvent) {
 
 void CTransferDlg::OnStartTimer() {
     KillTimer(kStartTimer);
-    if (!Guarded(false, [this] { return StartRun(); })) SetTimer(kCloseTimer, kCloseDelay, nullptr);
+    if (!Guarded(false, [this] { return StartRun(); })) CloseLater();
+}
+
+void CTransferDlg::CloseLater() {
+    // A message box may have outlived the window.
+    if (GetSafeHwnd() != nullptr) SetTimer(kCloseTimer, kCloseDelay, nullptr);
 }
 
 bool CTransferDlg::StartRun() {
@@ -195,5 +203,5 @@ void CTransferDlg::OnRunOver(UINT nText, ETransferStep step) {
     }
     m_nDone = m_nCount;
     m_nResultCode = ResultAfter(m_nResultCode, step);
-    SetTimer(kCloseTimer, kCloseDelay, nullptr);
+    CloseLater();
 }

@@ -35,6 +35,7 @@ private:
     void InitControls();
     void OnStartTimer();
     bool StartRun();
+    void CloseLater();
     LRESULT OnStep(varnoke::ETransferStep step, BSTR text);
     void HandleStep(varnoke::ETransferStep step, const CString& strPath);
     void OnFileBegins(const CString& strPath);

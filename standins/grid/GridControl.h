@@ -40,7 +40,7 @@ private:
     HRESULT SetGridLines(Arguments& arguments, VARIANT& result);
     HRESULT AppendRow(Arguments& arguments, VARIANT& result);
     HRESULT GetRowValue(Arguments& arguments, VARIANT& result);
-    HRESULT PutRowValue(Arguments& arguments, VARIANT& result);
+    HRESULT SetRowValue(Arguments& arguments, VARIANT& result);
 
     HRESULT ResizeRows(long count);
 

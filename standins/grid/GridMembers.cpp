@@ -35,8 +35,8 @@ const DispatchTable& GridControl::Members() const {
         {kGridSetFixedColumns, L"SetFixedColumns", method, "I", call<&GridControl::SetFixedCount>},
         {kGridSetFixedRows, L"SetFixedRows", method, "I", call<&GridControl::SetFixedCount>},
         {kGridAppendRow, L"AppendRow", method, "", call<&GridControl::AppendRow>},
-        {kGridRowValue, L"RowValue", get, "I", call<&GridControl::GetRowValue>},
-        {kGridRowValue, L"RowValue", put, "II", call<&GridControl::PutRowValue>},
+        {kGridRowValue, L"RowValue", method, "I", call<&GridControl::GetRowValue>},
+        {kGridRowValue, L"RowValue", method, "II", call<&GridControl::SetRowValue>},
         {kGridSetColumnKind, L"SetColumnKind", method, "II", call<&GridControl::SetColumnKind>},
         {kGridSetGridLines, L"SetGridLines", method, "I", call<&GridControl::SetGridLines>},
     };
@@ -162,7 +162,7 @@ HRESULT GridControl::GetRowValue(Arguments& arguments, VARIANT& result) {
     return m_model.HasRow(row) ? GiveLong(result, m_model.RowValue(row)) : DISP_E_BADINDEX;
 }
 
-HRESULT GridControl::PutRowValue(Arguments& arguments, VARIANT&) {
+HRESULT GridControl::SetRowValue(Arguments& arguments, VARIANT&) {
     if (!m_model.HasRow(arguments[0].lVal)) return DISP_E_BADINDEX;
     m_model.SetRowValue(arguments[0].lVal, arguments[1].lVal);
     return S_OK;

@@ -175,6 +175,30 @@ TEST_F(SignDlg, Confirm_TellsTheFirstFaultAndStaysOpen) {
     EXPECT_FALSE(std::filesystem::exists(m_settings.Path()));
 }
 
+TEST_F(SignDlg, Confirm_AddsTheSettingsThatAreNotShown) {
+    const wchar_t* const settings[][3] = {
+        {L"SignLocation", L"LocationStyle", L"2"},      {L"SignLocation", L"LocationXCheck", L"3.5"},
+        {L"SignLocation", L"LocationYCheck", L"4.5"},   {L"SignDateLocation", L"LocationStyle", L"5"},
+        {L"SignDateLocation", L"LocationXCheck", L"6"}, {L"SignDateLocation", L"LocationYCheck", L"7"},
+        {L"SignDate", L"DateOffsetX", L"8.5"},          {L"SignDate", L"DateOffsetY", L"-9.5"},
+        {L"SignDate", L"DateFontName", L"黑体"},        {L"Sign", L"Index", L"10"}};
+    for (const auto& [section, key, value] : settings)
+        m_settings.Set(section, key, value);
+    ASSERT_EQ(1, Sign(1, [](HWND dialog) { Click(dialog, Confirm); }));
+    const SSignInfo& i = *m_info;
+    const std::vector<double> numbers = {double(i.m_nLocationStyle), i.m_dLocationXCheck,
+                                         i.m_dLocationYCheck,        double(i.m_nDateLocationStyle),
+                                         i.m_dDateLocationXCheck,    i.m_dDateLocationYCheck,
+                                         i.m_dDateOffsetX,           i.m_dDateOffsetY,
+                                         double(i.m_nSealIndex)};
+    EXPECT_EQ(numbers, (std::vector<double>{2, 3.5, 4.5, 5, 6, 7, 8.5, -9.5, 10}));
+    EXPECT_TRUE(i.m_dDateFontSize == 8 && i.m_nDateTextColor == 0) << "as confirmed and stored";
+    EXPECT_EQ(i.m_strDateFontName + i.m_strPin, L"黑体480317");
+    wchar_t folder[MAX_PATH];
+    GetTempPathW(MAX_PATH, folder);
+    EXPECT_EQ(i.m_strTempDrawing, folder + CString(L"wang_审核.dwg"));
+}
+
 TEST_F(SignDlg, Confirm_HandsOutAndStoresTheChoices) {
     const long result = Sign(1, [](HWND dialog) {
         const SYSTEMTIME july = {2015, 7, 0, 5, 23, 59, 0, 0};

@@ -1,13 +1,21 @@
-// Tests of paths and identifiers.
+// Tests of the module helpers.
 #include <afxwin.h>
 #include <gtest/gtest.h>
+#include "module/InfoMessage.h"
 #include "module/ModulePaths.h"
 #include "module/NewGuid.h"
+#include "module/VarnokeApp.h"
 #include "tests/support/TempFolder.h"
 
 namespace {
 
-TEST(ModulePaths, ModelConfigPath_LiesBesideTheLoadedModuleOrTheProgram) {
+TEST(ModulePaths, Files_LieBesideTheirModuleOrElsewhere) {
+    wchar_t windows[MAX_PATH];
+    GetWindowsDirectoryW(windows, MAX_PATH);
+    const HINSTANCE instance =
+        std::exchange(theApp.m_hInstance, reinterpret_cast<HINSTANCE>(0x10)); // no module
+    EXPECT_EQ(varnoke::SettingsFilePath(), CString(windows) + L"\\Varnoke.ini");
+    theApp.m_hInstance = instance;
     const CString program = varnoke::FolderOfPath(varnoke::ModuleFilePath(nullptr));
     EXPECT_EQ(varnoke::SettingsFilePath(), program + L"Varnoke.ini");
     EXPECT_EQ(varnoke::ModelConfigPath(), program + L"ModelConfig.Xml");
@@ -29,6 +37,10 @@ TEST(ModulePaths, FileExists_OnlyForReadableFiles) {
     tests::WriteBytes(file, "x");
     EXPECT_TRUE(varnoke::FileExists(file.c_str()));
     EXPECT_TRUE(DeleteFileW(file.c_str())) << "the file must not stay open";
+}
+
+TEST(InfoMessage, WithoutTextNothingIsShown) {
+    EXPECT_EQ(varnoke::ShowInfo(CString(), nullptr), 0);
 }
 
 TEST(NewGuid, IsUpperCaseWithoutBracesAndFresh) {

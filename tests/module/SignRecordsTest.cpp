@@ -32,7 +32,7 @@ TEST(SignRecords, Release_FreesEveryTextAndElementAndRefusesNull) {
         SSignFileDUL* const files = new SSignFileDUL;
         for (SSignFileDULItem* item : {new SSignFileDULItem{Big(), Big(), 0}, {}, new SSignFileDULItem})
             files->m_lstItem.AddTail(item);
-        EXPECT_EQ(Cmn_ReleaseSignFileDUL(files), 1);
+        EXPECT_EQ(Cmn_ReleaseSignFileDUL(files) + Cmn_ReleaseSignFileDUL(new SSignFileDUL), 2);
         for (const int count : {0, 1, 3})
             EXPECT_EQ(Cmn_ReleaseSignType(NewType(count)), 1);
     };

@@ -2,6 +2,7 @@
 #include <afxwin.h>
 #include "sign/COMAPInvokeHelper.h"
 #include "tests/sign/FakeServer.h"
+#include "tests/support/TempFolder.h"
 
 namespace {
 
@@ -26,6 +27,23 @@ TEST(COMAPInvokeHelper, Select_RefusesNamesThatAreTooLongWithoutAsking) {
     EXPECT_EQ(server.LastSeen(), L"? " + longest);
     EXPECT_EQ(helper.Invoke(nullptr, 0, nullptr), 1) << "the earlier method stays, and no result is needed";
     EXPECT_EQ(server.LastSeen(), L"7()");
+}
+
+TEST(COMAPInvokeHelper, Select_LeavesNoMethodBehindAFailure) {
+    tests::FakeServer server;
+    server.m_methods = {{L"Known", 7}, {L"Default", 0}};
+    Helper helper;
+    for (const wchar_t* unusable : {L"Unknown", L"Default", L"<new server>"}) {
+        ASSERT_EQ(helper.CreateFromProgID(server.m_progID.c_str()), 1);
+        EXPECT_EQ(helper.SelectMethod(L"Known"), 7);
+        if (unusable[0] == L'<')
+            helper.CreateFromProgID(server.m_progID.c_str());
+        else
+            EXPECT_EQ(helper.SelectMethod(unusable), 0);
+        server.m_seen.clear();
+        EXPECT_EQ(helper.Invoke(nullptr, 0, nullptr), 0) << tests::ToUtf8(unusable);
+        EXPECT_EQ(server.LastSeen(), L"");
+    }
 }
 
 } // namespace

@@ -192,14 +192,16 @@ TEST_F(SignOpt, GetSignInfoForBackSign_FillsFromSettingsAlone) {
     m_settings.Set(L"Sign", L"Index", L"3");
     m_settings.Set(L"SignDate", L"DateStyle", L"无");
     m_settings.Set(L"SignDate", L"DateOffsetX", L"1.5");
+    m_settings.Set(L"SignDate", L"DateOffsetY", L"2.5");
+    m_settings.Set(L"SignLocation", L"LocationStyle", L"3");
     m_settings.Set(L"SignScope", L"Scope", L"3");
     SSignInfo* info = nullptr;
     ASSERT_EQ(m_opt.GetSignInfoForBackSign(m_text, &info), 1);
     EXPECT_EQ(info->m_strDateText, L"无") << "this run does not insist on a complete style";
     EXPECT_EQ(info->m_strPin + info->m_strDateFontName, L"480317宋体");
-    EXPECT_TRUE(info->m_nSealIndex == 3 && info->m_dDateOffsetX == 1.5);
+    EXPECT_TRUE(info->m_nSealIndex == 3 && info->m_dDateOffsetX == 1.5 && info->m_dDateOffsetY == 2.5);
     EXPECT_TRUE(info->m_dDateFontSize == 8 && info->m_nDateTextColor == 255);
-    EXPECT_EQ(info->m_nScope, 0) << "the scope stays as constructed";
+    EXPECT_EQ(info->m_nScope + info->m_nLocationStyle, 0) << "these stay as constructed";
     EXPECT_EQ(Cmn_ReleaseSignInfo(info), 1);
 }
 

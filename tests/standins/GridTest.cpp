@@ -46,7 +46,7 @@ TEST_F(Grid, Members_RefuseWhatDoesNotExist) {
     EXPECT_EQ(DISP_E_BADINDEX, Call(kGridSetCellText, {2L, 0L, L"x"}));
     EXPECT_EQ(DISP_E_BADINDEX, Call(kGridGetCellText, {0L, 3L}));
     EXPECT_EQ(DISP_E_BADINDEX, Call(kGridGetCellText, {-1L, 0L}));
-    EXPECT_EQ(DISP_E_BADINDEX, Put(kGridRowValue, {2L, 1L}));
+    EXPECT_EQ(DISP_E_BADINDEX, Call(kGridRowValue, {2L, 1L}));
     EXPECT_EQ(DISP_E_BADINDEX, Call(kGridSetColumnText, {3L, L"x"}));
     EXPECT_EQ(E_INVALIDARG, Put(kGridRowCount, {-1L}));
     EXPECT_EQ(E_INVALIDARG, Call(kGridSetColumnEditor, {0L, L"OtherEdit.dll"}));

@@ -1,0 +1,13 @@
+// Lengths that are given in pixels, on screens of any resolution.
+#pragma once
+
+#include <afxwin.h>
+
+namespace varnoke {
+
+/// The length on the device of `dc` of so many pixels at 96 dots per inch.
+inline int ScaledPixels(HDC dc, int pixels) {
+    return ::MulDiv(pixels, ::GetDeviceCaps(dc, LOGPIXELSX), 96);
+}
+
+} // namespace varnoke
