@@ -8,7 +8,7 @@ scripts/check-source.sh
 for preset in mingw msabi; do
     scripts/build.sh "$preset"
 done
-# The builds share nothing, so their tests run side by side.
+# Each build has its own Wine prefix and settings, so their tests run side by side.
 failed=0
 scripts/with-wine.sh ctest --preset msabi >build/msabi-tests.log 2>&1 &
 msabi=$!

@@ -25,24 +25,16 @@ CString FirstValueOf(const SSignObj& object, const wchar_t* name, const CString&
 
 } // namespace
 
-CDocument::CDocument(SSignObj& object)
+CDocument::CDocument(const SSignObj& object)
     : m_pObject(&object), m_strName(FirstValueOf(object, kNameProperty, CString())),
       m_strRemoteName(FirstValueOf(object, L"LOCATION", m_strName)),
-      m_strId(FirstValueOf(object, L"ID", CString())),
+      m_strId(FirstValueOf(object, L"ID", m_strName)),
       m_strRole(FirstValueOf(object, L"SIGN_ROLE", kDefaultRole)), m_names(ValuesOf(object, kNameProperty)) {}
-
-void CDocument::FillEmpty(const wchar_t* name, const CString& value) const {
-    for (POSITION position = m_pObject->GetHeadPosition(); position;) {
-        SSignPro* property = m_pObject->GetNext(position);
-        const bool wanted = property && property->m_strName.CompareNoCase(name) == 0;
-        if (wanted && property->m_strValue.IsEmpty()) property->m_strValue = value;
-    }
-}
 
 std::vector<CDocument> DocumentsOf(const SSignType& files) {
     std::vector<CDocument> documents;
     for (POSITION position = files.m_lstObj.GetHeadPosition(); position;) {
-        SSignObj* object = files.m_lstObj.GetNext(position);
+        const SSignObj* object = files.m_lstObj.GetNext(position);
         if (object) documents.emplace_back(*object);
     }
     return documents;

@@ -16,19 +16,16 @@ constexpr wchar_t kNameProperty[] = L"FNAME";
 class CDocument {
 public:
     /// `object` is borrowed from the message's records, which must outlive this.
-    explicit CDocument(SSignObj& object);
+    explicit CDocument(const SSignObj& object);
 
-    /// The object that the sign log takes.
-    SSignObj* Object() const { return m_pObject; }
+    const SSignObj& Object() const { return *m_pObject; }
     const CString& Name() const { return m_strName; }
     /// "LOCATION", the server's name of the file; the file name without one.
     const CString& RemoteName() const { return m_strRemoteName; }
+    /// "ID"; the file name without one, which identifies the document as well.
     const CString& Id() const { return m_strId; }
     /// "SIGN_ROLE", the role in which the document is signed; the designer's without one.
     const CString& Role() const { return m_strRole; }
-
-    /// Gives a property that the message left empty its value; one that the document doesn't have stays away.
-    void FillEmpty(const wchar_t* name, const CString& value) const;
 
     /// Why the document is refused; None for one that may be fetched.
     ENameFault NameFault() const { return CheckDocumentName(m_strName); }
@@ -36,7 +33,7 @@ public:
     const std::vector<CString>& AllNames() const { return m_names; }
 
 private:
-    SSignObj* m_pObject; // weak
+    const SSignObj* m_pObject; // weak
     CString m_strName;
     CString m_strRemoteName;
     CString m_strId;

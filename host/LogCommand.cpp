@@ -40,7 +40,7 @@ int CLogCommand::Run(const COptions& options) {
         PrintError(Text(EText::NoFolder, {options.Value(L"--work")}));
         return exitRefused;
     }
-    const CString file = SignDataFile(folder, L"DocSignRecord.xml");
+    const CString file = SignRecordFile(folder);
     if (!FileExists(file)) {
         PrintLine(Text(EText::NoRecord));
         return exitNone;

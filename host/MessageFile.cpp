@@ -123,26 +123,15 @@ bool Decode(const std::string& bytes, UINT codePage, CString& text) {
     return decoded && static_cast<int>(wcslen(text)) == text.GetLength();
 }
 
-void RemoveDeclaration(CString& text) {
-    if (text.Left(5) != L"<?xml") return;
-    const int end = text.Find(L"?>");
-    if (end >= 0) text = text.Mid(end + 2);
-}
-
 } // namespace
 
 bool ReadMessageFile(const CString& path, CString& message, CString& error) {
     std::string bytes;
     UINT codePage = CP_UTF8;
     if (!ReadBytes(path, bytes, error) || !DetectEncoding(bytes, codePage, error)) return false;
-    CString text;
-    if (!Decode(bytes, codePage, text)) {
-        error = Text(EText::BadEncoding, {path});
-        return false;
-    }
-    RemoveDeclaration(text);
-    message = text;
-    return true;
+    if (Decode(bytes, codePage, message)) return true;
+    error = Text(EText::BadEncoding, {path});
+    return false;
 }
 
 } // namespace host

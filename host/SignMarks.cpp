@@ -1,44 +1,86 @@
 // Sign tags and sign log of a document.
 #include <afxwin.h>
 
+#include <vector>
+
 #include "host/Paths.h"
 #include "host/Records.h"
 #include "host/SignMarks.h"
 
 namespace host {
 
+namespace {
+
+void Set(std::vector<SSignPro>& properties, const wchar_t* name, const CString& value) {
+    for (SSignPro& property : properties) {
+        if (property.m_strName == name) {
+            property.m_strValue = value;
+            return;
+        }
+    }
+    properties.push_back({name, value});
+}
+
+/// The document's properties, with the identifier and the role that it was signed with.
+std::vector<SSignPro> LoggedProperties(const CDocument& document, const SSignInfo& info) {
+    std::vector<SSignPro> properties;
+    for (POSITION position = document.Object().GetHeadPosition(); position;) {
+        const SSignPro* property = document.Object().GetNext(position);
+        if (!property) continue;
+        properties.push_back(*property);
+        CString& value = properties.back().m_strValue;
+        if (!value.IsEmpty()) continue;
+        if (property->m_strName.CompareNoCase(L"SIGN_USER") == 0) value = info.m_strUserName;
+        if (property->m_strName.CompareNoCase(L"SIGN_DATE") == 0) value = info.m_strDateText;
+    }
+    Set(properties, L"ID", document.Id());
+    Set(properties, L"SIGN_ROLE", info.m_strRole);
+    return properties;
+}
+
+} // namespace
+
+CSignMarks::CSignMarks(CPLMInteract& plm, const CString& folder)
+    : m_plm(plm), m_strFolder(folder), m_before(folder, L"DocSignRecord.before.xml"),
+      m_unsent(folder, L"DocSignRecord.unsent.xml") {
+    if (m_unsent.Exists() && !FileExists(SignRecordFile(folder))) m_unsent.Restore();
+}
+
+CSignMarks::~CSignMarks() {
+    m_before.Discard();
+}
+
 bool CSignMarks::Note(const CDocument& document, const SSignInfo& info) {
-    document.FillEmpty(L"SIGN_USER", info.m_strUserName);
-    document.FillEmpty(L"SIGN_DATE", info.m_strDateText);
-    const bool logged = WriteLog(document, L"N");
-    SetTags(document, 1, logged);
-    return logged;
+    m_bLogged = m_before.Take() && WriteLog(document, info);
+    SetTags(document, 1, m_bLogged);
+    return m_bLogged;
 }
 
 void CSignMarks::Withdraw(const CDocument& document) {
-    long logged = 0;
-    m_plm.GetDocSignLogTag(InText(m_strFolder), InText(document.Name()), &logged);
-    // Over a logged, unsent signature this cancels the entry; alone it would log a deletion.
-    if (logged) WriteLog(document, L"D");
+    // Logging a deletion would not do: it also cancels the entry of an earlier run.
+    if (m_bLogged) m_before.Restore();
     SetTags(document, 0, 0);
 }
 
 bool CSignMarks::SendLog() {
-    const CString record = SignDataFile(m_strFolder, L"DocSignRecord.xml");
-    if (!FileExists(record)) return true;
-    const CString kept = SignDataFile(m_strFolder, L"DocSignRecord.unsent.xml");
-    const bool copied = ::CopyFileW(record, kept, FALSE) != FALSE;
+    if (!FileExists(SignRecordFile(m_strFolder))) return true;
+    if (!m_unsent.Take()) return false;
     const bool sent = m_plm.WriteSignLogToServer(m_strFolder) == 0;
-    if (!sent && copied) {
-        ::MoveFileExW(kept, record, MOVEFILE_REPLACE_EXISTING);
+    if (sent) {
+        m_unsent.Discard();
     } else {
-        ::DeleteFileW(kept);
+        m_unsent.Restore();
     }
     return sent;
 }
 
-bool CSignMarks::WriteLog(const CDocument& document, const wchar_t* kind) {
-    return m_plm.WriteDelOrSignLogToLocal(document.Object(), m_strFolder, kind) != 0;
+bool CSignMarks::WriteLog(const CDocument& document, const SSignInfo& info) {
+    std::vector<SSignPro> properties = LoggedProperties(document, info);
+    SSignObj object;
+    for (SSignPro& property : properties) {
+        object.AddTail(&property);
+    }
+    return m_plm.WriteDelOrSignLogToLocal(&object, m_strFolder, L"N") != 0;
 }
 
 void CSignMarks::SetTags(const CDocument& document, long signTag, long logTag) {

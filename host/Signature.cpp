@@ -23,7 +23,7 @@ constexpr SBox kDateBox = {180.0, 18.0, 40.0, 8.0};
 } // namespace
 
 void CompleteSignInfo(SSignInfo& info, const CDocument& document, const CString& path, const CString& user) {
-    info.m_strFirstText = document.Id().IsEmpty() ? document.Name() : document.Id();
+    info.m_strFirstText = document.Id();
     info.m_strSecondText = path;
     if (info.m_strUserName.IsEmpty()) info.m_strUserName = user;
     if (info.m_strRole.IsEmpty()) info.m_strRole = document.Role();

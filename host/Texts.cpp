@@ -56,6 +56,7 @@ constexpr STextEntry kTexts[] = {
     {EText::NothingKept, L"the work folder keeps no message: %1", L"工作目录没有保存的消息：%1"},
     {EText::NothingMerged, L"nothing was merged: another signer, other steps or no new document",
      L"没有合并：签名人或签名步骤不同，或没有新文档"},
+    {EText::MergedUnchosen, L"merged, but no document was chosen", L"已合并，但没有选择文档"},
     {EText::Merged, L"merged: %1", L"已合并：%1"},
     {EText::NoModel, L"no model configuration: the sign log cannot be written",
      L"没有模型配置，无法写签名日志"},
@@ -82,8 +83,8 @@ constexpr STextEntry kTexts[] = {
     {EText::RefusedTwice, L"refused: several documents have this name", L"拒绝：多个文档同名"},
 
     {EText::LogNotWritten, L"%1: the sign log could not be written", L"%1：签名日志写入失败"},
-    {EText::LogNotSent, L"the server refused the sign log; it is kept for the next run",
-     L"服务端拒绝了签名日志，已保留到下次发送"},
+    {EText::LogNotSent, L"the sign log was not sent; it is kept for the next run",
+     L"签名日志未发送，已保留到下次发送"},
     {EText::LogKept, L"the sign log is kept in the work folder", L"签名日志保留在工作目录"},
     {EText::LogSent, L"the sign log was sent", L"签名日志已发送"},
     {EText::Summary, L"signed: %1 of %2", L"已签名：%1 / %2"},

@@ -42,6 +42,7 @@ enum class EText {
     NothingChosen,
     NothingKept,
     NothingMerged,
+    MergedUnchosen,
     Merged,
     NoModel,
     // Lines of documents

@@ -56,6 +56,13 @@ CString JoinPath(const CString& folder, const CString& name) {
     return folder.Right(1) == L"\\" ? folder + name : folder + L"\\" + name;
 }
 
+CString FullPath(const CString& path) {
+    const DWORD size = ::GetFullPathNameW(path, 0, nullptr, nullptr);
+    std::vector<wchar_t> full(size + 1);
+    const DWORD length = ::GetFullPathNameW(path, size, full.data(), nullptr);
+    return length < size ? CString(full.data(), static_cast<int>(length)) : CString();
+}
+
 CString ModuleFilePath(HMODULE module) {
     constexpr DWORD kLongestPath = 0x8000;
     for (DWORD size = MAX_PATH; size < 2 * kLongestPath; size *= 2) {

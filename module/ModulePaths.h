@@ -28,6 +28,9 @@ CString JoinPath(const CString& folder, const CString& name);
 /// Full path of a loaded module's file (null: the program's); empty on failure.
 CString ModuleFilePath(HMODULE module);
 
+/// The absolute path, with backslashes only; empty on failure.
+CString FullPath(const CString& path);
+
 /// The path up to and including its last backslash; empty when it has none.
 CString FolderOfPath(const CString& path);
 

@@ -13,11 +13,16 @@ namespace varnoke {
 
 namespace {
 
-/// 0 for a missing file.
-size_t FileSize(const CString& path) {
-    WIN32_FILE_ATTRIBUTE_DATA file = {};
-    if (!::GetFileAttributesExW(path, GetFileExInfoStandard, &file)) return 0;
-    return (static_cast<size_t>(file.nFileSizeHigh) << 32) + file.nFileSizeLow;
+/// Empty for a missing file.
+std::string ReadWholeFile(const CString& path) {
+    const FileHandle file = OwnFile(::CreateFileW(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                                  nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    LARGE_INTEGER size = {};
+    if (!file || !::GetFileSizeEx(file.get(), &size)) return std::string();
+    std::string bytes(static_cast<size_t>(size.QuadPart), '\0');
+    DWORD read = 0;
+    ::ReadFile(file.get(), &bytes[0], static_cast<DWORD>(bytes.size()), &read, nullptr);
+    return bytes;
 }
 
 /// The section's lines, each ended by a null character. A section is seldom longer than its file.
@@ -112,11 +117,11 @@ void WriteTagEntries(const CString& path, const CString& section, const std::vec
     bool plain = true;
     for (const TagEntry& entry : entries)
         plain = plain && IsPlainKey(entry.key);
-    const size_t size = FileSize(path);
-    const std::wstring text = ReadSection(path, section, size);
-    // A file that holds more than the section's plain lines, such as comments, would lose that by being
+    const std::string file = ReadWholeFile(path);
+    const std::wstring text = ReadSection(path, section, file.size());
+    // A file that holds anything but the section's plain lines, such as comments, would lose that by being
     // written as a whole.
-    if (!plain || (size != 0 && size != FileBytes(section, text).size())) {
+    if (!plain || (!file.empty() && file != FileBytes(section, text))) {
         for (const TagEntry& entry : entries)
             ::WritePrivateProfileStringW(section, entry.key, entry.value, path);
         return;

@@ -9,6 +9,8 @@
 #include "plm/TemporaryFile.h"
 
 #include <climits>
+#include <cwchar>
+#include <cwctype>
 
 namespace varnoke {
 
@@ -36,6 +38,14 @@ bool ReadBytes(const CString& path, _variant_t& bytes) {
     bytes.parray = array;
     DWORD read = 0;
     return ::ReadFile(file.get(), array->pvData, size.LowPart, &read, nullptr) && read == size.LowPart;
+}
+
+/// The text behind its XML declaration: an encoding named there is that of a file, while these are
+/// characters, and the parser would take it over into the file that it saves.
+const wchar_t* WithoutDeclaration(const wchar_t* text) {
+    if (wcsncmp(text, L"<?xml", 5) != 0 || !iswspace(text[5])) return text;
+    const wchar_t* end = wcsstr(text, L"?>");
+    return end ? end + 2 : text;
 }
 
 void Require(IXMLDOMNode* node) {
@@ -67,7 +77,8 @@ DomDocument CreateDocument() {
 
 bool LoadText(DomDocument& document, const wchar_t* text) {
     VARIANT_BOOL loaded = VARIANT_FALSE;
-    return Succeeded(document->loadXML(_bstr_t(text), &loaded)) && loaded && !HasDocumentType(document);
+    return Succeeded(document->loadXML(_bstr_t(WithoutDeclaration(text)), &loaded)) && loaded &&
+           !HasDocumentType(document);
 }
 
 bool LoadFile(DomDocument& document, const CString& path) {
@@ -80,7 +91,7 @@ bool LoadFile(DomDocument& document, const CString& path) {
 
 bool SaveDocument(IXMLDOMDocument* document, const CString& path) {
     MakeWritable(path);
-    TemporaryFile temporary(FolderOfPath(path));
+    TemporaryFile temporary(FolderOfPath(FullPath(path)));
     return !temporary.Path().IsEmpty() && SUCCEEDED(document->save(_variant_t(temporary.Path()))) &&
            temporary.MoveTo(path);
 }

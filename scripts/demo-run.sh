@@ -26,6 +26,7 @@ if [ "$1" = --interactive ]; then
     mv app/ModelConfig.Xml app/ModelConfig.off
     mkdir pictures/list
     host sign --message message.xml --vault vault --work work --pictures pictures/list --auto || true
+    mv app/ModelConfig.off app/ModelConfig.Xml
     printf '\n== a picture of each dialog: %s\n' "$out/pictures"
     find pictures -name '*.png' | sort
     exit

@@ -6,8 +6,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 if [ $# -eq 0 ]; then
-    mapfile -t files < <(git ls-files 'module/*.cpp' 'config/*.cpp' 'sign/*.cpp' 'plm/*.cpp' 'ui/*.cpp' \
-        'host/*.cpp' 'standins/*.cpp')
+    mapfile -t files < <(find module config sign plm ui host standins -name '*.cpp' | sort)
     set -- "${files[@]}"
 fi
 printf '%s\0' "$@" | xargs -0 -n 1 -P "$(nproc)" clang-tidy -p build/msabi --quiet

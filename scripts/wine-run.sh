@@ -16,15 +16,17 @@ export WINEPREFIX=$build/wineprefix WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all}
 export WINEDLLOVERRIDES="mscoree,mshtml,winedbg.exe="
 # Code page 936, so that the profile functions keep Chinese text.
 export LC_ALL=zh_CN.UTF-8 DISPLAY=$VARNOKE_DISPLAY
-if ! grep -qsxF "$WINEPREFIX" "$VARNOKE_RUN_DIR/prefixes"; then
-    # Runs in the same prefix take turns: they would share a Wine server, whose windows are on the first
-    # one's display, and which the first to end stops, the other's programs with it.
-    exec 8>"$build/.wineprefix.run.lock"
-    flock 8
-    tail --pid="$VARNOKE_RUN_PID" -s 0.2 -f /dev/null </dev/null >/dev/null 2>&1 &
-    exec 8>&-
-    echo "$WINEPREFIX" >>"$VARNOKE_RUN_DIR/prefixes"
-fi
+(
+    flock 7
+    if ! grep -qsxF "$WINEPREFIX" "$VARNOKE_RUN_DIR/prefixes"; then
+        # Runs in the same prefix take turns: they would share a Wine server, whose windows are on the first
+        # one's display, and which the first to end stops, the other's programs with it.
+        exec 8>"$build/.wineprefix.run.lock"
+        flock 8
+        tail --pid="$VARNOKE_RUN_PID" -s 0.2 -f /dev/null </dev/null >/dev/null 2>&1 7>&- &
+        echo "$WINEPREFIX" >>"$VARNOKE_RUN_DIR/prefixes"
+    fi
+) 7>"$VARNOKE_RUN_DIR/lock"
 
 (
     flock 9
@@ -40,15 +42,14 @@ fi
         $wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
         touch "$WINEPREFIX/unmanaged"
     fi
-    list=$build/bin/com-servers.txt
+    cd "$build/bin"
     stamp=$WINEPREFIX/registered
-    if [ -f "$list" ] && ! cmp -s "$list" "$stamp"; then
-        complete=yes
-        while IFS= read -r dll; do
-            [ -f "$build/bin/$dll" ] || { complete=no; continue; }
-            (cd "$build/bin" && $wine regsvr32 /s "$dll") </dev/null
-        done <"$list"
-        [ $complete = no ] || cp "$list" "$stamp"
+    servers=$(xargs -r cksum 2>/dev/null <com-servers.txt || true) # those that are built
+    if [ "$servers" != "$(cat "$stamp" 2>/dev/null)" ]; then
+        while read -r _ _ dll; do
+            $wine regsvr32 /s "$dll" </dev/null || { echo "cannot register $dll" >&2; exit 1; }
+        done <<<"$servers"
+        echo "$servers" >"$stamp"
     fi
 ) 9>"$build/.wineprefix.lock"
 

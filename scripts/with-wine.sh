@@ -19,8 +19,9 @@ trap 'exit 130' INT TERM
 
 for _ in $(seq 100); do
     [ -s "$run_dir/display" ] && break
-    kill -0 "$xvfb" 2>/dev/null || { cat "$run_dir/xvfb.log" >&2; exit 1; }
+    kill -0 "$xvfb" 2>/dev/null || break
     sleep 0.05
 done
+[ -s "$run_dir/display" ] || { echo "no X display:" >&2; cat "$run_dir/xvfb.log" >&2; exit 1; }
 export VARNOKE_DISPLAY=":$(tr -d '[:space:]' <"$run_dir/display")" VARNOKE_RUN_DIR=$run_dir VARNOKE_RUN_PID=$$
 "$@"

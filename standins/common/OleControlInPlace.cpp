@@ -15,11 +15,15 @@ STDMETHODIMP OleControl::GetWindow(HWND* window) {
 HRESULT OleControl::Activate(bool takeFocus) {
     if (!m_window) {
         if (!m_site) return OLE_E_NOT_INPLACEACTIVE;
-        m_inPlaceSite = nullptr;
+        // A window that went with its parent has left its activation open.
+        InPlaceDeactivate();
         HRESULT status =
             m_site->QueryInterface(IID_IOleInPlaceSite, reinterpret_cast<void**>(&m_inPlaceSite));
         if (FAILED(status)) return status;
-        if (m_inPlaceSite->CanInPlaceActivate() != S_OK) return E_FAIL;
+        if (m_inPlaceSite->CanInPlaceActivate() != S_OK) {
+            m_inPlaceSite = nullptr;
+            return E_FAIL;
+        }
         m_inPlaceSite->OnInPlaceActivate();
 
         HWND parent = nullptr;

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include "standins/common/Owned.h"
 #include "standins/common/ThisModule.h"
 
 namespace standins {
@@ -40,9 +41,24 @@ std::wstring JoinPath(std::wstring_view folder, std::wstring_view name) {
     return path;
 }
 
+std::wstring ParentFolder(const std::wstring& path) {
+    std::wstring folder = path.substr(0, path.find_last_of(L"\\/:") + 1);
+    if (folder.empty() || folder.back() == L':') folder += L'.';
+    return folder;
+}
+
 bool FileExists(const std::wstring& path) {
     const DWORD attributes = ::GetFileAttributesW(path.c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+bool WriteTextFile(const std::wstring& path, std::wstring_view text) {
+    const UniqueFile file = OpenedFile(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                                     FILE_ATTRIBUTE_NORMAL, nullptr));
+    const std::string utf8 = ToUtf8(text);
+    DWORD written = 0;
+    return file && ::WriteFile(file.get(), utf8.data(), static_cast<DWORD>(utf8.size()), &written, nullptr) &&
+           written == utf8.size() && ::FlushFileBuffers(file.get());
 }
 
 std::wstring ModulePath() {
@@ -58,8 +74,7 @@ std::wstring ModulePath() {
 }
 
 std::wstring ModuleFolder() {
-    const std::wstring path = ModulePath();
-    return path.substr(0, path.rfind(L'\\') + 1);
+    return ParentFolder(ModulePath());
 }
 
 std::wstring EnvironmentText(const wchar_t* name) {

@@ -42,22 +42,22 @@ static bool HasText(const wchar_t* text) {
     return text && *text;
 }
 
+static int RunTransfer(const wchar_t* function, const wchar_t* operation, const wchar_t* localPath,
+                       const wchar_t* remoteName,
+                       Result (Vault::*transfer)(const std::wstring&, const std::wstring&) const) {
+    return RunCall(function, {localPath, remoteName}, [&](const Vault& vault, const FaultPlan& faults) {
+        if (faults.TransferFails(operation, TextOf(remoteName))) return ResultFault;
+        if (!HasText(localPath)) return ResultBadArgument;
+        return (vault.*transfer)(localPath, TextOf(remoteName));
+    });
+}
+
 extern "C" int dvl_DownloadFile(const wchar_t* localPath, const wchar_t* remoteName, int, int) {
-    return RunCall(L"dvl_DownloadFile", {localPath, remoteName},
-                   [&](const Vault& vault, const FaultPlan& faults) {
-                       if (faults.TransferFails(L"Download", TextOf(remoteName))) return ResultFault;
-                       if (!HasText(localPath)) return ResultBadArgument;
-                       return vault.Download(localPath, TextOf(remoteName));
-                   });
+    return RunTransfer(L"dvl_DownloadFile", L"Download", localPath, remoteName, &Vault::Download);
 }
 
 extern "C" int dvl_UploadFile(const wchar_t* localPath, const wchar_t* remoteName, int, int) {
-    return RunCall(L"dvl_UploadFile", {localPath, remoteName},
-                   [&](const Vault& vault, const FaultPlan& faults) {
-                       if (faults.TransferFails(L"Upload", TextOf(remoteName))) return ResultFault;
-                       if (!HasText(localPath)) return ResultBadArgument;
-                       return vault.Upload(localPath, TextOf(remoteName));
-                   });
+    return RunTransfer(L"dvl_UploadFile", L"Upload", localPath, remoteName, &Vault::Upload);
 }
 
 extern "C" int dvl_QueryObjs(const wchar_t* objectType, const wchar_t* reserved1, const wchar_t* reserved2,

@@ -7,12 +7,12 @@ namespace durvell {
 
 bool SearchFilter::Parse(const std::wstring& xml) {
     m_conditions.clear();
-    const IXMLDOMDocument2Ptr document = LoadXmlText(xml);
+    const standins::XmlDocumentPtr document = standins::LoadXmlText(xml);
     if (!document) return false;
-    const IXMLDOMNodeListPtr filters = Select(document, L"/searchfilter/archivefilter/filter");
+    const XmlNodeListPtr filters = Select(document, L"/searchfilter/archivefilter/filter");
     const long count = CountOf(filters);
     for (long i = 0; i < count; ++i) {
-        const IXMLDOMNodePtr filter = ItemAt(filters, i);
+        const XmlNodePtr filter = ItemAt(filters, i);
         Condition condition;
         std::wstring logic, comparison;
         if (!ReadAttribute(filter, L"logiccode", &logic) || !standins::SameText(logic, L"and")) return false;
@@ -28,7 +28,7 @@ bool SearchFilter::Parse(const std::wstring& xml) {
 static bool HasValue(IXMLDOMNodeList* properties, const std::wstring& field, const std::wstring& value) {
     const long count = CountOf(properties);
     for (long i = 0; i < count; ++i) {
-        const IXMLDOMNodePtr property = ItemAt(properties, i);
+        const XmlNodePtr property = ItemAt(properties, i);
         std::wstring name, text;
         if (ReadAttribute(property, L"name", &name) && name == field)
             return ReadAttribute(property, L"value", &text) && standins::SameText(text, value);
@@ -37,7 +37,7 @@ static bool HasValue(IXMLDOMNodeList* properties, const std::wstring& field, con
 }
 
 bool SearchFilter::Matches(IXMLDOMNode* object) const {
-    const IXMLDOMNodeListPtr properties = Select(object, L"pro");
+    const XmlNodeListPtr properties = Select(object, L"pro");
     for (const Condition& condition : m_conditions)
         if (!HasValue(properties, condition.field, condition.value)) return false;
     return true;

@@ -4,64 +4,20 @@
 #include <windows.h>
 #include <cstdio>
 
-#include "standins/common/Owned.h"
 #include "standins/common/Text.h"
 #include "standins/durvell/FaultPlan.h"
 #include "standins/durvell/RemoteName.h"
+#include "standins/durvell/TemporaryFile.h"
 
 using namespace standins;
 
 namespace durvell {
-
-// Deletes a temporary file unless it was moved to its place.
-class TemporaryFile {
-public:
-    // Makes an empty file of a unique name in the folder.
-    explicit TemporaryFile(const std::wstring& folder) {
-        wchar_t path[MAX_PATH] = {};
-        if (::GetTempFileNameW(folder.c_str(), L"dvl", 0, path)) m_path = path;
-    }
-    ~TemporaryFile() {
-        if (!m_path.empty()) ::DeleteFileW(m_path.c_str());
-    }
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-
-    const std::wstring& Path() const { return m_path; }
-
-    bool FillFrom(const std::wstring& source) const {
-        return !m_path.empty() && ::CopyFileW(source.c_str(), m_path.c_str(), FALSE) &&
-               ::SetFileAttributesW(m_path.c_str(), FILE_ATTRIBUTE_NORMAL);
-    }
-    bool MoveTo(const std::wstring& target, DWORD flags) {
-        if (!::MoveFileExW(m_path.c_str(), target.c_str(), flags)) return false;
-        m_path.clear();
-        return true;
-    }
-
-private:
-    std::wstring m_path;
-};
-
-static std::wstring ParentFolder(const std::wstring& path) {
-    return path.substr(0, path.rfind(L'\\'));
-}
 
 // A folder that can't be made shows when the file in it is written.
 static std::wstring MakeFolder(const std::wstring& parent, const std::wstring& name) {
     const std::wstring folder = JoinPath(parent, name);
     ::CreateDirectoryW(folder.c_str(), nullptr);
     return folder;
-}
-
-static Result WriteText(const std::wstring& path, const std::wstring& text) {
-    const UniqueFile file = OpenedFile(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                                     FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (!file) return ResultFileError;
-    const std::string utf8 = ToUtf8(text);
-    DWORD written = 0;
-    const BOOL ok = ::WriteFile(file.get(), utf8.data(), static_cast<DWORD>(utf8.size()), &written, nullptr);
-    return ok && written == utf8.size() ? ResultOk : ResultFileError;
 }
 
 Vault::Vault() : m_folder(EnvironmentText(L"DURVELL_VAULT")) {
@@ -129,9 +85,10 @@ Result Vault::SaveRecord(const std::wstring& recordFile, const std::wstring& wor
     const std::wstring signLog = MakeFolder(m_folder, L"signlog");
     std::wstring entry;
     if (!record.FillFrom(recordFile) || !MoveToNextEntry(record, signLog, &entry)) return ResultFileError;
-    return WriteText(workFile,
-                     L"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<root><result code=\"0\" entry=\"" +
-                         entry + L"\"/></root>\r\n");
+    const std::wstring answer =
+        L"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<root><result code=\"0\" entry=\"" + entry +
+        L"\"/></root>\r\n";
+    return WriteTextFile(workFile, answer) ? ResultOk : ResultFileError;
 }
 
 Result Vault::ShareInfo(wchar_t* userName, wchar_t* password, wchar_t* server) const {

@@ -32,37 +32,47 @@ HRESULT GiveObject(Interface** result, const SharedElement& element) {
     return S_OK;
 }
 
-// What object configurations and object maps have in common: attributes, and entries with attributes.
+// What object configurations and object maps have in common: attributes, and entries with attributes, which
+// are the child elements of one name.
 template <class Interface>
 class AttributedConfig : public standins::ComObject<Interface> {
 public:
-    explicit AttributedConfig(const SharedElement& element) : m_element(element) {}
+    AttributedConfig(const SharedElement& element, std::wstring_view entryName) : m_element(element) {
+        for (const XmlElement& child : element->children)
+            if (child.name == entryName) m_entries.push_back(&child);
+    }
 
     STDMETHODIMP GetAttribute(BSTR name, BSTR* value) override {
         return ModelCall(value, [&] { return GiveText(value, m_element->Attribute(TextOf(name))); });
     }
     STDMETHODIMP GetCount(long* count) override {
         return ModelCall(count, [&] {
-            *count = static_cast<long>(m_element->children.size());
+            *count = static_cast<long>(m_entries.size());
             return S_OK;
         });
     }
     STDMETHODIMP GetEntryAttribute(long index, BSTR name, BSTR* value) override {
         return ModelCall(value, [&] {
-            if (index < 0 || index >= static_cast<long>(m_element->children.size())) return E_INVALIDARG;
-            return GiveText(value, m_element->children[index].Attribute(TextOf(name)));
+            if (index < 0 || index >= static_cast<long>(m_entries.size())) return E_INVALIDARG;
+            return GiveText(value, m_entries[index]->Attribute(TextOf(name)));
         });
     }
 
 protected:
     const SharedElement m_element;
+
+private:
+    std::vector<const XmlElement*> m_entries;
 };
 
-using ObjConfig = AttributedConfig<IQORObjConfig>;
+class ObjConfig final : public AttributedConfig<IQORObjConfig> {
+public:
+    explicit ObjConfig(const SharedElement& element) : AttributedConfig(element, L"attr") {}
+};
 
 class ObjMapConfig final : public AttributedConfig<IQORObjMapConfig> {
 public:
-    using AttributedConfig::AttributedConfig;
+    explicit ObjMapConfig(const SharedElement& element) : AttributedConfig(element, L"map") {}
 
     STDMETHODIMP GetServerObjConfigId(BSTR* id) override {
         return ModelCall(id, [&] { return GiveText(id, m_element->Value(L"server")); });

@@ -1,7 +1,6 @@
 // Reading and writing of data files.
 #include "standins/qorparser/DataFile.h"
 
-#include "standins/common/Owned.h"
 #include "standins/common/Text.h"
 
 namespace qorparser {
@@ -14,10 +13,11 @@ _bstr_t ToBstr(std::wstring_view text) {
     return _bstr_t(std::wstring(text).c_str());
 }
 
-// Whether the element has the name and the required attributes.
+// Whether the element has the name and these attributes, and neither other attributes nor text.
 bool IsElement(const XmlElement& element, std::wstring_view name,
                std::initializer_list<std::wstring_view> attributes) {
-    if (element.name != name) return false;
+    if (element.name != name || element.hasText || element.attributes.size() != attributes.size())
+        return false;
     for (const std::wstring_view attribute : attributes)
         if (!element.Attribute(attribute)) return false;
     return true;
@@ -32,7 +32,7 @@ bool IsProperty(const XmlElement& element) {
 bool HasProperties(const XmlElement& element, int locals) {
     for (const XmlElement& child : element.children) {
         if (IsProperty(child)) continue;
-        if (child.name != L"local" || --locals < 0 || !HasProperties(child, 0)) return false;
+        if (!IsElement(child, L"local", {}) || --locals < 0 || !HasProperties(child, 0)) return false;
     }
     return true;
 }
@@ -79,19 +79,10 @@ void WriteEntry(std::wstring& xml, IQORDataEntry* entry) {
     xml.append(L"    </local>\r\n  </obj>\r\n");
 }
 
-// Writes a new file through to the disk.
-bool WriteTextFile(const std::wstring& path, const std::string& text) {
-    const standins::UniqueFile file = standins::OpenedFile(::CreateFileW(
-        path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-    DWORD written = 0;
-    return file && ::WriteFile(file.get(), text.data(), static_cast<DWORD>(text.size()), &written, nullptr) &&
-           written == text.size() && ::FlushFileBuffers(file.get());
-}
-
 } // namespace
 
 bool IsDataFile(const XmlElement& document) {
-    if (document.name != L"qordata") return false;
+    if (!IsElement(document, L"qordata", {})) return false;
     for (const XmlElement& child : document.children)
         if (!IsEntry(child)) return false;
     return true;
@@ -124,7 +115,7 @@ std::wstring WriteEntries(IQORDataModel* model) {
 
 bool ReplaceTextFile(const std::wstring& path, const std::wstring& text) {
     const std::wstring work = path + L".tmp";
-    if (WriteTextFile(work, standins::ToUtf8(text)) &&
+    if (standins::WriteTextFile(work, text) &&
         ::MoveFileExW(work.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
         return true;
     ::DeleteFileW(work.c_str());

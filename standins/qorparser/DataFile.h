@@ -8,7 +8,7 @@
 
 namespace qorparser {
 
-// Whether the document is a data file with nothing in it that the model could not hold.
+// Whether the document is a data file with no element, attribute or text in it that the model could not hold.
 bool IsDataFile(const XmlElement& document);
 
 // Appends the entries of a data file to the model. Throws _com_error when the model fails.

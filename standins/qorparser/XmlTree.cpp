@@ -1,56 +1,28 @@
 // Loading of XML files through the system's DOM, and the rules for XML text.
 #include "standins/qorparser/XmlTree.h"
 
-#include <windows.h>
-#include <comdef.h>
-#include <msxml2.h>
-
-#include "standins/common/Owned.h"
+#include "standins/common/XmlDocument.h"
 
 namespace qorparser {
 namespace {
 
 constexpr int kMaxDepth = 64;
 
-// Not every compiler's headers declare this identifier.
-constexpr IID kDocumentId = {0x2933bf95, 0x7b36, 0x11d2, {0xb2, 0x0e, 0x00, 0xc0, 0x4f, 0x98, 0x3e, 0x60}};
-
-using DocumentPtr = _com_ptr_t<_com_IIID<IXMLDOMDocument2, &kDocumentId>>;
-using DocumentTypePtr = _com_ptr_t<_com_IIID<IXMLDOMDocumentType, &IID_IXMLDOMDocumentType>>;
-using NodePtr = _com_ptr_t<_com_IIID<IXMLDOMNode, &IID_IXMLDOMNode>>;
-using ElementPtr = _com_ptr_t<_com_IIID<IXMLDOMElement, &IID_IXMLDOMElement>>;
 using AttributesPtr = _com_ptr_t<_com_IIID<IXMLDOMNamedNodeMap, &IID_IXMLDOMNamedNodeMap>>;
 
 using _com_util::CheckError;
+using standins::XmlElementPtr;
+using standins::XmlNodePtr;
 
 std::wstring TextOf(const _bstr_t& text) {
     return text.length() ? std::wstring(static_cast<const wchar_t*>(text), text.length()) : std::wstring();
-}
-
-// The file's bytes, as a variant from which the DOM can load; empty when the file can't be read.
-_variant_t ReadBytes(const wchar_t* path) {
-    _variant_t bytes;
-    const standins::UniqueFile file = standins::OpenedFile(
-        ::CreateFileW(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-    LARGE_INTEGER size = {};
-    if (!file || !::GetFileSizeEx(file.get(), &size) || size.QuadPart == 0 || size.QuadPart > MAXLONG)
-        return bytes;
-    V_ARRAY(&bytes) = ::SafeArrayCreateVector(VT_UI1, 0, size.LowPart);
-    if (!V_ARRAY(&bytes)) throw std::bad_alloc();
-    V_VT(&bytes) = VT_ARRAY | VT_UI1;
-    DWORD read = 0;
-    const bool complete =
-        ::ReadFile(file.get(), V_ARRAY(&bytes)->pvData, size.LowPart, &read, nullptr) && read == size.LowPart;
-    if (!complete) bytes.Clear();
-    return bytes;
 }
 
 void CopyAttributes(IXMLDOMElement* element, XmlElement& copy) {
     AttributesPtr attributes;
     CheckError(element->get_attributes(&attributes));
     for (;;) {
-        NodePtr attribute;
+        XmlNodePtr attribute;
         CheckError(attributes->nextNode(&attribute));
         if (!attribute) return;
         _bstr_t name, value;
@@ -60,6 +32,16 @@ void CopyAttributes(IXMLDOMElement* element, XmlElement& copy) {
     }
 }
 
+// Whether the node is text (or marked as character data) with something to see in it.
+bool IsVisibleText(IXMLDOMNode* node) {
+    DOMNodeType type = NODE_INVALID;
+    CheckError(node->get_nodeType(&type));
+    if (type != NODE_TEXT && type != NODE_CDATA_SECTION) return false;
+    _bstr_t text;
+    CheckError(node->get_text(text.GetAddress()));
+    return TextOf(text).find_first_not_of(L" \t\r\n") != std::wstring::npos;
+}
+
 // False for elements nested too deeply for a model file.
 bool CopyElement(IXMLDOMElement* element, XmlElement& copy, int depth) {
     if (depth > kMaxDepth) return false;
@@ -67,32 +49,17 @@ bool CopyElement(IXMLDOMElement* element, XmlElement& copy, int depth) {
     CheckError(element->get_nodeName(name.GetAddress()));
     copy.name = TextOf(name);
     CopyAttributes(element, copy);
-    NodePtr node;
+    XmlNodePtr node;
     CheckError(element->get_firstChild(&node));
     while (node) {
-        const ElementPtr child(node);
+        copy.hasText = copy.hasText || IsVisibleText(node);
+        const XmlElementPtr child(node);
         if (child && !CopyElement(child, copy.children.emplace_back(), depth + 1)) return false;
-        NodePtr next;
+        XmlNodePtr next;
         CheckError(node->get_nextSibling(&next));
         node = next;
     }
     return true;
-}
-
-DocumentPtr NewDocument() {
-    DocumentPtr document;
-    CheckError(document.CreateInstance(L"Msxml2.DOMDocument.6.0", nullptr, CLSCTX_INPROC_SERVER));
-    CheckError(document->put_async(VARIANT_FALSE));
-    CheckError(document->put_validateOnParse(VARIANT_FALSE));
-    CheckError(document->put_resolveExternals(VARIANT_FALSE));
-    CheckError(document->setProperty(_bstr_t(L"ProhibitDTD"), _variant_t(true)));
-    return document;
-}
-
-// Some parsers don't know "ProhibitDTD".
-bool HasDocumentType(IXMLDOMDocument2* document) {
-    DocumentTypePtr type;
-    return document->get_doctype(&type) == S_OK && type;
 }
 
 bool IsSurrogatePair(std::wstring_view text, size_t at) {
@@ -119,12 +86,9 @@ const XmlElement* XmlElement::Child(std::wstring_view child) const {
 }
 
 std::shared_ptr<const XmlElement> LoadXmlFile(const wchar_t* file) {
-    const _variant_t bytes = ReadBytes(file);
-    if (V_VT(&bytes) == VT_EMPTY) return nullptr;
-    const DocumentPtr document = NewDocument();
-    VARIANT_BOOL loaded = VARIANT_FALSE;
-    if (FAILED(document->load(bytes, &loaded)) || !loaded || HasDocumentType(document)) return nullptr;
-    ElementPtr root;
+    const standins::XmlDocumentPtr document = standins::LoadXmlFile(file);
+    if (!document) return nullptr;
+    XmlElementPtr root;
     CheckError(document->get_documentElement(&root));
     if (!root) return nullptr;
     auto tree = std::make_shared<XmlElement>();

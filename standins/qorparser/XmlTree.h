@@ -13,6 +13,7 @@ struct XmlElement {
     std::wstring name;
     std::vector<std::pair<std::wstring, std::wstring>> attributes;
     std::vector<XmlElement> children; // elements only
+    bool hasText = false;             // whether there is more than blanks beside the elements
 
     // Null when the element has no such attribute.
     const std::wstring* Attribute(std::wstring_view attribute) const;

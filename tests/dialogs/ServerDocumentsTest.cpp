@@ -1,6 +1,8 @@
 // The server document list, shown by CPLMInteract::StartSign.
 #include "tests/dialogs/DialogFixture.h"
+#include "tests/dialogs/BrokenClass.h"
 #include "ui/QORGrid.h"
+#include "ui/QORGridIds.h"
 
 namespace {
 
@@ -8,8 +10,9 @@ using namespace tests;
 
 enum { Grid = 4000, Confirm = 4001, Dismiss = 4002 };
 
-const wchar_t kColumns[] = LR"(<modelconfig><objconfig id="SIGN"><pro name="FNAME" caption="文件名"/>)"
-                           LR"(<pro name="VER" caption=""/></objconfig></modelconfig>)";
+const wchar_t kColumns[] =
+    LR"(<modelconfig><objconfig id="SIGN"><other/><attr name="FNAME" caption="文件名"/>)"
+    LR"(<attr name="VER" caption=""/></objconfig></modelconfig>)";
 const wchar_t kMessage[] =
     LR"(<root><objs><type id="LoginInfo"><obj><pro name="UserName" value="wang"/><pro name="Password" value="p"/>)"
     LR"(<pro name="PLMServer" value="s"/></obj></type><type id="step"><obj><pro name="ROLE" value="审核"/></obj></type>)"
@@ -86,10 +89,25 @@ TEST_F(ServerDocuments, WithoutColumns_TheEmptyListCanOnlyBeCancelled) {
             Click(dialog, Confirm);
             Click(dialog, Dismiss);
         });
+        m_login = reinterpret_cast<SLoginInfo*>(1);
+        m_steps = m_files = reinterpret_cast<SSignType*>(1);
         EXPECT_EQ(0, StartSign());
         EXPECT_TRUE(!m_login && !m_steps && !m_files);
+        EXPECT_TRUE(std::filesystem::remove(m_folder / L"SignData" / L"StartSign.Xml"))
+            << "kept all the same";
     }
     ExpectBoxes(L"服务端文档列表", std::vector<std::wstring>(6, L"没有文档数据。"));
+}
+
+TEST_F(ServerDocuments, WithoutItsGrid_TheListIsEmpty) {
+    const BrokenClass grid(varnoke::kQORGridClass);
+    Configure(kColumns);
+    m_driver.Next([](HWND dialog) {
+        Click(dialog, Confirm);
+        Click(dialog, Dismiss);
+    });
+    EXPECT_EQ(0, StartSign());
+    ExpectBoxes(L"服务端文档列表", {L"没有文档数据。", L"没有文档数据。"});
 }
 
 TEST_F(ServerDocuments, RowsWithoutACheckedOne_AreRefused) {

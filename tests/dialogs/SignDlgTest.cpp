@@ -1,6 +1,8 @@
 // The sign dialog, shown by CSignOpt::GetSignInfo.
 #include "tests/dialogs/DialogFixture.h"
 #include <commctrl.h>
+#include "tests/dialogs/BrokenClass.h"
+#include "ui/DwgViewerIds.h"
 
 namespace {
 
@@ -233,6 +235,34 @@ TEST_F(SignDlg, Confirm_FixedScopeIsAllDocuments) {
     ASSERT_EQ(1, Sign(0, [](HWND dialog) { Click(dialog, Confirm); }));
     EXPECT_EQ(m_info->m_nScope, 3);
     EXPECT_EQ(m_settings.Get(L"SignScope", L"Scope"), L"3");
+}
+
+TEST_F(SignDlg, Keys_ConfirmDismissAndMoveWithinAGroup) {
+    const struct {
+        UINT message;
+        WPARAM key;
+        long result;
+    } keys[] = {
+        {WM_KEYDOWN, VK_RETURN, 1}, {WM_KEYDOWN, VK_ESCAPE, 0}, {WM_SYSCHAR, 'o', 1}, {WM_SYSCHAR, 'c', 0}};
+    for (const auto& key : keys) {
+        const long result = Sign(1, [&](HWND dialog) {
+            SetFocus(GetDlgItem(dialog, All));
+            MSG down = {GetFocus(), WM_KEYDOWN, VK_DOWN, 0, 0, {}};
+            IsDialogMessageW(dialog, &down);
+            EXPECT_EQ(Current, GetDlgCtrlID(GetFocus()));
+            PostMessageW(GetFocus(), key.message, key.key, key.message == WM_SYSCHAR ? 1 << 29 : 0);
+        });
+        EXPECT_EQ(key.result, result) << key.key;
+        if (result) Cmn_ReleaseSignInfo(std::exchange(m_info, nullptr));
+    }
+}
+
+TEST_F(SignDlg, Preview_StaysEmptyWithoutItsViewer) {
+    const BrokenClass viewer(varnoke::kDwgViewerClass);
+    EXPECT_EQ(1, Sign(1, [](HWND dialog) {
+                  EXPECT_EQ(9u, Items(dialog, Location).size()) << "the rest is filled all the same";
+                  Click(dialog, Confirm);
+              }));
 }
 
 TEST_F(SignDlg, Runs_LeaveNothingBehind) {

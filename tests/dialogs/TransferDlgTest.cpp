@@ -56,6 +56,13 @@ protected:
         });
         return &variant == &kDownload ? m_plm.DownloadDoc(&m_list) : m_plm.UploadDoc(&m_list);
     }
+    // Has the dialog get a step that the worker does not report, after the run has started.
+    void PostAfterStart(const Variant& variant, Step step, const wchar_t* path = nullptr) {
+        m_driver.After(variant.firstMessage + Started, 1, [&variant, step, path](HWND dialog) {
+            PostMessageW(dialog, variant.firstMessage + step, reinterpret_cast<WPARAM>(SysAllocString(path)),
+                         0);
+        });
+    }
     // The log's texts; each line must begin with a time.
     std::vector<std::wstring> Log() const {
         std::vector<std::wstring> lines;
@@ -93,7 +100,16 @@ TEST_P(TransferDlg, AFailureInTheMiddle_IsToldAtTheEnd) {
     const auto* second = AddFile(L"b&b.dwg");
     const auto* third = AddFile(L"三.dwg");
     SetFault(&variant == &kDownload ? L"DownloadFailNames" : L"UploadFailNames", L"b&b.dwg");
+    Text folder(Local().wstring()), failed(L"b&b.dwg");
+    EXPECT_EQ(2, m_plm.SetDocSignTag(folder, failed, 5) + m_plm.SetDocSignLogTag(folder, failed, 6));
     EXPECT_EQ(4, Transfer(variant));
+    long tags[] = {7, 7, 7};
+    m_plm.GetDocSignTag(folder, failed, &tags[0]);
+    m_plm.GetDocSignLogTag(folder, failed, &tags[1]);
+    EXPECT_EQ(0, m_plm.GetDocSignTimeTag(folder, failed, &tags[2])) << "recorded anew";
+    const std::vector<long> left =
+        &variant == &kDownload ? std::vector<long>{0, 0, 0} : std::vector<long>{5, 6, 0};
+    EXPECT_EQ(left, std::vector<long>(tags, tags + 3)) << "only a download resets tags, failed or not";
     EXPECT_EQ((std::vector<long>{1, 2, 1}),
               (std::vector<long>{first->m_nState, second->m_nState, third->m_nState}));
     const std::wstring a = Path(L"a.dwg"), b = Path(L"b&b.dwg"), c = Path(L"三.dwg");
@@ -169,6 +185,21 @@ TEST_P(TransferDlg, Activity_WrapsAndEnterIsIgnored) {
     });
     EXPECT_EQ(1, Transfer(variant));
     EXPECT_EQ(1u, ServerCalls());
+}
+
+TEST_P(TransferDlg, Interruption_IsLoggedAndTheFirstResultStays) {
+    const Variant& variant = *GetParam();
+    AddFile(L"a.dwg");
+    SetFault(L"DelayMs", L"300");              // the file is still on its way
+    const bool skips = &variant == &kDownload; // though its worker never does
+    if (skips) PostAfterStart(variant, Skipped, L"b.dwg");
+    PostAfterStart(variant, Interrupted);
+    EXPECT_EQ(skips ? 3 : 2, Transfer(variant));
+    if (skips) ExpectBoxes(variant.title, {L"文档：b.dwg 已经存在。\r\n"});
+    const std::vector<std::wstring> log = Log();
+    ASSERT_EQ(5u, log.size());
+    EXPECT_EQ(std::wstring(L"文档") + variant.verb + L"中断。", log[2]);
+    EXPECT_EQ(std::wstring(L"文档") + variant.verb + L"结束。", log[4]);
 }
 
 TEST_P(TransferDlg, LongList_LogsEveryLine) {

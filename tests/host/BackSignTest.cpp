@@ -85,18 +85,36 @@ TEST_F(BackSignTest, RefusedLog_IsKeptAndSentByTheNextRun) {
     Fault(L"SaveFail", L"*");
     const HostResult result = BackSign();
     EXPECT_EQ(0u, result.exitCode) << result.Text();
-    EXPECT_NE(std::string::npos, result.err.find("refused the sign log"));
+    EXPECT_NE(std::string::npos, result.err.find("the sign log was not sent"));
     const HostResult log = RunHost({L"log", L"--work", m_work});
     EXPECT_EQ(0u, log.exitCode) << log.Text();
     EXPECT_TRUE(log.Said("D1        校对  signed  new")) << log.Text();
 
+    Fault(L"UploadFailNames", L"a.dwg");
+    EXPECT_EQ(4u, BackSign().exitCode);
+    EXPECT_EQ(log.out, RunHost({L"log", L"--work", m_work}).out) << "the earlier signature is on the server";
+
+    Fault(L"UploadFailNames", nullptr);
     Fault(L"SaveFail", nullptr);
+    fs::rename(m_work / L"SignData/DocSignRecord.xml", m_work / L"SignData/DocSignRecord.unsent.xml");
     WriteBytes(m_message, ToUtf8(MessageText({{L"x.dwg"}, {L"b.dwg"}})));
     Store(L"b.dwg");
     EXPECT_EQ(3u, BackSign().exitCode);
     EXPECT_TRUE(ServerLogged("D1"));
     EXPECT_TRUE(ServerLogged("D2"));
     EXPECT_EQ(4u, RunHost({L"log", L"--work", m_work}).exitCode);
+}
+
+TEST_F(BackSignTest, DocumentsWithoutIdentifierAndRole_AreLoggedAsTheyWereSigned) {
+    Prepare({{L"a.dwg"}, {L"b.dwg"}});
+    std::string message = ReadBytes(m_message);
+    for (const std::string name : {"'ID'", "'SIGN_ROLE'"})
+        for (size_t at; (at = message.find(name)) != std::string::npos;)
+            message.replace(at, name.size(), "'OTHER'");
+    WriteBytes(m_message, message);
+    EXPECT_EQ(0u, BackSign({}).exitCode);
+    EXPECT_TRUE(ServerLogged("a.dwg"));
+    EXPECT_TRUE(ServerLogged("b.dwg", "设计"));
 }
 
 TEST_F(BackSignTest, EscapingNames_AreRefusedWhileOthersAreSigned) {

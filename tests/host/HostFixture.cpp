@@ -101,11 +101,15 @@ int HostTest::SignCalls(const char* call, const std::string& containing) const {
     return CountLines(m_folder / L"sign.log", call, containing);
 }
 
-bool HostTest::ServerLogged(const std::string& id) const {
+bool HostTest::ServerLogged(const std::string& id, const std::string& role) const {
     if (!fs::exists(m_vault / L"signlog")) return false;
-    for (const auto& entry : fs::directory_iterator(m_vault / L"signlog"))
-        if (ReadBytes(entry.path()).find("name=\"QORMFILEID\" value=\"" + id + "\"") != std::string::npos)
-            return true;
+    for (const auto& entry : fs::directory_iterator(m_vault / L"signlog")) {
+        const std::string record = ReadBytes(entry.path());
+        const size_t at = record.find("name=\"QORMFILEID\" value=\"" + id + "\"");
+        if (at == std::string::npos) continue;
+        const size_t value = record.find("value=\"", record.find("name=\"QORMROLE\"", at));
+        return role.empty() || record.compare(value + 7, role.size(), role) == 0;
+    }
     return false;
 }
 

@@ -45,8 +45,8 @@ protected:
     // Lines of a journal that name the call.
     int Calls(const char* call, const std::string& containing = "") const;
     int SignCalls(const char* call, const std::string& containing = "") const;
-    // Whether a sign record that the server got has the document's identifier.
-    bool ServerLogged(const std::string& id) const;
+    // Whether a sign record that the server got has an entry of the document's identifier and the role.
+    bool ServerLogged(const std::string& id, const std::string& role = "") const;
     // Path, attributes and content of everything below the test's folder.
     std::set<std::string> Snapshot() const;
 

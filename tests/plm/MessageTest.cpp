@@ -1,11 +1,17 @@
 // Reading of start-sign messages and the kept copy.
 #include "tests/plm/PlmFixture.h"
+#include "tests/support/MemoryUse.h"
 
 using namespace tests;
 
 namespace {
 
-class MessageTest : public PlmTest {};
+class MessageTest : public PlmTest {
+protected:
+    const TempFolder m_other;
+    SLoginInfo* m_login = nullptr;
+    SSignType *m_steps = nullptr, *m_files = nullptr;
+};
 
 TEST_F(MessageTest, Records) {
     const std::wstring both = kLogin + kSteps, step = L":STEP=审核";
@@ -120,6 +126,33 @@ TEST_F(MessageTest, WorkFolders) {
     }
 }
 
+TEST_F(MessageTest, DeclaredEncodingIsNotThatOfTheKeptMessage) {
+    for (const wchar_t* encoding : {L"UTF-16", L"gbk", L"ISO-8859-1", L"GB2312", L"utf-8"}) {
+        const std::wstring declaration = std::wstring(L"<?xml version='1.0' encoding='") + encoding + L"'?>";
+        EXPECT_EQ(Read(declaration + Documents(L"图")), 1) << ToUtf8(encoding);
+        EXPECT_EQ(DocumentsIn(m_kept), L"DOC:图") << ToUtf8(encoding);
+    }
+}
+
+TEST_F(MessageTest, RefusedMessagesLeaveNoRecords) {
+    ASSERT_EQ(Read(Documents(L"A")), 1);
+    const std::wstring big(200000, L'x'), login = L"LoginInfo:UserName=" + big + L",Password=,PLMServer=|";
+    const std::wstring groups[] = {login + L"step:|DOC:A", login + L"step:S=" + big + L";-|DOC:A",
+                                   login + L"step:S=" + big + L"|DOC:" + big + L";-",
+                                   kLogin + L"step:S=" + big + L"|DOC:" + big};
+    const auto refuse = [&] {
+        for (const std::wstring& group : groups) {
+            Results results;
+            EXPECT_EQ(Merge(Message(group), results), 0);
+        }
+        for (int i = 0; i < 3; ++i)
+            EXPECT_EQ(m_plm.ParserStartSignXmlString(Text(Message(groups[i])), Text(m_other.Text()), &m_login,
+                                                     &m_steps, &m_files),
+                      0);
+    };
+    EXPECT_LT(MemoryGrowth(15, refuse), 5 << 20) << "one text left behind each time makes 6 MB";
+}
+
 TEST_F(MessageTest, ReadOnlyKeptMessageIsReplaced) {
     WriteBytes(m_kept, "old");
     SetFileAttributesW(m_kept.c_str(), FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN);
@@ -133,8 +166,8 @@ TEST_F(MessageTest, BigMessages) {
     std::wstring objects, bigObjects;
     for (int i = 0; i < 10000; ++i)
         objects += L"n;";
-    for (int i = 0; i < 1100; ++i)
-        bigObjects += std::wstring(8000, L'v') + L";"; // 9 MB as UTF-8
+    for (int i = 0; i < 55000; ++i)
+        bigObjects += std::wstring(200, L'v') + L";"; // 11 MB as UTF-8
     ASSERT_EQ(Call(kRead, Documents(objects), many, m_folder.Text()), 1);
     EXPECT_EQ(many.files->m_lstObj.GetCount(), 10000);
     ASSERT_EQ(Call(kRead, Documents(bigObjects), big, m_folder.Text()), 1);

@@ -91,6 +91,7 @@ TEST_F(TagsTest, ListsGiveTheFilesOfSingleOperations) {
         "[DocSignTag]\r\nA.DWG=5\r\nother.dwg=-3\r\na.dwg=6\r\n",
         "[Else]\r\nk=1\r\n[docsigntag]\r\n; comment\r\nB.dwg = \"4\"\r\n\r\nplain\r\n[More]\r\nb.dwg=2\r\n",
         "\r\n[DocSignTag]\r\nno line end=1",
+        "[Else]\r\nk=12\r\n", // as long as a file of the section alone
         many,
     };
     const ItemNames nameLists[] = {

@@ -83,6 +83,8 @@ TEST_F(SignLogTest, DamagedRecord_StartsAnewAndKeepsTheOldFile) {
         std::string(3000, '\0'),
         "<qordata><obj type='T' state='N'><pro name='ID'/></obj></qordata>",
         "<qordata><obj type='T' state='N'><local/><local/></obj></qordata>",
+        "<qordata><obj type='T' state='N'><local kind='x'/></obj></qordata>",
+        "<qordata> <obj type='T' state='N'/> a note </qordata>",
         "<!DOCTYPE qordata [<!ENTITY e SYSTEM 'file:///c:/x'>]><qordata/>",
     };
     int copies = 0;

@@ -82,6 +82,10 @@ TEST_F(Durvell, Transfer_ReplacesWholeFilesAndFailureKeepsWhatWasThere) {
     EXPECT_EQ("an older and longer version of it", ReadBytes(Local(L"back.dwg")));
     EXPECT_EQ(ResultOk, Download(L"back.dwg", L"项目\\图.dwg"));
     EXPECT_EQ(bytes, ReadBytes(Local(L"back.dwg")));
+    WriteBytes(Local(L"back.dwg"), "old");
+    EXPECT_EQ(ResultOk, dvl_DownloadFile(Local(L"back.dwg").generic_wstring().c_str(), L"项目/图.dwg", 0, 0))
+        << "with slashes";
+    EXPECT_EQ(bytes, ReadBytes(Local(L"back.dwg")));
 
     EXPECT_EQ(ResultFileError, Download(L"no such folder\\a.dwg", L"项目/图.dwg"));
     fs::create_directory(Local(L"folder.dwg"));
@@ -93,9 +97,12 @@ TEST_F(Durvell, Transfer_ReplacesWholeFilesAndFailureKeepsWhatWasThere) {
     EXPECT_EQ(3, std::distance(fs::directory_iterator(Local(L"")), {})) << "nothing half written is left";
 }
 
-TEST_F(Durvell, Query_BadFilterOrObjectsGiveNoFile) {
+TEST_F(Durvell, Query_FailureGivesNoFile) {
     fs::create_directory(Local(L""));
     WriteBytes(m_folder / L"objects" / L"USER.xml", "<root><objs/></root>");
+    fs::create_directory(Local(L"USER.Xml"));
+    EXPECT_EQ(ResultFileError, Query(NameFilter(L"wang")));
+    fs::remove(Local(L"USER.Xml"));
     std::wstring otherComparison = NameFilter(L"wang"), otherLogic = otherComparison;
     otherComparison.replace(otherComparison.find(L"\"=\""), 3, L"\"like\"");
     otherLogic.replace(otherLogic.find(L"\"and\""), 5, L"\"or\"");
@@ -106,7 +113,7 @@ TEST_F(Durvell, Query_BadFilterOrObjectsGiveNoFile) {
     EXPECT_EQ(ResultRefusedName, Query(NameFilter(L"wang"), L"..\\USER"));
     WriteBytes(m_folder / L"objects" / L"USER.xml", "<root><objs>");
     EXPECT_EQ(ResultBadObjectFile, Query(NameFilter(L"wang")));
-    EXPECT_FALSE(fs::exists(Local(L"USER.Xml")));
+    EXPECT_TRUE(fs::is_empty(Local(L""))) << "not even a part of one";
 }
 
 } // namespace
