@@ -7,6 +7,14 @@
 using varnoke::Guarded;
 using varnoke::HasText;
 
+namespace {
+
+bool IsComplete(IDispatch* document, const wchar_t* text) {
+    return document != nullptr && HasText(text);
+}
+
+} // namespace
+
 CSignOpt::CSignOpt() = default;
 
 CSignOpt::~CSignOpt() = default;
@@ -83,26 +91,26 @@ long CSignOpt::DeleteSignForBackSign(IDispatch* document, SSignInfo* info) {
     });
 }
 
-long CSignOpt::CallWithText(IDispatch* document, const wchar_t* text, const wchar_t* method) {
-    return Guarded(0L, [&]() -> long {
-        return document != nullptr && HasText(text) ? Call(m_config.GetDynDisp(method), {text}) : 0;
+long CSignOpt::DeleteAllSignForBackSign(IDispatch* document, wchar_t* text) {
+    return Guarded(0L, [&] {
+        return IsComplete(document, text) ? Call(m_config.GetDynDisp(L"DeleteAllSign"), {text}) : 0L;
     });
 }
 
-long CSignOpt::DeleteAllSignForBackSign(IDispatch* document, wchar_t* text) {
-    return CallWithText(document, text, L"DeleteAllSign");
-}
-
 long CSignOpt::SignatureValidateForBackSign(IDispatch* document, wchar_t* text) {
-    return CallWithText(document, text, L"SignatureValidate");
+    return Guarded(0L, [&] {
+        return IsComplete(document, text) ? Call(m_config.GetDynDisp(L"SignatureValidate"), {text}) : 0L;
+    });
 }
 
 long CSignOpt::ClearInvalidSignForBackSign(IDispatch* document, wchar_t* text) {
-    return CallWithText(document, text, L"SignatureInvalidDelete");
+    return Guarded(0L, [&] {
+        return IsComplete(document, text) ? Call(m_config.GetDynDisp(L"SignatureInvalidDelete"), {text}) : 0L;
+    });
 }
 
 long CSignOpt::ClearInvalidSign(IDispatch* document, wchar_t* text) {
-    return Guarded(0L, [&] { return document != nullptr && HasText(text) ? 1L : 0L; });
+    return Guarded(0L, [&] { return IsComplete(document, text) ? 1L : 0L; });
 }
 
 long CSignOpt::CancelSign(IDispatch* document, wchar_t* first, wchar_t* second, wchar_t* third) {
@@ -119,7 +127,7 @@ long CSignOpt::CancelSign(IDispatch* document, wchar_t* first, wchar_t* second, 
 }
 
 long CSignOpt::ExistSignature(IDispatch* document, wchar_t* first, wchar_t* /*second*/) {
-    return Guarded(0L, [&] { return document != nullptr && HasText(first) ? 1L : 0L; });
+    return Guarded(0L, [&] { return IsComplete(document, first) ? 1L : 0L; });
 }
 
 long CSignOpt::HasInvalidSign(IDispatch* document, long* invalid) {

@@ -68,9 +68,6 @@ public:
     long SetOption();
 
 private:
-    /// Calls a method that takes one text, by its configured name; 0 without a document or a text.
-    long CallWithText(IDispatch* document, const wchar_t* text, const wchar_t* method);
-
     CINIConfig m_config;
     CWnd* m_pParentWnd = nullptr; // weak
     CString m_strPLMUser;
