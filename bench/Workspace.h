@@ -3,23 +3,20 @@
 
 #include <string>
 
+#include "host/TemporaryFolder.h"
+
 namespace bench {
 
-/// Deletes itself with everything that the measures leave in it.
+/// Goes away with everything that the measures leave in it.
 class Workspace {
 public:
-    Workspace();
-    ~Workspace();
-    Workspace(const Workspace&) = delete;
-    Workspace& operator=(const Workspace&) = delete;
-
     /// Full path of a name in the folder; the folder's own for an empty one.
     std::wstring Path(const std::wstring& name = std::wstring()) const;
     /// Creates a subfolder, named by the count, with files "drawing<number>.dwg", and gives its full path.
     std::wstring CreateDrawings(int count) const;
 
 private:
-    std::wstring m_folder;
+    host::CTemporaryFolder m_folder;
 };
 
 } // namespace bench

@@ -5,7 +5,7 @@
 
 #include "bench/BareParser.h"
 #include "bench/Measures.h"
-#include "module/Owned.h"
+#include "host/Owned.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -81,7 +81,7 @@ int wmain(int argc, wchar_t** argv) {
     {
         const Workspace workspace;
         // Its folder is where the model configuration lies.
-        const varnoke::LibraryHandle services(::LoadLibraryW(L"QORLocal.dll"));
+        const host::LibraryHandle services(::LoadLibraryW(L"QORLocal.dll"));
         CPLMInteract interact;
         Require(interact.Initialize(nullptr) == 1, "loading the model configuration");
         kept = ReportAll(Comparison(workspace, interact, rounds));

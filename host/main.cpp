@@ -5,9 +5,9 @@
 #include "host/Command.h"
 #include "host/CommandTable.h"
 #include "host/Console.h"
+#include "host/Owned.h"
 #include "host/Paths.h"
 #include "host/Texts.h"
-#include "module/Owned.h"
 
 namespace {
 
@@ -32,9 +32,8 @@ private:
 
 /// The product's local services, whose folder holds the model configuration. Without them the library looks
 /// beside this program.
-varnoke::LibraryHandle LoadLocalServices() {
-    return varnoke::LibraryHandle(
-        ::LoadLibraryW(host::JoinPath(host::ModuleFolder(nullptr), L"QORLocal.dll")));
+host::LibraryHandle LoadLocalServices() {
+    return host::LibraryHandle(::LoadLibraryW(host::JoinPath(host::ModuleFolder(nullptr), L"QORLocal.dll")));
 }
 
 } // namespace
@@ -45,7 +44,7 @@ int wmain(int argc, wchar_t** argv) {
         !com.IsReady()) {
         return host::exitFailed;
     }
-    const varnoke::LibraryHandle localServices = LoadLocalServices();
+    const host::LibraryHandle localServices = LoadLocalServices();
     try {
         return host::RunCommand(std::vector<CString>(argv + 1, argv + argc));
     } catch (CException* exception) {
