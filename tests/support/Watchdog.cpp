@@ -11,7 +11,7 @@ namespace {
 
 std::chrono::seconds Limit() {
     const char* text = std::getenv("VARNOKE_TEST_SECONDS");
-    return std::chrono::seconds(text ? std::atoi(text) : 60);
+    return std::chrono::seconds(text ? std::atoi(text) : 180);
 }
 
 } // namespace

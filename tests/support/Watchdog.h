@@ -9,7 +9,7 @@
 namespace tests {
 
 // A modal dialog that nobody answers would otherwise hang the whole run.
-// Exit code of a run that was ended: 86. Limit: 60 s a test, or VARNOKE_TEST_SECONDS.
+// Exit code of a run that was ended: 86. Limit: 180 s a test, or VARNOKE_TEST_SECONDS.
 class Watchdog : public testing::EmptyTestEventListener {
 public:
     Watchdog();
