@@ -1,4 +1,4 @@
-// logic_error, runtime_error and what derives from them; their texts and the functions that throw them.
+// logic_error and what derives from it; their texts and the functions that throw them.
 #include <atomic>
 #include <cstddef>
 #include <cstring>
@@ -35,27 +35,12 @@ struct SharedText {
 
 } // namespace
 
-__cow_string::__cow_string() : __cow_string("", 0) {}
-__cow_string::__cow_string(const string& text) : __cow_string(text.data(), text.size()) {}
 __cow_string::__cow_string(const char* text, size_t length) : _M_p(SharedText::Make(text, length)) {}
 __cow_string::__cow_string(const __cow_string& other) noexcept : _M_p(SharedText::AddOwner(other._M_p)) {}
-__cow_string::__cow_string(__cow_string&& other) noexcept : _M_p(SharedText::AddOwner(other._M_p)) {}
 __cow_string::~__cow_string() {
     SharedText::Release(_M_p);
 }
 
-__cow_string& __cow_string::operator=(const __cow_string& other) noexcept {
-    const char* text = SharedText::AddOwner(other._M_p);
-    SharedText::Release(_M_p);
-    _M_p = text;
-    return *this;
-}
-
-__cow_string& __cow_string::operator=(__cow_string&& other) noexcept {
-    return *this = static_cast<const __cow_string&>(other);
-}
-
-logic_error::logic_error(const string& text) : _M_msg(text) {}
 logic_error::logic_error(const char* text) : _M_msg(text, strlen(text)) {}
 logic_error::logic_error(const logic_error&) noexcept = default;
 logic_error::~logic_error() noexcept {}
@@ -63,16 +48,6 @@ const char* logic_error::what() const noexcept {
     return _M_msg._M_p;
 }
 
-runtime_error::runtime_error(const string& text) : _M_msg(text) {}
-runtime_error::runtime_error(const char* text) : _M_msg(text, strlen(text)) {}
-runtime_error::runtime_error(const runtime_error&) noexcept = default;
-runtime_error::~runtime_error() noexcept {}
-const char* runtime_error::what() const noexcept {
-    return _M_msg._M_p;
-}
-
-invalid_argument::invalid_argument(const char* text) : logic_error(text) {}
-invalid_argument::~invalid_argument() noexcept {}
 length_error::length_error(const char* text) : logic_error(text) {}
 length_error::~length_error() noexcept {}
 out_of_range::out_of_range(const char* text) : logic_error(text) {}
@@ -82,16 +57,8 @@ void __throw_logic_error(const char* text) {
     throw logic_error(text);
 }
 
-void __throw_invalid_argument(const char* text) {
-    throw invalid_argument(text);
-}
-
 void __throw_length_error(const char* text) {
     throw length_error(text);
-}
-
-void __throw_out_of_range(const char* text) {
-    throw out_of_range(text);
 }
 
 // The arguments only name positions and sizes; the pattern says enough.

@@ -21,8 +21,6 @@ struct CRuntimeClass {
     CRuntimeClass*(__stdcall* m_pfnGetBaseClass)();
     CRuntimeClass* m_pNextClass;
     const void* m_pClassInit;
-
-    BOOL IsDerivedFrom(const CRuntimeClass* pBaseClass) const;
 };
 
 /// Base of the framework's classes. It is never copied; the order of the virtual functions is fixed.
@@ -34,7 +32,6 @@ public:
     virtual void AssertValid() const;
     virtual void Dump(CDumpContext& dc) const;
 
-    BOOL IsKindOf(const CRuntimeClass* pClass) const;
     static const CRuntimeClass classCObject;
     static CRuntimeClass* __stdcall GetThisClass();
 
@@ -93,36 +90,15 @@ public:
     using CException::CException;
 };
 
-/// Ends an operation that the user has already been told about.
-class CUserException : public CException {
-    DECLARE_DYNAMIC(CUserException)
-public:
-    using CException::CException;
-};
-
-/// What CFile::GetStatus reports. Times are whole seconds.
+/// What CFile::GetStatus reports.
 struct CFileStatus {
-    CTime m_ctime; // creation
     CTime m_mtime; // last modification
-    CTime m_atime; // last access
-    ULONGLONG m_size;
-    DWORD m_attribute; // CFile::Attribute bits
-    TCHAR m_szFullName[_MAX_PATH];
 };
 
 class CFile : public CObject {
     DECLARE_DYNAMIC(CFile)
 public:
-    enum Attribute {
-        normal = 0x00,
-        readOnly = 0x01,
-        hidden = 0x02,
-        system = 0x04,
-        volume = 0x08,
-        directory = 0x10,
-        archive = 0x20
-    };
-
-    /// FALSE when the file does not exist, cannot be asked, or has a path too long for m_szFullName.
+    /// FALSE when the file does not exist, cannot be asked, or has a full path of _MAX_PATH characters or
+    /// more.
     static BOOL __stdcall GetStatus(LPCTSTR lpszFileName, CFileStatus& rStatus);
 };

@@ -33,7 +33,4 @@ void AFX_CDECL AfxEnableControlContainer(COccManager* pOccManager = nullptr);
 
 // Argument types of InvokeHelper: one byte per argument, joined by string concatenation.
 #define VTS_I4 "\x03"
-#define VTS_R8 "\x05"
 #define VTS_BSTR "\x08" // LPCTSTR
-#define VTS_BOOL "\x0B" // BOOL
-#define VTS_NONE nullptr

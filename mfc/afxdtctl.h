@@ -8,9 +8,5 @@ class CDateTimeCtrl : public CWnd {
     DECLARE_DYNAMIC(CDateTimeCtrl)
 public:
     // GDT_VALID, or GDT_NONE when the picker shows no date; the time is untouched then.
-    DWORD GetTime(CTime& timeDest) const;
     DWORD GetTime(LPSYSTEMTIME pTimeDest) const;
-    // A null time clears a picker that allows it.
-    BOOL SetTime(const CTime* pTimeNew);
-    BOOL SetTime(LPSYSTEMTIME pTimeNew = nullptr);
 };

@@ -20,23 +20,15 @@ public:
     ~CList() override { RemoveAll(); }
 
     INT_PTR GetCount() const { return m_nCount; }
-    INT_PTR GetSize() const { return m_nCount; }
     BOOL IsEmpty() const { return m_nCount == 0; }
 
     TYPE& GetHead() { return NodeAt(GetHeadPosition())->data; }
-    const TYPE& GetHead() const { return NodeAt(GetHeadPosition())->data; }
     TYPE& GetTail() { return NodeAt(GetTailPosition())->data; }
-    const TYPE& GetTail() const { return NodeAt(GetTailPosition())->data; }
 
-    /// Each throws when the list is empty.
+    /// Throws when the list is empty.
     TYPE RemoveHead();
-    TYPE RemoveTail();
 
-    POSITION AddHead(ARG_TYPE newElement) { return ToPosition(NewNode(nullptr, m_pNodeHead, newElement)); }
-    POSITION AddTail(ARG_TYPE newElement) { return ToPosition(NewNode(m_pNodeTail, nullptr, newElement)); }
-    /// Copies the elements of another list, in order.
-    void AddHead(CList* pNewList);
-    void AddTail(CList* pNewList);
+    POSITION AddTail(ARG_TYPE newElement);
     void RemoveAll();
 
     POSITION GetHeadPosition() const { return ToPosition(m_pNodeHead); }
@@ -45,21 +37,8 @@ public:
     TYPE& GetNext(POSITION& rPosition);
     const TYPE& GetNext(POSITION& rPosition) const;
     TYPE& GetPrev(POSITION& rPosition);
-    const TYPE& GetPrev(POSITION& rPosition) const;
 
-    TYPE& GetAt(POSITION position) { return NodeAt(position)->data; }
-    const TYPE& GetAt(POSITION position) const { return NodeAt(position)->data; }
-    void SetAt(POSITION position, ARG_TYPE newElement) { NodeAt(position)->data = newElement; }
-    void RemoveAt(POSITION position);
-
-    /// At a null position: at the head (InsertBefore) or the tail (InsertAfter).
-    POSITION InsertBefore(POSITION position, ARG_TYPE newElement);
-    POSITION InsertAfter(POSITION position, ARG_TYPE newElement);
-
-    /// The first equal element behind startAfter (null: in the whole list), or null.
-    POSITION Find(ARG_TYPE searchValue, POSITION startAfter = nullptr) const;
-    /// Null when the index is out of range.
-    POSITION FindIndex(INT_PTR nIndex) const;
+    void RemoveAt(POSITION position) { FreeNode(NodeAt(position)); }
 
 protected:
     static POSITION ToPosition(CNode* pNode) { return reinterpret_cast<POSITION>(pNode); }
@@ -67,7 +46,6 @@ protected:
         ENSURE(position != nullptr);
         return reinterpret_cast<CNode*>(position);
     }
-    CNode* NewNode(CNode* pPrev, CNode* pNext, ARG_TYPE newElement);
     void FreeNode(CNode* pNode);
     void AddFreeBlock();
 

@@ -11,8 +11,7 @@ void CList<TYPE, ARG_TYPE>::AddFreeBlock() {
 }
 
 template <class TYPE, class ARG_TYPE>
-typename CList<TYPE, ARG_TYPE>::CNode* CList<TYPE, ARG_TYPE>::NewNode(CNode* pPrev, CNode* pNext,
-                                                                      ARG_TYPE newElement) {
+POSITION CList<TYPE, ARG_TYPE>::AddTail(ARG_TYPE newElement) {
     if (m_pNodeFree == nullptr) AddFreeBlock();
     CNode* pNode = m_pNodeFree;
     // Should copying the element throw, the node is still on the free chain and the list unchanged.
@@ -20,12 +19,12 @@ typename CList<TYPE, ARG_TYPE>::CNode* CList<TYPE, ARG_TYPE>::NewNode(CNode* pPr
     ::new (static_cast<void*>(&pNode->data)) TYPE(newElement);
     m_pNodeFree = pNextFree;
 
-    pNode->pPrev = pPrev;
-    pNode->pNext = pNext;
-    (pPrev != nullptr ? pPrev->pNext : m_pNodeHead) = pNode;
-    (pNext != nullptr ? pNext->pPrev : m_pNodeTail) = pNode;
+    pNode->pPrev = m_pNodeTail;
+    pNode->pNext = nullptr;
+    (m_pNodeTail != nullptr ? m_pNodeTail->pNext : m_pNodeHead) = pNode;
+    m_pNodeTail = pNode;
     ++m_nCount;
-    return pNode;
+    return ToPosition(pNode);
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -57,30 +56,6 @@ TYPE CList<TYPE, ARG_TYPE>::RemoveHead() {
 }
 
 template <class TYPE, class ARG_TYPE>
-TYPE CList<TYPE, ARG_TYPE>::RemoveTail() {
-    TYPE element = GetTail();
-    FreeNode(m_pNodeTail);
-    return element;
-}
-
-template <class TYPE, class ARG_TYPE>
-void CList<TYPE, ARG_TYPE>::AddHead(CList* pNewList) {
-    ENSURE(pNewList != nullptr);
-    // The counts bound the loops, so that a list can also be added to itself.
-    POSITION position = pNewList->GetTailPosition();
-    for (INT_PTR n = pNewList->GetCount(); n > 0; --n)
-        AddHead(pNewList->GetPrev(position));
-}
-
-template <class TYPE, class ARG_TYPE>
-void CList<TYPE, ARG_TYPE>::AddTail(CList* pNewList) {
-    ENSURE(pNewList != nullptr);
-    POSITION position = pNewList->GetHeadPosition();
-    for (INT_PTR n = pNewList->GetCount(); n > 0; --n)
-        AddTail(pNewList->GetNext(position));
-}
-
-template <class TYPE, class ARG_TYPE>
 TYPE& CList<TYPE, ARG_TYPE>::GetNext(POSITION& rPosition) {
     CNode* pNode = NodeAt(rPosition);
     rPosition = ToPosition(pNode->pNext);
@@ -97,45 +72,4 @@ TYPE& CList<TYPE, ARG_TYPE>::GetPrev(POSITION& rPosition) {
     CNode* pNode = NodeAt(rPosition);
     rPosition = ToPosition(pNode->pPrev);
     return pNode->data;
-}
-
-template <class TYPE, class ARG_TYPE>
-const TYPE& CList<TYPE, ARG_TYPE>::GetPrev(POSITION& rPosition) const {
-    return const_cast<CList*>(this)->GetPrev(rPosition);
-}
-
-template <class TYPE, class ARG_TYPE>
-void CList<TYPE, ARG_TYPE>::RemoveAt(POSITION position) {
-    FreeNode(NodeAt(position));
-}
-
-template <class TYPE, class ARG_TYPE>
-POSITION CList<TYPE, ARG_TYPE>::InsertBefore(POSITION position, ARG_TYPE newElement) {
-    if (position == nullptr) return AddHead(newElement);
-    CNode* pNode = NodeAt(position);
-    return ToPosition(NewNode(pNode->pPrev, pNode, newElement));
-}
-
-template <class TYPE, class ARG_TYPE>
-POSITION CList<TYPE, ARG_TYPE>::InsertAfter(POSITION position, ARG_TYPE newElement) {
-    if (position == nullptr) return AddTail(newElement);
-    CNode* pNode = NodeAt(position);
-    return ToPosition(NewNode(pNode, pNode->pNext, newElement));
-}
-
-template <class TYPE, class ARG_TYPE>
-POSITION CList<TYPE, ARG_TYPE>::Find(ARG_TYPE searchValue, POSITION startAfter) const {
-    CNode* pNode = startAfter != nullptr ? NodeAt(startAfter)->pNext : m_pNodeHead;
-    while (pNode != nullptr && !(pNode->data == searchValue))
-        pNode = pNode->pNext;
-    return ToPosition(pNode);
-}
-
-template <class TYPE, class ARG_TYPE>
-POSITION CList<TYPE, ARG_TYPE>::FindIndex(INT_PTR nIndex) const {
-    if (nIndex < 0 || nIndex >= m_nCount) return nullptr;
-    CNode* pNode = m_pNodeHead;
-    while (nIndex-- > 0)
-        pNode = pNode->pNext;
-    return ToPosition(pNode);
 }

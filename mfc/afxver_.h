@@ -8,9 +8,6 @@
 #include <stddef.h>
 #include <new>
 
-// The platform headers turn this into a call of GetTickCount, which would hide CTime's member.
-#undef GetCurrentTime
-
 #define AFXAPI __stdcall
 #define AFX_CDECL __cdecl
 
@@ -19,4 +16,3 @@
 
 [[noreturn]] void AFXAPI AfxThrowMemoryException();
 [[noreturn]] void AFXAPI AfxThrowInvalidArgException();
-[[noreturn]] void AFXAPI AfxThrowUserException();

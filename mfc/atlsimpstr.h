@@ -35,8 +35,6 @@ struct CStringData {
     void Release() noexcept {
         if (InterlockedDecrement(&nRefs) <= 0) pStringMgr->Free(this);
     }
-    void Lock() noexcept { nRefs = -1; }
-    void Unlock() noexcept { nRefs = 1; }
 };
 
 /// String of BaseType with value semantics. Copies share one buffer until one of them is written to.
@@ -57,7 +55,6 @@ public:
     /// Shares the buffer only when both strings have the same manager; otherwise the characters are copied.
     CSimpleStringT& operator=(const CSimpleStringT& strSrc);
     CSimpleStringT& operator=(CSimpleStringT&& strSrc);
-    CSimpleStringT& operator=(PCXSTR pszSrc);
 
     operator PCXSTR() const noexcept { return m_pszData; }
     PCXSTR GetString() const noexcept { return m_pszData; }
@@ -67,8 +64,7 @@ public:
     IAtlStringMgr* GetManager() const noexcept { return GetData()->pStringMgr->Clone(); }
 
     /// Valid from 0 to GetLength() (the terminator); other positions throw.
-    XCHAR GetAt(int iChar) const;
-    XCHAR operator[](int iChar) const { return GetAt(iChar); }
+    XCHAR operator[](int iChar) const;
     void SetAt(int iChar, XCHAR ch);
 
     void Empty() noexcept;
@@ -87,10 +83,6 @@ public:
     /// Sets the length; -1 takes it from the terminator.
     void ReleaseBuffer(int nNewLength = -1);
     void ReleaseBufferSetLength(int nNewLength) { ReleaseBuffer(nNewLength < 0 ? 0 : nNewLength); }
-
-    /// A locked buffer is never shared with copies made from now on.
-    PXSTR LockBuffer();
-    void UnlockBuffer() noexcept;
 
     /// 0 for null; throws when the length does not fit.
     static int __cdecl StringLength(PCXSTR psz);

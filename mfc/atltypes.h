@@ -5,23 +5,19 @@
 
 class CPoint : public tagPOINT {
 public:
-    CPoint() noexcept : tagPOINT{0, 0} {}
     CPoint(int initX, int initY) noexcept : tagPOINT{initX, initY} {}
 
     BOOL operator==(POINT point) const noexcept { return x == point.x && y == point.y; }
-    BOOL operator!=(POINT point) const noexcept { return !(*this == point); }
 };
 
 class CRect : public tagRECT {
 public:
     CRect() noexcept : tagRECT{0, 0, 0, 0} {}
-    CRect(int l, int t, int r, int b) noexcept : tagRECT{l, t, r, b} {}
     CRect(const RECT& srcRect) noexcept : tagRECT(srcRect) {}
 
     int Width() const noexcept { return right - left; }
     int Height() const noexcept { return bottom - top; }
     CPoint TopLeft() const noexcept { return CPoint(left, top); }
-    CPoint CenterPoint() const noexcept { return CPoint((left + right) / 2, (top + bottom) / 2); }
     BOOL IsRectEmpty() const noexcept { return ::IsRectEmpty(this); }
     void DeflateRect(int x, int y) noexcept { ::InflateRect(this, -x, -y); }
 

@@ -118,17 +118,6 @@ int CStringT<B, T>::Replace(PCXSTR pszOld, PCXSTR pszNew) {
 }
 
 template <typename B, typename T>
-int CStringT<B, T>::Remove(XCHAR chRemove) {
-    const int nOldLength = GetLength();
-    PXSTR pszBuffer = GetBuffer();
-    int nKept = 0;
-    for (int i = 0; i < nOldLength; ++i)
-        if (pszBuffer[i] != chRemove) pszBuffer[nKept++] = pszBuffer[i];
-    this->ReleaseBufferSetLength(nKept);
-    return nOldLength - nKept;
-}
-
-template <typename B, typename T>
 int CStringT<B, T>::Delete(int iIndex, int nCount) {
     if (iIndex < 0) iIndex = 0;
     if (nCount <= 0 || iIndex >= GetLength()) return GetLength();
@@ -141,66 +130,26 @@ int CStringT<B, T>::Delete(int iIndex, int nCount) {
 }
 
 template <typename B, typename T>
-template <typename Predicate>
-CStringT<B, T>& CStringT<B, T>::TrimLeftIf(Predicate isTarget) {
+CStringT<B, T>& CStringT<B, T>::TrimLeft() {
     int nSkip = 0;
-    while (nSkip < GetLength() && isTarget(GetString()[nSkip]))
+    while (nSkip < GetLength() && iswspace(GetString()[nSkip]))
         ++nSkip;
     if (nSkip > 0) Delete(0, nSkip);
     return *this;
 }
 
 template <typename B, typename T>
-template <typename Predicate>
-CStringT<B, T>& CStringT<B, T>::TrimRightIf(Predicate isTarget) {
+CStringT<B, T>& CStringT<B, T>::TrimRight() {
     int nKept = GetLength();
-    while (nKept > 0 && isTarget(GetString()[nKept - 1]))
+    while (nKept > 0 && iswspace(GetString()[nKept - 1]))
         --nKept;
     if (nKept < GetLength()) this->Truncate(nKept);
     return *this;
 }
 
 template <typename B, typename T>
-CStringT<B, T>& CStringT<B, T>::TrimLeft() {
-    return TrimLeftIf([](XCHAR ch) { return iswspace(ch) != 0; });
-}
-
-template <typename B, typename T>
-CStringT<B, T>& CStringT<B, T>::TrimLeft(XCHAR chTarget) {
-    return TrimLeftIf([=](XCHAR ch) { return ch == chTarget; });
-}
-
-template <typename B, typename T>
-CStringT<B, T>& CStringT<B, T>::TrimLeft(PCXSTR pszTargets) {
-    if (pszTargets == nullptr) return *this;
-    return TrimLeftIf([=](XCHAR ch) { return ch != 0 && wcschr(pszTargets, ch) != nullptr; });
-}
-
-template <typename B, typename T>
-CStringT<B, T>& CStringT<B, T>::TrimRight() {
-    return TrimRightIf([](XCHAR ch) { return iswspace(ch) != 0; });
-}
-
-template <typename B, typename T>
-CStringT<B, T>& CStringT<B, T>::TrimRight(XCHAR chTarget) {
-    return TrimRightIf([=](XCHAR ch) { return ch == chTarget; });
-}
-
-template <typename B, typename T>
-CStringT<B, T>& CStringT<B, T>::TrimRight(PCXSTR pszTargets) {
-    if (pszTargets == nullptr) return *this;
-    return TrimRightIf([=](XCHAR ch) { return ch != 0 && wcschr(pszTargets, ch) != nullptr; });
-}
-
-template <typename B, typename T>
 CStringT<B, T>& CStringT<B, T>::MakeUpper() {
     _wcsupr(GetBuffer());
-    return *this;
-}
-
-template <typename B, typename T>
-CStringT<B, T>& CStringT<B, T>::MakeLower() {
-    _wcslwr(GetBuffer());
     return *this;
 }
 
@@ -235,16 +184,6 @@ void CStringT<B, T>::Format(PCXSTR pszFormat, ...) {
 }
 
 template <typename B, typename T>
-void CStringT<B, T>::Format(UINT nFormatID, ...) {
-    CStringT strFormat(GetManager());
-    ENSURE(strFormat.LoadString(nFormatID));
-    va_list args;
-    va_start(args, nFormatID);
-    FormatV(strFormat, args);
-    va_end(args);
-}
-
-template <typename B, typename T>
 void CStringT<B, T>::AppendFormat(PCXSTR pszFormat, ...) {
     va_list args;
     va_start(args, pszFormat);
@@ -260,13 +199,6 @@ BOOL CStringT<B, T>::LoadString(HINSTANCE hInstance, UINT nID) {
     if (nLength <= 0) return FALSE;
     this->SetString(pszResource, nLength);
     return TRUE;
-}
-
-template <typename B, typename T>
-BSTR CStringT<B, T>::AllocSysString() const {
-    BSTR bstrResult = ::SysAllocStringLen(GetString(), GetLength());
-    if (bstrResult == nullptr) AfxThrowMemoryException();
-    return bstrResult;
 }
 
 int ChTraitsCRT<wchar_t>::GetFormattedLength(const wchar_t* pszFormat, va_list args) noexcept {

@@ -1,7 +1,6 @@
 // The string class with searching, cutting, formatting and comparison over the plain string.
 #pragma once
 #include <atlsimpstr.h>
-#include <oleauto.h>
 
 namespace ATL {
 
@@ -36,7 +35,6 @@ public:
     explicit CStringT(IAtlStringMgr* pStringMgr) : CThisSimpleString(pStringMgr) {}
     CStringT(const CStringT&) = default;
     CStringT(CStringT&&) = default;
-    CStringT(const CThisSimpleString& strSrc) : CThisSimpleString(strSrc) {}
     CStringT(PCXSTR pszSrc);
     CStringT(PCXSTR pchSrc, int nLength);
     CStringT(PCXSTR pchSrc, int nLength, IAtlStringMgr* pStringMgr)
@@ -47,7 +45,6 @@ public:
     CStringT& operator=(const CStringT&) = default;
     CStringT& operator=(CStringT&&) = default;
     CStringT& operator=(PCXSTR pszSrc) { return this->SetString(pszSrc), *this; }
-    CStringT& operator=(XCHAR ch) { return this->SetString(&ch, 1), *this; }
     CStringT& operator+=(const CThisSimpleString& str) { return this->Append(str), *this; }
     CStringT& operator+=(PCXSTR pszSrc) { return this->Append(pszSrc), *this; }
     CStringT& operator+=(XCHAR ch) { return this->AppendChar(ch), *this; }
@@ -67,28 +64,19 @@ public:
     CStringT Left(int nCount) const { return Mid(0, nCount); }
     CStringT Right(int nCount) const;
 
-    /// Each returns the number of replacements or removals, Delete the new length.
+    /// Replace returns the number of replacements, Delete the new length.
     int Replace(XCHAR chOld, XCHAR chNew);
     int Replace(PCXSTR pszOld, PCXSTR pszNew);
-    int Remove(XCHAR chRemove);
     int Delete(int iIndex, int nCount = 1);
 
     CStringT& Trim() { return TrimRight().TrimLeft(); }
-    CStringT& Trim(XCHAR chTarget) { return TrimRight(chTarget).TrimLeft(chTarget); }
-    CStringT& Trim(PCXSTR pszTargets) { return TrimRight(pszTargets).TrimLeft(pszTargets); }
     CStringT& TrimLeft();
-    CStringT& TrimLeft(XCHAR chTarget);
-    CStringT& TrimLeft(PCXSTR pszTargets);
     CStringT& TrimRight();
-    CStringT& TrimRight(XCHAR chTarget);
-    CStringT& TrimRight(PCXSTR pszTargets);
 
     CStringT& MakeUpper();
-    CStringT& MakeLower();
 
     /// printf rules with %s for wide text; arguments may point into this string. A bad format throws.
     void AFX_CDECL Format(PCXSTR pszFormat, ...);
-    void AFX_CDECL Format(UINT nFormatID, ...);
     void FormatV(PCXSTR pszFormat, va_list args);
     void AFX_CDECL AppendFormat(PCXSTR pszFormat, ...);
     void AppendFormatV(PCXSTR pszFormat, va_list args);
@@ -97,9 +85,6 @@ public:
     BOOL LoadString(UINT nID) { return LoadString(StringTraits::FindStringResourceInstance(nID), nID); }
     BOOL LoadString(HINSTANCE hInstance, UINT nID);
 
-    /// A copy that the caller frees with SysFreeString.
-    BSTR AllocSysString() const;
-
     // A sum takes the manager of the string that stands first.
     friend CStringT operator+(const CStringT& str1, const CStringT& str2) {
         return Concatenate(str1, str1.GetLength(), str2, str2.GetLength(), str1);
@@ -107,36 +92,18 @@ public:
     friend CStringT operator+(const CStringT& str1, PCXSTR psz2) {
         return Concatenate(str1, str1.GetLength(), psz2, StringLength(psz2), str1);
     }
-    friend CStringT operator+(const CStringT& str1, XCHAR ch2) {
-        return Concatenate(str1, str1.GetLength(), &ch2, 1, str1);
-    }
     friend CStringT operator+(PCXSTR psz1, const CStringT& str2) {
         return Concatenate(psz1, StringLength(psz1), str2, str2.GetLength(), str2);
-    }
-    friend CStringT operator+(XCHAR ch1, const CStringT& str2) {
-        return Concatenate(&ch1, 1, str2, str2.GetLength(), str2);
     }
 
     friend bool operator==(const CStringT& str1, const CStringT& str2) { return str1.Compare(str2) == 0; }
     friend bool operator==(const CStringT& str1, PCXSTR psz2) { return str1.Compare(psz2) == 0; }
-    friend bool operator==(PCXSTR psz1, const CStringT& str2) { return str2.Compare(psz1) == 0; }
     friend bool operator!=(const CStringT& str1, const CStringT& str2) { return str1.Compare(str2) != 0; }
     friend bool operator!=(const CStringT& str1, PCXSTR psz2) { return str1.Compare(psz2) != 0; }
-    friend bool operator!=(PCXSTR psz1, const CStringT& str2) { return str2.Compare(psz1) != 0; }
-    friend bool operator<(const CStringT& str1, const CStringT& str2) { return str1.Compare(str2) < 0; }
-    friend bool operator<(const CStringT& str1, PCXSTR psz2) { return str1.Compare(psz2) < 0; }
-    friend bool operator<(PCXSTR psz1, const CStringT& str2) { return str2.Compare(psz1) > 0; }
-    friend bool operator>(const CStringT& str1, const CStringT& str2) { return str1.Compare(str2) > 0; }
-    friend bool operator>(const CStringT& str1, PCXSTR psz2) { return str1.Compare(psz2) > 0; }
-    friend bool operator>(PCXSTR psz1, const CStringT& str2) { return str2.Compare(psz1) < 0; }
 
 private:
     static CStringT Concatenate(PCXSTR psz1, int nLength1, PCXSTR psz2, int nLength2,
                                 const CStringT& strOwner);
-    template <typename Predicate>
-    CStringT& TrimLeftIf(Predicate isTarget);
-    template <typename Predicate>
-    CStringT& TrimRightIf(Predicate isTarget);
 };
 
 } // namespace ATL

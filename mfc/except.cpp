@@ -17,21 +17,9 @@ void CObject::Serialize(CArchive&) {}
 void CObject::AssertValid() const {}
 void CObject::Dump(CDumpContext&) const {}
 
-BOOL CObject::IsKindOf(const CRuntimeClass* pClass) const {
-    return GetRuntimeClass()->IsDerivedFrom(pClass);
-}
-
-BOOL CRuntimeClass::IsDerivedFrom(const CRuntimeClass* pBaseClass) const {
-    for (const CRuntimeClass* pClass = this; pClass != nullptr;
-         pClass = pClass->m_pfnGetBaseClass != nullptr ? pClass->m_pfnGetBaseClass() : nullptr)
-        if (pClass == pBaseClass) return TRUE;
-    return FALSE;
-}
-
 IMPLEMENT_DYNAMIC(CException, CObject)
 IMPLEMENT_DYNAMIC(CMemoryException, CException)
 IMPLEMENT_DYNAMIC(CInvalidArgException, CException)
-IMPLEMENT_DYNAMIC(CUserException, CException)
 
 void CException::Delete() {
     if (m_bAutoDelete) delete this;
@@ -45,10 +33,5 @@ void AFXAPI AfxThrowMemoryException() {
 
 void AFXAPI AfxThrowInvalidArgException() {
     static CInvalidArgException exception(FALSE);
-    throw &exception;
-}
-
-void AFXAPI AfxThrowUserException() {
-    static CUserException exception(FALSE);
     throw &exception;
 }

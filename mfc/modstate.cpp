@@ -36,7 +36,3 @@ HINSTANCE AFXAPI AfxGetInstanceHandle() {
 HINSTANCE AFXAPI AfxGetResourceHandle() {
     return AfxGetModuleState()->m_hCurrentResourceHandle;
 }
-
-void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource) {
-    AfxGetModuleState()->m_hCurrentResourceHandle = hInstResource;
-}

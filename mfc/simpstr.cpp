@@ -85,13 +85,7 @@ CSimpleStringT<B, M>& CSimpleStringT<B, M>::operator=(CSimpleStringT&& strSrc) {
 }
 
 template <typename B, bool M>
-CSimpleStringT<B, M>& CSimpleStringT<B, M>::operator=(PCXSTR pszSrc) {
-    SetString(pszSrc);
-    return *this;
-}
-
-template <typename B, bool M>
-B CSimpleStringT<B, M>::GetAt(int iChar) const {
+B CSimpleStringT<B, M>::operator[](int iChar) const {
     ENSURE(iChar >= 0 && iChar <= GetLength());
     return m_pszData[iChar];
 }
@@ -200,20 +194,6 @@ void CSimpleStringT<B, M>::ReleaseBuffer(int nNewLength) {
         for (nNewLength = 0; nNewLength < GetAllocLength() && m_pszData[nNewLength] != 0;)
             ++nNewLength;
     SetLength(nNewLength);
-}
-
-template <typename B, bool M>
-B* CSimpleStringT<B, M>::LockBuffer() {
-    if (!GetData()->IsLocked()) {
-        PrepareWrite(GetLength());
-        GetData()->Lock();
-    }
-    return m_pszData;
-}
-
-template <typename B, bool M>
-void CSimpleStringT<B, M>::UnlockBuffer() noexcept {
-    if (GetData()->IsLocked()) GetData()->Unlock();
 }
 
 template <typename B, bool M>

@@ -67,17 +67,6 @@ int CComboBox::SetItemData(int nIndex, DWORD_PTR dwItemData) {
     return static_cast<int>(SendMessage(CB_SETITEMDATA, nIndex, static_cast<LPARAM>(dwItemData)));
 }
 
-void CComboBox::GetLBText(int nIndex, CString& rString) const {
-    const int nLength = GetLBTextLen(nIndex);
-    if (nLength == CB_ERR) AfxThrowInvalidArgException();
-    SendMessage(CB_GETLBTEXT, nIndex, reinterpret_cast<LPARAM>(rString.GetBuffer(nLength)));
-    rString.ReleaseBuffer();
-}
-
-int CComboBox::GetLBTextLen(int nIndex) const {
-    return static_cast<int>(SendMessage(CB_GETLBTEXTLEN, nIndex));
-}
-
 int CComboBox::SetItemHeight(int nIndex, UINT cyItemHeight) {
     return static_cast<int>(SendMessage(CB_SETITEMHEIGHT, nIndex, cyItemHeight));
 }

@@ -35,8 +35,6 @@ public:
     int FindStringExact(int nIndexStart, LPCTSTR lpszFind) const;
     DWORD_PTR GetItemData(int nIndex) const; // CB_ERR for a bad index
     int SetItemData(int nIndex, DWORD_PTR dwItemData);
-    void GetLBText(int nIndex, CString& rString) const; // throws CInvalidArgException for a bad index
-    int GetLBTextLen(int nIndex) const;
     int SetItemHeight(int nIndex, UINT cyItemHeight);
 
     // For owner-drawn combo boxes; reached through the parent window.

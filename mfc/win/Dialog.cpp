@@ -48,9 +48,10 @@ CDialog::~CDialog() {
     if (m_hWnd != nullptr) CWnd::DestroyWindow();
 }
 
-// The owner as the system wants it: a top-level window; without a parent, what the user works in.
+// The owner as the system wants it: a top-level window; without a parent, the thread's window that the user
+// works in.
 HWND CDialog::FindOwner(HWND hWndParent) {
-    HWND hWnd = hWndParent != nullptr ? hWndParent : AfxGetMainWnd()->GetSafeHwnd();
+    HWND hWnd = hWndParent != nullptr ? hWndParent : ::GetActiveWindow();
     while (hWnd != nullptr && (::GetWindowLongPtr(hWnd, GWL_STYLE) & WS_CHILD))
         hWnd = ::GetParent(hWnd);
     return hWndParent == nullptr && hWnd != nullptr ? ::GetLastActivePopup(hWnd) : hWnd;

@@ -38,11 +38,6 @@ private:
 
 } // namespace
 
-void LendingDelete::operator()(CWnd* pWnd) const {
-    pWnd->m_hWnd = nullptr;
-    delete pWnd;
-}
-
 CThreadWindows* CThreadWindows::Find() {
     const CKeepLastError keep;
     return Slot().Get();
@@ -59,9 +54,7 @@ CThreadWindows& CThreadWindows::Get() {
 
 void CThreadWindows::DropIfUnused() {
     const CThreadWindows* p = Find();
-    if (p != nullptr && p->m_windows.empty() && p->m_temporaryWindows.empty() && p->m_pCreating == nullptr &&
-        p->m_nMessageDepth == 0 && p->m_nLoopDepth == 0)
-        Drop();
+    if (p != nullptr && p->m_windows.empty() && p->m_pCreating == nullptr && p->m_nMessageDepth == 0) Drop();
 }
 
 void CThreadWindows::Drop() {
@@ -90,19 +83,4 @@ CMessageInProgress::~CMessageInProgress() {
     m_windows.m_message = m_previous;
     --m_windows.m_nMessageDepth;
     CThreadWindows::DropIfUnused();
-}
-
-CMessageLoop::CMessageLoop() : m_windows(CThreadWindows::Get()) {
-    ++m_windows.m_nLoopDepth;
-}
-
-CMessageLoop::~CMessageLoop() {
-    --m_windows.m_nLoopDepth;
-    Idle();
-    CThreadWindows::DropIfUnused();
-}
-
-// While a handler further out is suspended, it may still hold temporary objects.
-void CMessageLoop::Idle() {
-    if (m_windows.m_nMessageDepth == 0 && m_windows.m_nLoopDepth <= 1) m_windows.m_temporaryWindows.clear();
 }

@@ -3,13 +3,7 @@
 
 #include <afxwin.h>
 
-#include <memory>
 #include <unordered_map>
-
-// A temporary object lends its window, which must not go with it.
-struct LendingDelete {
-    void operator()(CWnd* pWnd) const;
-};
 
 class CThreadWindows {
 public:
@@ -27,13 +21,9 @@ public:
     CWnd* FindWindow(HWND hWnd) const;
 
     std::unordered_map<HWND, CWnd*> m_windows;
-    std::unordered_map<HWND, std::unique_ptr<CWnd, LendingDelete>> m_temporaryWindows;
-
     CWnd* m_pCreating = nullptr;
     MSG m_message = {}; // the one being handled by a window procedure
     int m_nMessageDepth = 0;
-    int m_nLoopDepth = 0;
-    TCHAR m_szClassName[96] = {};
 };
 
 // The message that a window procedure handles, until the end of the scope.
@@ -47,19 +37,4 @@ public:
 private:
     CThreadWindows& m_windows;
     MSG m_previous;
-};
-
-// A message loop, from construction to destruction.
-class CMessageLoop {
-public:
-    CMessageLoop();
-    ~CMessageLoop();
-    CMessageLoop(const CMessageLoop&) = delete;
-    CMessageLoop& operator=(const CMessageLoop&) = delete;
-
-    // To be called when no message waits.
-    void Idle();
-
-private:
-    CThreadWindows& m_windows;
 };

@@ -1,4 +1,4 @@
-// CWnd: attachment, creation, and the plain window functions.
+// CWnd: attachment, creation and destruction.
 #include "win/ThreadWindows.h"
 
 IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
@@ -9,26 +9,9 @@ CWnd::~CWnd() {
     if (m_hWnd != nullptr) CWnd::DestroyWindow();
 }
 
-CWnd* PASCAL CWnd::FromHandle(HWND hWnd) {
-    if (hWnd == nullptr) return nullptr;
-    CThreadWindows& windows = CThreadWindows::Get();
-    if (CWnd* pWnd = windows.FindWindow(hWnd)) return pWnd;
-    auto& pTemporary = windows.m_temporaryWindows[hWnd];
-    if (pTemporary == nullptr) {
-        pTemporary.reset(new CWnd);
-        pTemporary->m_hWnd = hWnd;
-    }
-    return pTemporary.get();
-}
-
 CWnd* PASCAL CWnd::FromHandlePermanent(HWND hWnd) {
     const CThreadWindows* pWindows = CThreadWindows::Find();
     return pWindows != nullptr ? pWindows->FindWindow(hWnd) : nullptr;
-}
-
-void PASCAL CWnd::DeleteTempMap() {
-    if (CThreadWindows* pWindows = CThreadWindows::Find()) pWindows->m_temporaryWindows.clear();
-    CThreadWindows::DropIfUnused();
 }
 
 BOOL CWnd::Attach(HWND hWndNew) {
@@ -60,25 +43,11 @@ BOOL CWnd::SubclassWindow(HWND hWnd) {
     return TRUE;
 }
 
-BOOL CWnd::SubclassDlgItem(UINT nID, CWnd* pParent) {
-    return SubclassWindow(::GetDlgItem(pParent->m_hWnd, static_cast<int>(nID)));
-}
-
-HWND CWnd::UnsubclassWindow() {
-    if (m_pfnSuper != nullptr) SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_pfnSuper));
-    m_pfnSuper = nullptr;
-    return Detach();
-}
-
 BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, int x,
                     int y, int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam) {
-    // A class of the framework's own takes the object with its first message, others are subclassed after.
-    CThreadWindows::Get().m_pCreating = this;
     const HWND hWnd = ::CreateWindowEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, x, y, nWidth,
                                        nHeight, hWndParent, nIDorHMenu, AfxGetInstanceHandle(), lpParam);
-    const BOOL bWaiting = CThreadWindows::TakeCreated() != nullptr;
-    if (hWnd == nullptr) CThreadWindows::DropIfUnused();
-    return hWnd != nullptr && (!bWaiting || SubclassWindow(hWnd));
+    return SubclassWindow(hWnd);
 }
 
 BOOL CWnd::DestroyWindow() {
@@ -87,22 +56,4 @@ BOOL CWnd::DestroyWindow() {
     // A window that was attached without being subclassed tells nobody of its end.
     Detach();
     return bResult;
-}
-
-LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackground, HICON hIcon) {
-    TCHAR(&szName)[96] = CThreadWindows::Get().m_szClassName;
-    wsprintf(szName, _T("Afx:%p:%x:%p:%p:%p"), AfxGetInstanceHandle(), nClassStyle, hCursor, hbrBackground,
-             hIcon);
-    WNDCLASS wndClass = {};
-    if (!GetClassInfo(AfxGetInstanceHandle(), szName, &wndClass)) {
-        wndClass.style = nClassStyle;
-        wndClass.lpfnWndProc = AfxWndProc;
-        wndClass.hInstance = AfxGetInstanceHandle();
-        wndClass.hIcon = hIcon;
-        wndClass.hCursor = hCursor;
-        wndClass.hbrBackground = hbrBackground;
-        wndClass.lpszClassName = szName;
-        if (!RegisterClass(&wndClass)) AfxThrowResourceException();
-    }
-    return szName;
 }

@@ -7,7 +7,6 @@
 
 class CDataExchange;
 
-#define MLF_NOIDLEMSG 0x0001
 #define MLF_SHOWONIDLE 0x0004
 
 class CWnd : public CCmdTarget {
@@ -21,25 +20,17 @@ public:
     CWnd& operator=(const CWnd&) = delete;
 
     operator HWND() const { return m_hWnd; }
-    BOOL operator==(const CWnd& wnd) const { return wnd.m_hWnd == m_hWnd; }
-    BOOL operator!=(const CWnd& wnd) const { return wnd.m_hWnd != m_hWnd; }
     // May be called through a null pointer, which callers rely on for "no parent window".
     HWND GetSafeHwnd() const { return reinterpret_cast<UINT_PTR>(this) == 0 ? nullptr : m_hWnd; }
 
-    // The object attached to the window by this thread, else a temporary one that lasts until the
-    // outermost modal loop is idle or ends. Null for a null handle.
-    static CWnd* PASCAL FromHandle(HWND hWnd);
-    // The attached object only, else null.
+    // The object attached to the window by this thread, else null.
     static CWnd* PASCAL FromHandlePermanent(HWND hWnd);
-    static void PASCAL DeleteTempMap();
     BOOL Attach(HWND hWndNew);
     HWND Detach();
 
     virtual void PreSubclassWindow();
     // Attach, and route the window's messages through this object; the window's own procedure is the default.
     BOOL SubclassWindow(HWND hWnd);
-    BOOL SubclassDlgItem(UINT nID, CWnd* pParent);
-    HWND UnsubclassWindow();
 
     virtual BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,
                           int x, int y, int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu,
@@ -63,30 +54,18 @@ public:
     BOOL ShowWindow(int nCmdShow);
     BOOL IsWindowVisible() const;
     BOOL EnableWindow(BOOL bEnable = TRUE);
-    BOOL IsWindowEnabled() const;
     void Invalidate(BOOL bErase = TRUE);
     void UpdateWindow();
 
     UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse,
                       void(CALLBACK* lpfnTimer)(HWND, UINT, UINT_PTR, DWORD));
     BOOL KillTimer(UINT_PTR nIDEvent);
-    int MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption = nullptr, UINT nType = MB_OK);
-
-    static CWnd* PASCAL GetFocus();
-    CWnd* SetFocus();
-    CWnd* GetParent() const;
-
-    int GetDlgCtrlID() const;
-    CWnd* GetDlgItem(int nID) const;
-    int GetDlgItemText(int nID, CString& rString) const;
-    void SetDlgItemText(int nID, LPCTSTR lpszString);
 
     // Runs DoDataExchange; FALSE when it failed.
     BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
 
-    // ActiveX control in this window: its unknown (borrowed; null when there is none) and its members by
-    // identifier. Failures throw COleException or COleDispatchException.
-    LPUNKNOWN GetControlUnknown();
+    // Members, by identifier, of the ActiveX control in this window. Failures throw COleException or
+    // COleDispatchException.
     void AFX_CDECL InvokeHelper(DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRet,
                                 const BYTE* pbParamInfo, ...);
     void AFX_CDECL SetProperty(DISPID dwDispID, VARTYPE vtProp, ...);
@@ -110,7 +89,6 @@ protected:
     virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
     virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
-    virtual void PostNcDestroy();
     // Default processing of the message in progress.
     LRESULT Default();
     BOOL ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
@@ -118,7 +96,6 @@ protected:
 
     afx_msg void OnDestroy();
     afx_msg void OnNcDestroy();
-    afx_msg void OnPaint();
     afx_msg void OnTimer(UINT_PTR nIDEvent);
     afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);
     afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct);
@@ -142,7 +119,3 @@ static_assert(offsetof(CWnd, m_hWnd) == 0x40 && sizeof(CWnd) <= 0xE8, "CWnd lies
 #define WF_CONTINUEMODAL 0x0010
 
 LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
-// Registers a window class of this module with such a look unless it is there already. The name is good
-// until the thread's next call. Throws CResourceException.
-LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = nullptr,
-                                   HBRUSH hbrBackground = nullptr, HICON hIcon = nullptr);

@@ -51,10 +51,6 @@ BOOL CWnd::EnableWindow(BOOL bEnable) {
     return ::EnableWindow(m_hWnd, bEnable);
 }
 
-BOOL CWnd::IsWindowEnabled() const {
-    return ::IsWindowEnabled(m_hWnd);
-}
-
 void CWnd::Invalidate(BOOL bErase) {
     ::InvalidateRect(m_hWnd, nullptr, bErase);
 }
@@ -70,40 +66,4 @@ UINT_PTR CWnd::SetTimer(UINT_PTR nIDEvent, UINT nElapse,
 
 BOOL CWnd::KillTimer(UINT_PTR nIDEvent) {
     return ::KillTimer(m_hWnd, nIDEvent);
-}
-
-int CWnd::MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption, UINT nType) {
-    const CWinApp* pApp = AfxGetApp();
-    if (lpszCaption == nullptr && pApp != nullptr) lpszCaption = pApp->m_pszAppName;
-    return ::MessageBox(GetSafeHwnd(), lpszText, lpszCaption, nType);
-}
-
-CWnd* PASCAL CWnd::GetFocus() {
-    return FromHandle(::GetFocus());
-}
-
-CWnd* CWnd::SetFocus() {
-    return FromHandle(::SetFocus(m_hWnd));
-}
-
-CWnd* CWnd::GetParent() const {
-    return FromHandle(::GetParent(m_hWnd));
-}
-
-int CWnd::GetDlgCtrlID() const {
-    return ::GetDlgCtrlID(m_hWnd);
-}
-
-CWnd* CWnd::GetDlgItem(int nID) const {
-    return FromHandle(::GetDlgItem(m_hWnd, nID));
-}
-
-int CWnd::GetDlgItemText(int nID, CString& rString) const {
-    rString.Empty();
-    if (const CWnd* pControl = GetDlgItem(nID)) pControl->GetWindowText(rString);
-    return rString.GetLength();
-}
-
-void CWnd::SetDlgItemText(int nID, LPCTSTR lpszString) {
-    ::SetDlgItemText(m_hWnd, nID, lpszString);
 }

@@ -15,10 +15,6 @@ _variant_t NextArgument(BYTE type, va_list& args) {
     switch (type) {
     case VT_I4:
         return _variant_t(va_arg(args, long));
-    case VT_R8:
-        return _variant_t(va_arg(args, double));
-    case VT_BOOL:
-        return _variant_t(va_arg(args, BOOL) != FALSE);
     case VT_BSTR:
         return _variant_t(va_arg(args, LPCWSTR));
     default:
@@ -54,12 +50,6 @@ void StoreResult(_variant_t& result, VARTYPE vt, void* pvRet) {
     case VT_I4:
         *static_cast<long*>(pvRet) = result.lVal;
         break;
-    case VT_R8:
-        *static_cast<double*>(pvRet) = result.dblVal;
-        break;
-    case VT_BOOL:
-        *static_cast<BOOL*>(pvRet) = result.boolVal != VARIANT_FALSE;
-        break;
     case VT_BSTR:
         *static_cast<CString*>(pvRet) = result.bstrVal;
         break;
@@ -69,12 +59,6 @@ void StoreResult(_variant_t& result, VARTYPE vt, void* pvRet) {
 }
 
 } // namespace
-
-LPUNKNOWN CWnd::GetControlUnknown() {
-    // The host window keeps the control alive.
-    const IUnknownPtr control(OleContainer::GetControl(m_hWnd), false);
-    return control;
-}
 
 void CWnd::InvokeHelperV(DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRet, const BYTE* pbParamInfo,
                          va_list argList) {

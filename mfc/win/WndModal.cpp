@@ -1,5 +1,5 @@
 // CWnd: modal loops, message translation and centring.
-#include "win/ThreadWindows.h"
+#include <afxwin.h>
 
 #include <algorithm>
 
@@ -48,15 +48,13 @@ BOOL CWnd::PreTranslateInput(LPMSG lpMsg) {
 }
 
 int CWnd::RunModalLoop(DWORD dwFlags) {
-    CMessageLoop loop;
     m_nFlags |= WF_MODALLOOP | WF_CONTINUEMODAL;
     if ((dwFlags & MLF_SHOWONIDLE) && !IsWindowVisible()) {
         ShowWindow(SW_SHOWNORMAL);
         UpdateWindow();
     }
     const HWND hWndParent = ::GetParent(m_hWnd);
-    const bool bTellParent =
-        hWndParent != nullptr && !(dwFlags & MLF_NOIDLEMSG) && !(GetStyle() & DS_NOIDLEMSG);
+    const bool bTellParent = hWndParent != nullptr && !(GetStyle() & DS_NOIDLEMSG);
     bool bIdleDone = false;
     while (ContinueModal()) {
         MSG msg;
@@ -65,7 +63,6 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
             if (!PumpMessage()) EndModalLoop(-1);
         } else if (!bIdleDone) {
             bIdleDone = true;
-            loop.Idle();
             if (bTellParent)
                 ::SendMessage(hWndParent, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(m_hWnd));
         } else {
@@ -111,7 +108,7 @@ void FindCenterArea(HWND hWnd, HWND hWndOver, CRect& rectCenter, CRect& rectArea
     }
     // There is nothing to see of a hidden or minimised owner.
     if (hWndOver != nullptr && (!::IsWindowVisible(hWndOver) || ::IsIconic(hWndOver))) hWndOver = nullptr;
-    rectArea = WorkAreaOf(hWndOver != nullptr ? hWndOver : AfxGetMainWnd()->GetSafeHwnd());
+    rectArea = WorkAreaOf(hWndOver != nullptr ? hWndOver : ::GetActiveWindow());
     if (hWndOver != nullptr)
         ::GetWindowRect(hWndOver, rectCenter);
     else

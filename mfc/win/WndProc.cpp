@@ -22,12 +22,6 @@ LRESULT ResultOfFailedHandler(HWND hWnd, UINT nMsg) {
     }
 }
 
-CWnd* FindOrAttachCreated(HWND hWnd) {
-    CWnd* pWnd = CWnd::FromHandlePermanent(hWnd);
-    if (pWnd == nullptr && (pWnd = CThreadWindows::TakeCreated()) != nullptr) pWnd->Attach(hWnd);
-    return pWnd;
-}
-
 bool IsOnTop(HWND hWnd) {
     return ::GetWindowLongPtr(hWnd, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(&AfxWndProc);
 }
@@ -43,7 +37,7 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) 
     AFX_MANAGE_STATE(AfxGetStaticModuleState())
     try {
         const CMessageInProgress progress(hWnd, nMsg, wParam, lParam);
-        CWnd* pWnd = FindOrAttachCreated(hWnd);
+        CWnd* pWnd = CWnd::FromHandlePermanent(hWnd);
         return pWnd != nullptr ? pWnd->WindowProc(nMsg, wParam, lParam)
                                : ::DefWindowProc(hWnd, nMsg, wParam, lParam);
     } catch (CException* e) {
@@ -131,10 +125,6 @@ void CWnd::OnDestroy() {
     Default();
 }
 
-void CWnd::OnPaint() {
-    Default();
-}
-
 void CWnd::OnTimer(UINT_PTR) {
     Default();
 }
@@ -145,7 +135,4 @@ void CWnd::OnNcDestroy() {
     m_pfnSuper = nullptr;
     if (m_nFlags & WF_CONTINUEMODAL) EndModalLoop(-1);
     Detach();
-    PostNcDestroy();
 }
-
-void CWnd::PostNcDestroy() {}

@@ -55,12 +55,12 @@ void Records(CPLMInteract& plm, CString folder) {
     CHECK(TextAt(ListAt(documents.tail->data).head->data, 8) == L"b.dwg");
 
     // This side's nodes, blocks, elements and texts go into the library's lists, which the library frees.
+    files->m_lstObj.AddTail(static_cast<SSignObj*>(nullptr));
     for (int i = 0; i < 25; ++i) {
         auto* added = new SSignObj;
         added->AddTail(new SSignPro{L"名", CString(L'x', 100)});
         files->m_lstObj.AddTail(added);
     }
-    files->m_lstObj.AddHead(static_cast<SSignObj*>(nullptr));
     CHECK(Cmn_ReleaseSignType(files) == 1 && Cmn_ReleaseSignType(steps) == 1);
     CHECK(Cmn_ReleaseLoginInfo(login) == 1 && Cmn_ReleaseLoginInfo(nullptr) == 0);
     auto* info = new SSignInfo;

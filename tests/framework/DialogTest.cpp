@@ -15,6 +15,10 @@ void PressKey(WPARAM key) {
     ::PostMessage(::GetFocus(), WM_KEYDOWN, key, 0);
 }
 
+bool IsEnabled(HostWindow& host) {
+    return ::IsWindowEnabled(*host.Window()) != FALSE;
+}
+
 } // namespace
 
 TEST(Dialog, EndedInInit_IsNeverShown) {
@@ -26,37 +30,42 @@ TEST(Dialog, EndedInInit_IsNeverShown) {
         dialog.m_script = [](CScriptedDialog&) { ADD_FAILURE() << "the dialog ran"; };
         EXPECT_EQ(IDOK, dialog.DoModal());
         EXPECT_FALSE(dialog.m_bWasVisible);
-        EXPECT_TRUE(host.Window()->IsWindowEnabled());
+        EXPECT_TRUE(IsEnabled(host));
         EXPECT_EQ(host.Window()->m_hWnd, ::GetActiveWindow());
     }
 }
 
 TEST(Dialog, Owner_IsDisabledWhileTheDialogRuns) {
     HostWindow host;
-    CWnd child; // a child window as parent stands for its top-level window
+    CWnd child; // stands for its top-level window
     child.Attach(::CreateWindowEx(0, _T("STATIC"), nullptr, WS_CHILD, 0, 0, 9, 9, *host.Window(), nullptr,
                                   nullptr, nullptr));
-    CScriptedDialog dialog(IDD_PLAIN, &child);
-    dialog.m_script = [&](CScriptedDialog& d) {
-        EXPECT_FALSE(host.Window()->IsWindowEnabled());
-        EXPECT_EQ(host.Window()->m_hWnd, ::GetWindow(d, GW_OWNER));
-        CRect rect, owner;
-        d.GetWindowRect(rect);
-        host.Window()->GetWindowRect(owner);
-        EXPECT_NEAR(owner.CenterPoint().x, rect.CenterPoint().x, 1);
-        EXPECT_NEAR(owner.CenterPoint().y, rect.CenterPoint().y, 1);
-        EXPECT_EQ(d.GetDlgItem(IDC_NAME), CWnd::GetFocus());
-        PressKey(VK_ESCAPE);
-    };
-    EXPECT_EQ(IDCANCEL, dialog.DoModal());
-    EXPECT_EQ(nullptr, dialog.m_hWnd);
-    EXPECT_TRUE(dialog.m_bWasVisible);
-    EXPECT_TRUE(host.Window()->IsWindowEnabled());
-    EXPECT_EQ(host.Window()->m_hWnd, ::GetActiveWindow());
+    // Without a parent, the active window is meant.
+    for (CWnd* pParent : {static_cast<CWnd*>(nullptr), &child}) {
+        CScriptedDialog dialog(IDD_PLAIN, pParent);
+        dialog.m_script = [&](CScriptedDialog& d) {
+            EXPECT_FALSE(IsEnabled(host));
+            EXPECT_EQ(host.Window()->m_hWnd, ::GetWindow(d, GW_OWNER));
+            CRect rect, owner;
+            d.GetWindowRect(rect);
+            host.Window()->GetWindowRect(owner);
+            EXPECT_NEAR(owner.left + owner.right, rect.left + rect.right, 2) << "centred";
+            EXPECT_NEAR(owner.top + owner.bottom, rect.top + rect.bottom, 2) << "centred";
+            EXPECT_EQ(::GetDlgItem(d, IDC_NAME), ::GetFocus());
+            PressKey(VK_ESCAPE);
+        };
+        EXPECT_EQ(IDCANCEL, dialog.DoModal());
+        EXPECT_EQ(nullptr, dialog.m_hWnd);
+        EXPECT_TRUE(dialog.m_bWasVisible);
+        EXPECT_TRUE(IsEnabled(host));
+        EXPECT_EQ(host.Window()->m_hWnd, ::GetActiveWindow());
+    }
 
+    CScriptedDialog dialog(IDD_PLAIN, host);
+    dialog.m_script = [](CScriptedDialog&) { PressKey(VK_ESCAPE); };
     host.Window()->EnableWindow(FALSE);
     EXPECT_EQ(IDCANCEL, dialog.DoModal());
-    EXPECT_FALSE(host.Window()->IsWindowEnabled()) << "it was disabled before";
+    EXPECT_FALSE(IsEnabled(host)) << "it was disabled before";
 }
 
 TEST(Dialog, NestedDialog_DisablesOnlyItsOwner) {
@@ -64,15 +73,13 @@ TEST(Dialog, NestedDialog_DisablesOnlyItsOwner) {
     CScriptedDialog outer(IDD_PLAIN, host);
     CScriptedDialog inner(IDD_PLAIN, &outer);
     inner.m_script = [&](CScriptedDialog&) {
-        EXPECT_FALSE(outer.IsWindowEnabled());
+        EXPECT_FALSE(::IsWindowEnabled(outer));
         PressKey(VK_RETURN);
     };
     outer.m_script = [&](CScriptedDialog& d) {
-        CWnd* pName = d.GetDlgItem(IDC_NAME);
         EXPECT_EQ(IDOK, inner.DoModal());
-        EXPECT_EQ(IDC_NAME, pName->GetDlgCtrlID()) << "temporary objects outlast a dialog within a handler";
-        EXPECT_TRUE(d.IsWindowEnabled());
-        EXPECT_FALSE(host.Window()->IsWindowEnabled());
+        EXPECT_TRUE(::IsWindowEnabled(d));
+        EXPECT_FALSE(IsEnabled(host));
         d.EndDialog(6);
     };
     EXPECT_EQ(6, outer.DoModal());
@@ -83,7 +90,7 @@ TEST(Dialog, DestroyedOrQuit_EndsWithoutResult) {
     CScriptedDialog dialog(IDD_PLAIN, host);
     dialog.m_script = [](CScriptedDialog& d) { d.DestroyWindow(); };
     EXPECT_EQ(-1, dialog.DoModal());
-    EXPECT_TRUE(host.Window()->IsWindowEnabled());
+    EXPECT_TRUE(IsEnabled(host));
 
     dialog.m_script = [](CScriptedDialog&) { ::PostQuitMessage(12); };
     EXPECT_EQ(-1, dialog.DoModal());
@@ -94,7 +101,7 @@ TEST(Dialog, DestroyedOrQuit_EndsWithoutResult) {
 
     EXPECT_EQ(-1, CScriptedDialog(999, host).DoModal()) << "no such template";
     EXPECT_EQ(-1, CScriptedDialog(IDD_BROKEN, host).DoModal()) << "a control of no known class";
-    EXPECT_TRUE(host.Window()->IsWindowEnabled());
+    EXPECT_TRUE(IsEnabled(host));
 }
 
 TEST(Dialog, FailingHandlers_LeaveTheDialogRunning) {
@@ -129,7 +136,7 @@ protected:
 TEST(Dialog, DataExchange_MissingControlIsRefused) {
     CExchangeDialog dialog;
     dialog.m_script = [&](CScriptedDialog& d) {
-        EXPECT_EQ(&dialog.m_name, d.GetDlgItem(IDC_NAME));
+        EXPECT_EQ(dialog.m_name.m_hWnd, ::GetDlgItem(d, IDC_NAME));
         dialog.m_nMissing = 4711;
         EXPECT_FALSE(d.UpdateData());
         d.SendMessage(WM_COMMAND, IDOK); // refused

@@ -24,10 +24,10 @@ TEST(RegularDll, StartAndEnd_AreCalledOnceEach) {
         const HMODULE hModule = ::LoadLibraryW(L"regular-dll.dll");
         EXPECT_EQ(*mode == 0, hModule != nullptr) << mode;
         if (hModule != nullptr) {
-            EXPECT_EQ(L"init(regular-dll) ", Notes());
+            EXPECT_EQ(L"init ", Notes());
             ::FreeLibrary(hModule);
         }
-        EXPECT_EQ(L"init(regular-dll) exit ", Notes()) << mode;
+        EXPECT_EQ(L"init exit ", Notes()) << mode;
     }
 }
 
@@ -38,8 +38,8 @@ TEST(ModuleState, ScopesNestAndEndWithExceptions) {
         try {
             AFX_MANAGE_STATE(&inner)
             EXPECT_EQ(AfxGetModuleState(), &inner);
-            AfxThrowUserException();
-        } catch (CUserException* exception) {
+            AfxThrowInvalidArgException();
+        } catch (CException* exception) {
             exception->Delete();
         }
         EXPECT_EQ(AfxGetModuleState(), &outer);

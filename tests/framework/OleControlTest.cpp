@@ -46,22 +46,23 @@ protected:
 
 TEST_F(OleControl, Unregistered_LeavesAnEmptyPlace) {
     Run(IDC_UNKNOWN_CONTROL, [](CWnd& control) {
-        EXPECT_EQ(nullptr, control.GetControlUnknown());
         EXPECT_EQ(OLE_E_BLANK, ThrownStatus([&] { control.SetProperty(FakeName, VT_I4, 1L); }));
-        CWnd* pDialog = control.GetParent();
+        const HWND hDialog = ::GetParent(control);
         CRect place;
         control.GetClientRect(place);
         EXPECT_GT(place.Width(), 50);
-        EXPECT_EQ(control.m_hWnd, ::GetNextDlgTabItem(*pDialog, ::GetDlgItem(*pDialog, IDC_NAME), FALSE))
+        EXPECT_EQ(control.m_hWnd, ::GetNextDlgTabItem(hDialog, ::GetDlgItem(hDialog, IDC_NAME), FALSE))
             << "the tab order is the template's";
-        EXPECT_EQ(nullptr, pDialog->GetControlUnknown()) << "a plain window";
+        CWnd plain;
+        plain.Attach(::GetDlgItem(hDialog, IDC_NAME));
+        EXPECT_EQ(OLE_E_BLANK, ThrownStatus([&] { plain.SetProperty(FakeName, VT_I4, 1L); }));
+        plain.Detach();
     });
 }
 
 TEST_F(OleControl, Failures_AreExceptions) {
     const FakeControlClass registered;
     Run(IDC_FAKE_CONTROL, [](CWnd& control) {
-        ASSERT_NE(nullptr, control.GetControlUnknown());
         const auto call = [&](DISPID member) {
             control.InvokeHelper(member, DISPATCH_METHOD, VT_EMPTY, nullptr, nullptr);
         };
@@ -87,9 +88,9 @@ TEST_F(OleControl, ManyRuns_LeaveNothing) {
     const auto showBoth = [&] {
         CScriptedDialog plain(IDD_PLAIN, host);
         CComboBox combo;
-        plain.m_init = [&](CScriptedDialog& d) { combo.SubclassDlgItem(IDC_COLORS, &d); };
+        plain.m_init = [&](CScriptedDialog& d) { combo.SubclassWindow(::GetDlgItem(d, IDC_COLORS)); };
         plain.m_script = [](CScriptedDialog& d) {
-            const CClientDC dc(d.GetDlgItem(IDC_NAME));
+            const CClientDC dc(&d);
             d.EndDialog(1);
         };
         EXPECT_EQ(1, plain.DoModal());

@@ -12,12 +12,10 @@ void Note(const wchar_t* text) {
 class CRegularDll : public CWinApp {
 public:
     BOOL InitInstance() override {
-        Note(m_hInstance == AfxGetInstanceHandle() && AfxGetApp() == this ? L"init(" : L"lost(");
-        Note(m_pszAppName);
-        Note(L") ");
+        Note(m_hInstance == AfxGetInstanceHandle() && AfxGetApp() == this ? L"init " : L"lost ");
         wchar_t mode[16] = {};
         ::GetEnvironmentVariableW(L"REGULAR_DLL_MODE", mode, _countof(mode));
-        if (wcscmp(mode, L"throw") == 0) AfxThrowUserException();
+        if (wcscmp(mode, L"throw") == 0) AfxThrowMemoryException();
         return wcscmp(mode, L"refuse") != 0;
     }
     int ExitInstance() override {

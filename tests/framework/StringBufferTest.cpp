@@ -107,8 +107,8 @@ TEST(StringBuffer, OutOfMemory_ThrowsAndKeepsTheText) {
 
 TEST(StringBuffer, WrongPositionsAndLengths_Throw) {
     CString text(L"abc");
-    EXPECT_EQ(text.GetAt(3), 0);
-    EXPECT_THROW(text.GetAt(4), CInvalidArgException*);
+    EXPECT_EQ(text[3], 0);
+    EXPECT_THROW(text[4], CInvalidArgException*);
     EXPECT_THROW(text.SetAt(3, L'x'), CInvalidArgException*);
     EXPECT_THROW(text.ReleaseBuffer(1000), CInvalidArgException*);
     // A buffer filled to the last place without a terminator ends there.
