@@ -188,12 +188,9 @@ TEST_F(SignDlg, Confirm_AddsTheSettingsThatAreNotShown) {
         m_settings.Set(section, key, value);
     ASSERT_EQ(1, Sign(1, [](HWND dialog) { Click(dialog, Confirm); }));
     const SSignInfo& i = *m_info;
-    const std::vector<double> numbers = {double(i.m_nLocationStyle), i.m_dLocationXCheck,
-                                         i.m_dLocationYCheck,        double(i.m_nDateLocationStyle),
-                                         i.m_dDateLocationXCheck,    i.m_dDateLocationYCheck,
-                                         i.m_dDateOffsetX,           i.m_dDateOffsetY,
-                                         double(i.m_nSealIndex)};
-    EXPECT_EQ(numbers, (std::vector<double>{2, 3.5, 4.5, 5, 6, 7, 8.5, -9.5, 10}));
+    EXPECT_TRUE(i.m_nLocationStyle == 2 && i.m_dLocationXCheck == 3.5 && i.m_dLocationYCheck == 4.5);
+    EXPECT_TRUE(i.m_nDateLocationStyle == 5 && i.m_dDateLocationXCheck == 6 && i.m_dDateLocationYCheck == 7);
+    EXPECT_TRUE(i.m_dDateOffsetX == 8.5 && i.m_dDateOffsetY == -9.5 && i.m_nSealIndex == 10);
     EXPECT_TRUE(i.m_dDateFontSize == 8 && i.m_nDateTextColor == 0) << "as confirmed and stored";
     EXPECT_EQ(i.m_strDateFontName + i.m_strPin, L"黑体480317");
     wchar_t folder[MAX_PATH];

@@ -41,30 +41,31 @@ protected:
 TEST_F(Durvell, Transfer_RefusesNamesThatLeaveTheVault) {
     WriteBytes(Local(L"a.dwg"), "x");
     WriteBytes(Local(L"secret.txt"), "outside");
-    for (const std::wstring_view name : {L"",
-                                         L"..",
-                                         L"..\\..\\local\\secret.txt",
-                                         L"a/../../../local/secret.txt",
-                                         L"C:\\secret.txt",
-                                         L"C:secret.txt",
-                                         L"\\secret.txt",
-                                         L"/secret.txt",
-                                         L"\\\\server\\share\\a",
-                                         L"a.dwg:stream",
-                                         L"NUL",
-                                         L"con.dwg",
-                                         L"dir/COM1.txt",
-                                         L"lpt²",
-                                         L"aux .dwg",
-                                         L"a\\\\b",
-                                         L"a.",
-                                         L"a ",
-                                         L".",
-                                         L"*.dwg",
-                                         L"a\nb",
-                                         L"a/"}) {
-        EXPECT_EQ(ResultRefusedName, Upload(L"a.dwg", name.data())) << tests::ToUtf8(name);
-        EXPECT_EQ(ResultRefusedName, Download(L"b.dwg", name.data())) << tests::ToUtf8(name);
+    const wchar_t* const names[] = {L"",
+                                    L"..",
+                                    L"..\\..\\local\\secret.txt",
+                                    L"a/../../../local/secret.txt",
+                                    L"C:\\secret.txt",
+                                    L"C:secret.txt",
+                                    L"\\secret.txt",
+                                    L"/secret.txt",
+                                    L"\\\\server\\share\\a",
+                                    L"a.dwg:stream",
+                                    L"NUL",
+                                    L"con.dwg",
+                                    L"dir/COM1.txt",
+                                    L"lpt²",
+                                    L"aux .dwg",
+                                    L"a\\\\b",
+                                    L"a.",
+                                    L"a ",
+                                    L".",
+                                    L"*.dwg",
+                                    L"a\nb",
+                                    L"a/"};
+    for (const wchar_t* name : names) {
+        EXPECT_EQ(ResultRefusedName, Upload(L"a.dwg", name)) << tests::ToUtf8(name);
+        EXPECT_EQ(ResultRefusedName, Download(L"b.dwg", name)) << tests::ToUtf8(name);
     }
     EXPECT_EQ(ResultOk, Upload(L"a.dwg", L"..a.dwg"));
     EXPECT_EQ(ResultOk, Upload(L"a.dwg", L"COM10.console"));

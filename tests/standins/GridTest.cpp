@@ -1,4 +1,4 @@
-// The grid control in a container window: members, check boxes by mouse and keyboard, size, lifetime.
+// The grid control in a container window: members, check boxes by mouse and keyboard, size.
 #include <windows.h>
 #include <commctrl.h>
 #include <gtest/gtest.h>
@@ -84,13 +84,6 @@ TEST_F(Grid, CheckBox_TogglesByMouseAndSpace) {
         SendMessageW(List(), WM_KEYDOWN, VK_SPACE, 0);
         EXPECT_EQ(expected, Cell(0, 1));
     }
-}
-
-TEST(GridLifetime, UnloadsAfterItsHost) {
-    { HostedControl host(kQORGridClass); }
-    const auto canUnload = reinterpret_cast<HRESULT(WINAPI*)()>(
-        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"QORGrid.dll"), "DllCanUnloadNow")));
-    EXPECT_EQ(S_OK, canUnload());
 }
 
 } // namespace
