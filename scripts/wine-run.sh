@@ -47,7 +47,7 @@ export LC_ALL=zh_CN.UTF-8 DISPLAY=$VARNOKE_DISPLAY
     servers=$(xargs -r cksum 2>/dev/null <com-servers.txt || true) # those that are built
     if [ "$servers" != "$(cat "$stamp" 2>/dev/null)" ]; then
         while read -r _ _ dll; do
-            $wine regsvr32 /s "$dll" </dev/null || { echo "cannot register $dll" >&2; exit 1; }
+            $wine regsvr32 /s "$dll" </dev/null >/dev/null 2>&1 || { echo "cannot register $dll" >&2; exit 1; }
         done <<<"$servers"
         echo "$servers" >"$stamp"
     fi
