@@ -51,10 +51,7 @@ Result QueryObjects(const std::wstring& objectFile, const std::wstring& objectTy
     XmlElementPtr type;
     const XmlDocumentPtr result = NewResult(objectType, type);
     if (!result) return ResultInternal;
-    const XmlNodeListPtr list = Select(objects, L"/root/objs/type/obj");
-    const long count = CountOf(list);
-    for (long i = 0; i < count; ++i) {
-        const XmlNodePtr object = ItemAt(list, i);
+    for (const XmlNodePtr& object : Select(objects, L"/root/objs/type/obj")) {
         if (filter.Matches(object) && !AddCopy(type, object)) return ResultInternal;
     }
     TemporaryFile temporary(ParentFolder(resultFile));

@@ -9,10 +9,7 @@ bool SearchFilter::Parse(const std::wstring& xml) {
     m_conditions.clear();
     const standins::XmlDocumentPtr document = standins::LoadXmlText(xml);
     if (!document) return false;
-    const XmlNodeListPtr filters = Select(document, L"/searchfilter/archivefilter/filter");
-    const long count = CountOf(filters);
-    for (long i = 0; i < count; ++i) {
-        const XmlNodePtr filter = ItemAt(filters, i);
+    for (const XmlNodePtr& filter : Select(document, L"/searchfilter/archivefilter/filter")) {
         Condition condition;
         std::wstring logic, comparison;
         if (!ReadAttribute(filter, L"logiccode", &logic) || !standins::SameText(logic, L"and")) return false;
@@ -22,13 +19,12 @@ bool SearchFilter::Parse(const std::wstring& xml) {
             return false;
         m_conditions.push_back(std::move(condition));
     }
-    return count > 0;
+    return !m_conditions.empty();
 }
 
-static bool HasValue(IXMLDOMNodeList* properties, const std::wstring& field, const std::wstring& value) {
-    const long count = CountOf(properties);
-    for (long i = 0; i < count; ++i) {
-        const XmlNodePtr property = ItemAt(properties, i);
+static bool HasValue(const std::vector<XmlNodePtr>& properties, const std::wstring& field,
+                     const std::wstring& value) {
+    for (const XmlNodePtr& property : properties) {
         std::wstring name, text;
         if (ReadAttribute(property, L"name", &name) && name == field)
             return ReadAttribute(property, L"value", &text) && standins::SameText(text, value);
@@ -37,7 +33,7 @@ static bool HasValue(IXMLDOMNodeList* properties, const std::wstring& field, con
 }
 
 bool SearchFilter::Matches(IXMLDOMNode* object) const {
-    const XmlNodeListPtr properties = Select(object, L"pro");
+    const std::vector<XmlNodePtr> properties = Select(object, L"pro");
     for (const Condition& condition : m_conditions)
         if (!HasValue(properties, condition.field, condition.value)) return false;
     return true;

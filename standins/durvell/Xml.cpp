@@ -3,22 +3,14 @@
 
 namespace durvell {
 
-XmlNodeListPtr Select(IXMLDOMNode* context, const wchar_t* xpath) {
-    XmlNodeListPtr list;
-    context->selectNodes(_bstr_t(xpath), &list);
-    return list;
-}
-
-XmlNodePtr ItemAt(IXMLDOMNodeList* list, long index) {
-    XmlNodePtr node;
-    list->get_item(index, &node);
-    return node;
-}
-
-long CountOf(IXMLDOMNodeList* list) {
-    long count = 0;
-    if (list) list->get_length(&count);
-    return count;
+std::vector<XmlNodePtr> Select(IXMLDOMNode* context, const wchar_t* xpath) {
+    std::vector<XmlNodePtr> nodes;
+    _com_ptr_t<_com_IIID<IXMLDOMNodeList, &IID_IXMLDOMNodeList>> list;
+    if (FAILED(context->selectNodes(_bstr_t(xpath), &list)) || !list) return nodes;
+    // One after the other: the list finds a node by its number from the first one on.
+    for (XmlNodePtr node; list->nextNode(&node) == S_OK;)
+        nodes.push_back(node);
+    return nodes;
 }
 
 bool ReadAttribute(IXMLDOMNode* node, const wchar_t* name, std::wstring* value) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "standins/common/XmlDocument.h"
 
@@ -9,12 +10,9 @@ namespace durvell {
 
 using standins::XmlElementPtr;
 using standins::XmlNodePtr;
-using XmlNodeListPtr = _com_ptr_t<_com_IIID<IXMLDOMNodeList, &IID_IXMLDOMNodeList>>;
 
-// The nodes that an XPath below the context selects; null on failure.
-XmlNodeListPtr Select(IXMLDOMNode* context, const wchar_t* xpath);
-XmlNodePtr ItemAt(IXMLDOMNodeList* list, long index);
-long CountOf(IXMLDOMNodeList* list);
+// The nodes that an XPath below the context selects; none on failure.
+std::vector<XmlNodePtr> Select(IXMLDOMNode* context, const wchar_t* xpath);
 
 // An attribute's text; false when the node has no such attribute.
 bool ReadAttribute(IXMLDOMNode* node, const wchar_t* name, std::wstring* value);
