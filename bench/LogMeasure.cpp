@@ -4,6 +4,7 @@
 #include "bench/LogMeasure.h"
 #include "bench/BareParser.h"
 #include "bench/Stopwatch.h"
+#include "module/OwnedRecord.h"
 
 namespace bench {
 
@@ -31,10 +32,6 @@ std::wstring RecordText(int entries) {
     return text + L"</qordata>";
 }
 
-void AddProperty(SSignObj& object, const wchar_t* name, const wchar_t* value) {
-    object.AddTail(new SSignPro{name, value});
-}
-
 } // namespace
 
 void MeasureLogging(const Workspace& workspace, CPLMInteract& interact, int entries, double& bare,
@@ -45,15 +42,13 @@ void MeasureLogging(const Workspace& workspace, CPLMInteract& interact, int entr
     const std::wstring signData = workspace.Path(L"SignData");
     ::CreateDirectoryW(signData.c_str(), nullptr);
     SaveBare(LoadBare(text), signData + L"\\DocSignRecord.xml");
-    SSignObj object;
-    AddProperty(object, L"ID", L"new");
-    AddProperty(object, L"SIGN_ROLE", L"role");
+    const varnoke::OwnedRecord<SSignObj> object(new SSignObj);
+    object->AddTail(new SSignPro{L"ID", L"new"});
+    object->AddTail(new SSignPro{L"SIGN_ROLE", L"role"});
     logging = Milliseconds([&] {
-        Require(interact.WriteDelOrSignLogToLocal(&object, workspace.Path().c_str(), L"N") == 1,
+        Require(interact.WriteDelOrSignLogToLocal(object.get(), workspace.Path().c_str(), L"N") == 1,
                 "writing a log entry");
     });
-    while (!object.IsEmpty())
-        delete object.RemoveHead();
 }
 
 } // namespace bench

@@ -3,18 +3,19 @@
 
 #include "bench/Measures.h"
 #include "bench/BareParser.h"
+#include "bench/DrawingList.h"
 #include "bench/LogMeasure.h"
 #include "bench/MessageText.h"
 #include "bench/Stopwatch.h"
 
 #include <algorithm>
-#include <memory>
 
 namespace bench {
 
 namespace {
 
 constexpr int kProperties = 10;
+
 struct Records {
     SLoginInfo* login = nullptr;
     SSignType* steps = nullptr;
@@ -33,14 +34,6 @@ void Read(CPLMInteract& interact, std::wstring text, std::wstring folder, Record
                 records.files->m_lstObj.GetCount() == documents,
             "reading a message");
 }
-
-struct ListDeleter {
-    void operator()(SSignFileDUL* list) const {
-        while (!list->m_lstItem.IsEmpty())
-            delete list->m_lstItem.RemoveHead();
-        delete list;
-    }
-};
 
 void MeasureReading(const Workspace& workspace, CPLMInteract& interact, int documents, Costs& costs) {
     const std::wstring text = MessageText(L"drawing", documents, kProperties);
@@ -81,19 +74,14 @@ void MeasureMerging(const Workspace& workspace, CPLMInteract& interact, int docu
 
 double MeasureTagging(const Workspace& workspace, CPLMInteract& interact, int documents) {
     std::wstring folder = workspace.CreateDrawings(documents); // there already after the first time
-    const std::unique_ptr<SSignFileDUL, ListDeleter> list(new SSignFileDUL);
-    list->m_strFolder = folder.c_str();
-    for (int document = 0; document < documents; ++document) {
-        list->m_lstItem.AddTail(new SSignFileDULItem);
-        list->m_lstItem.GetTail()->m_strLocalName.Format(L"drawing%d.dwg", document);
-    }
+    const auto list = DrawingList(folder, documents);
     const auto update = [&] {
         Require(interact.UpdateDocsSignTag(list.get(), 1) == 1, "resetting tags");
         Require(interact.UpdateDocsSignTimeTag(list.get()) == 1, "recording times");
     };
     update();
     const double time = Milliseconds(update);
-    std::wstring last = L"drawing" + std::to_wstring(documents - 1) + L".dwg";
+    std::wstring last = Workspace::DrawingName(documents - 1);
     long changed = 0;
     Require(interact.GetDocSignTimeTag(&folder[0], &last[0], &changed) == 0 && changed == 0,
             "the last time tag");
@@ -106,9 +94,7 @@ double MeasureReturning(const Workspace& workspace, CPLMInteract& interact, int 
     records.Release();
     CStringList names;
     for (int document = 0; document < documents; ++document) {
-        CString name;
-        name.Format(L"drawing%d.dwg", document);
-        names.AddTail(name);
+        names.AddTail(CString(Workspace::DrawingName(document).c_str()));
     }
     wchar_t key[] = L"FNAME";
     std::wstring folder = workspace.Path(), file = workspace.Path(L"return.xml");

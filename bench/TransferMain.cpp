@@ -3,15 +3,14 @@
 #include <afxwin.h>
 #include <objbase.h>
 
+#include "bench/DrawingList.h"
 #include "bench/Responsiveness.h"
 #include "bench/Stopwatch.h"
-#include "bench/Workspace.h"
 #include "plm/PLMInteract.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
 
 using namespace bench;
 
@@ -22,23 +21,6 @@ constexpr double kTimerWaits = 1500; // ms: the dialog starts after 500 and clos
 constexpr DWORD kRunUnderWay = 700;  // ms after which the dialog's start and its pause are over
 constexpr double kCostLimit = 1.3;
 constexpr double kAnswerLimit = 100; // ms
-
-struct ListReleaser {
-    void operator()(SSignFileDUL* list) const { Cmn_ReleaseSignFileDUL(list); }
-};
-using List = std::unique_ptr<SSignFileDUL, ListReleaser>;
-
-List MakeList(const std::wstring& folder) {
-    List list(new SSignFileDUL);
-    list->m_strFolder = folder.c_str();
-    for (int number = 0; number < kDocuments; ++number) {
-        auto* item = new SSignFileDULItem;
-        item->m_strLocalName.Format(L"drawing%d.dwg", number);
-        item->m_strRemoteName = item->m_strLocalName;
-        list->m_lstItem.AddTail(item);
-    }
-    return list;
-}
 
 struct Transfer {
     const char* name;
@@ -93,7 +75,7 @@ int wmain(int argc, wchar_t** argv) {
     ::SetEnvironmentVariableW(L"DURVELL_VAULT", workspace.Path(L"vault").c_str());
 
     CPLMInteract interact;
-    const List list = MakeList(workspace.Path(L"work"));
+    const auto list = DrawingList(workspace.Path(L"work"), kDocuments);
     TransferBench bench(interact, list.get());
     const Transfer transfers[] = {
         {"download", &CPLMInteract::DownloadDocForBackSign, &CPLMInteract::DownloadDoc},

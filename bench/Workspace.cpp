@@ -15,11 +15,15 @@ std::wstring Workspace::CreateDrawings(int count) const {
     const std::wstring folder = Path(std::to_wstring(count));
     ::CreateDirectoryW(folder.c_str(), nullptr);
     for (int number = 0; number < count; ++number) {
-        const std::wstring path = folder + L"\\drawing" + std::to_wstring(number) + L".dwg";
+        const std::wstring path = folder + L"\\" + DrawingName(number);
         varnoke::OwnFile(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                                        FILE_ATTRIBUTE_NORMAL, nullptr));
     }
     return folder;
+}
+
+std::wstring Workspace::DrawingName(int number) {
+    return L"drawing" + std::to_wstring(number) + L".dwg";
 }
 
 } // namespace bench

@@ -12,8 +12,10 @@ class Workspace {
 public:
     /// Full path of a name in the folder; the folder's own for an empty one.
     std::wstring Path(const std::wstring& name = std::wstring()) const;
-    /// Creates a subfolder, named by the count, with files "drawing<number>.dwg", and gives its full path.
+    /// Creates a subfolder, named by the count, with so many drawings, and gives its full path.
     std::wstring CreateDrawings(int count) const;
+    /// "drawing<number>.dwg", the name of a drawing from 0 on.
+    static std::wstring DrawingName(int number);
 
 private:
     host::CTemporaryFolder m_folder;

@@ -56,11 +56,10 @@ IQORObjMapConfigPtr FindMap(IQORObjMapConfigs* maps, long count, const CString& 
 CModelConfig::CModelConfig() : m_pParentWnd(nullptr) {}
 
 CModelConfig::~CModelConfig() {
-    Guarded(0L, [&] {
+    Guarded([&] {
         m_strConfigPath.Empty();
         m_spModel = nullptr;
         m_pParentWnd = nullptr;
-        return 1L;
     });
 }
 

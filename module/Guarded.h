@@ -19,4 +19,13 @@ R Guarded(R failure, F body) noexcept {
     return failure;
 }
 
+/// The same for a body without a result: it ends where something is thrown.
+template <class F>
+void Guarded(F body) noexcept {
+    Guarded(0, [&body] {
+        body();
+        return 0;
+    });
+}
+
 } // namespace varnoke

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "module/Owned.h"
+#include "module/InputFile.h"
 #include "module/Text.h"
 #include "module/VarnokeApp.h"
 
@@ -45,11 +45,7 @@ CString TemporaryFolder() {
 }
 
 bool FileExists(const wchar_t* path) {
-    if (!HasText(path)) {
-        return false;
-    }
-    return OwnFile(::CreateFileW(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                 OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr)) != nullptr;
+    return HasText(path) && InputFile(path).IsOpen();
 }
 
 CString JoinPath(const CString& folder, const CString& name) {

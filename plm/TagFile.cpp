@@ -2,6 +2,7 @@
 #include <afxwin.h>
 
 #include "plm/TagFile.h"
+#include "module/InputFile.h"
 #include "module/ModulePaths.h"
 #include "module/Owned.h"
 #include "plm/NoCase.h"
@@ -15,13 +16,9 @@ namespace {
 
 /// Empty for a missing file.
 std::string ReadWholeFile(const CString& path) {
-    const FileHandle file = OwnFile(::CreateFileW(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                                  nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-    LARGE_INTEGER size = {};
-    if (!file || !::GetFileSizeEx(file.get(), &size)) return std::string();
-    std::string bytes(static_cast<size_t>(size.QuadPart), '\0');
-    DWORD read = 0;
-    ::ReadFile(file.get(), &bytes[0], static_cast<DWORD>(bytes.size()), &read, nullptr);
+    const InputFile file(path);
+    std::string bytes(static_cast<size_t>(file.Size()), '\0');
+    file.Read(&bytes[0], static_cast<DWORD>(bytes.size()));
     return bytes;
 }
 

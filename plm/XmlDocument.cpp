@@ -3,8 +3,8 @@
 #include <afxwin.h>
 
 #include "plm/XmlDocument.h"
+#include "module/InputFile.h"
 #include "module/ModulePaths.h"
-#include "module/Owned.h"
 #include "plm/SignDataFolder.h"
 #include "plm/TemporaryFile.h"
 
@@ -27,17 +27,14 @@ bool HasDocumentType(DomDocument& document) {
 
 /// Makes `bytes` an array of the file's bytes; false when there are none.
 bool ReadBytes(const CString& path, _variant_t& bytes) {
-    const FileHandle file = OwnFile(::CreateFileW(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                                  nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-    LARGE_INTEGER size = {};
-    if (!file || !::GetFileSizeEx(file.get(), &size) || size.QuadPart <= 0 || size.QuadPart > INT_MAX)
-        return false;
-    SAFEARRAY* array = ::SafeArrayCreateVector(VT_UI1, 0, size.LowPart);
+    const InputFile file(path);
+    const LONGLONG size = file.Size();
+    if (size <= 0 || size > INT_MAX) return false;
+    SAFEARRAY* array = ::SafeArrayCreateVector(VT_UI1, 0, static_cast<ULONG>(size));
     if (!array) return false;
     bytes.vt = VT_ARRAY | VT_UI1; // owns the array from here on
     bytes.parray = array;
-    DWORD read = 0;
-    return ::ReadFile(file.get(), array->pvData, size.LowPart, &read, nullptr) && read == size.LowPart;
+    return file.Read(array->pvData, static_cast<DWORD>(size));
 }
 
 /// The text behind its XML declaration: an encoding named there is that of a file, while these are

@@ -42,10 +42,7 @@ static_assert(sizeof(_variant_t) == sizeof(VARIANT), "owned arguments go to the 
 
 CCOMAPInvokeHelper::~CCOMAPInvokeHelper() {
     // The server's code runs here for the last time.
-    varnoke::Guarded(0L, [&] {
-        m_spServer = nullptr;
-        return 1L;
-    });
+    varnoke::Guarded([&] { m_spServer = nullptr; });
 }
 
 long CCOMAPInvokeHelper::CreateFromProgID(const wchar_t* progID) {

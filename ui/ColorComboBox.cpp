@@ -20,11 +20,6 @@ const int kSwatchLeft = 102;
 const int kSwatchMarginX = 5;
 const int kSwatchMarginY = 2;
 
-int ItemHeight() {
-    const CClientDC screen(nullptr);
-    return ScaledPixels(screen, kItemHeight);
-}
-
 } // namespace
 
 BEGIN_MESSAGE_MAP(CColorComboBox, CComboBox)
@@ -97,11 +92,11 @@ bool CColorComboBox::GetSelectedColor(int* pColor) const {
 void CColorComboBox::PreSubclassWindow() {
     CComboBox::PreSubclassWindow();
     // A combo box of a template has asked for its item height before it is subclassed.
-    SetItemHeight(0, ItemHeight());
+    SetItemHeight(0, ScaledPixels(kItemHeight));
 }
 
 void CColorComboBox::MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
-    lpMeasureItemStruct->itemHeight = ItemHeight();
+    lpMeasureItemStruct->itemHeight = ScaledPixels(kItemHeight);
 }
 
 void CColorComboBox::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {

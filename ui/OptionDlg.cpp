@@ -27,20 +27,19 @@ void COptionDlg::DoDataExchange(CDataExchange* pDX) {
 
 BOOL COptionDlg::OnInitDialog() {
     CDialog::OnInitDialog();
-    varnoke::Guarded(0, [this] {
-        m_comboTextColor.FillWithStored(varnoke::StoredTextColor(m_pSettings), this);
-        return 1;
-    });
+    varnoke::Guarded(
+        [this] { m_comboTextColor.FillWithStored(varnoke::StoredTextColor(m_pSettings), this); });
     return TRUE;
 }
 
 void COptionDlg::OnOK() {
-    varnoke::Guarded(0, [this] {
+    varnoke::Guarded([this] {
         int color = 0;
-        if (!m_comboTextColor.GetSelectedColor(&color))
-            return varnoke::ShowInfo(varnoke::ResourceText(IDS_BAD_TEXT_COLOR), this);
+        if (!m_comboTextColor.GetSelectedColor(&color)) {
+            varnoke::ShowInfo(varnoke::ResourceText(IDS_BAD_TEXT_COLOR), this);
+            return;
+        }
         if (m_pSettings != nullptr) m_pSettings->SetDateTextColor(color);
         EndDialog(IDOK);
-        return 1;
     });
 }

@@ -57,10 +57,7 @@ void CSDLDlg::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CSDLDlg::OnInitDialog() {
     CDialog::OnInitDialog();
-    Guarded(0, [this] {
-        FillGrid();
-        return 1;
-    });
+    Guarded([this] { FillGrid(); });
     OnOK();
     return FALSE;
 }
@@ -87,8 +84,7 @@ void CSDLDlg::FillGrid() {
     CRect client;
     m_grid.GetClientRect(&client);
     const long columns = attributes + kFirstAttributeColumn;
-    const CClientDC screen(nullptr);
-    const long width = std::max<long>(client.Width() / columns, ScaledPixels(screen, kMinColumnWidth));
+    const long width = std::max<long>(client.Width() / columns, ScaledPixels(kMinColumnWidth));
     for (long column = 0; column < columns; ++column)
         m_grid.SetColumnWidth(column, width);
 
@@ -125,11 +121,13 @@ void CSDLDlg::AddRow(const SSignObj& obj, long nPosition) {
 
 void CSDLDlg::OnOK() {
     m_pChosen.reset();
-    Guarded(0, [this] {
-        if (const UINT fault = FindFault()) return ShowInfo(ResourceText(fault), this);
+    Guarded([this] {
+        if (const UINT fault = FindFault()) {
+            ShowInfo(ResourceText(fault), this);
+            return;
+        }
         KeepChosen();
         EndDialog(IDOK);
-        return 1;
     });
 }
 

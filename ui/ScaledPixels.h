@@ -10,4 +10,10 @@ inline int ScaledPixels(HDC dc, int pixels) {
     return ::MulDiv(pixels, ::GetDeviceCaps(dc, LOGPIXELSX), 96);
 }
 
+/// The same on the screen.
+inline int ScaledPixels(int pixels) {
+    const CClientDC screen(nullptr);
+    return ScaledPixels(screen, pixels);
+}
+
 } // namespace varnoke

@@ -117,10 +117,7 @@ void CSignDlg::OnOK() {
         return true;
     });
     if (!confirmed) return;
-    Guarded(0, [this] {
-        WriteBack();
-        return 1;
-    });
+    Guarded([this] { WriteBack(); });
     EndDialog(IDOK);
 }
 

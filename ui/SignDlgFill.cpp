@@ -53,10 +53,7 @@ void CSignDlg::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CSignDlg::OnInitDialog() {
     CDialog::OnInitDialog();
-    Guarded(0, [this] {
-        FillControls();
-        return 1;
-    });
+    Guarded([this] { FillControls(); });
     return TRUE;
 }
 
@@ -75,7 +72,7 @@ void CSignDlg::FillControls() {
 
 void CSignDlg::ShowPreview() {
     // Without a viewer, or with a drawing it cannot show, the preview stays empty; signing goes on.
-    Guarded(0L, [this] { return m_preview.OpenDrawing(m_strSealDrawingPath); });
+    Guarded([this] { m_preview.OpenDrawing(m_strSealDrawingPath); });
 }
 
 void CSignDlg::FillDateFormats() {

@@ -56,10 +56,7 @@ void CTransferDlg::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CTransferDlg::OnInitDialog() {
     CDialog::OnInitDialog();
-    Guarded(0, [this] {
-        InitControls();
-        return 1;
-    });
+    Guarded([this] { InitControls(); });
     SetTimer(kStartTimer, kStartDelay, nullptr);
     return TRUE;
 }
@@ -80,10 +77,7 @@ void CTransferDlg::OnTimer(UINT_PTR nIDEvent) {
         OnStartTimer();
         break;
     case kActivityTimer:
-        Guarded(0, [this] {
-            m_display.StepActivity();
-            return 1;
-        });
+        Guarded([this] { m_display.StepActivity(); });
         break;
     case kCloseTimer:
         KillTimer(kCloseTimer);

@@ -51,19 +51,20 @@ struct FakeObject final : IDispatch {
     }
 };
 
-FakeServer::FakeServer() {
-    GUID clsid = {};
+CLSID FakeServer::NewClassId() {
+    CLSID clsid = {};
+    EXPECT_EQ(CoCreateGuid(&clsid), S_OK);
+    return clsid;
+}
+
+FakeServer::FakeServer(const CLSID& clsid) : TestClass(clsid) {
     wchar_t text[40];
-    CoCreateGuid(&clsid);
     StringFromGUID2(clsid, text, 40);
     EXPECT_EQ(RegSetKeyValueW(HKEY_CLASSES_ROOT, (m_progID + L"\\CLSID").c_str(), nullptr, REG_SZ, text, 78),
               0);
-    EXPECT_EQ(CoRegisterClassObject(clsid, this, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &m_registration),
-              S_OK);
 }
 
 FakeServer::~FakeServer() {
-    CoRevokeClassObject(m_registration);
     RegDeleteTreeW(HKEY_CLASSES_ROOT, m_progID.c_str());
     EXPECT_EQ(m_objects, 0) << "server objects were leaked";
 }

@@ -6,14 +6,14 @@
 #include <map>
 #include <string>
 #include <vector>
-#include <gtest/gtest.h>
+#include "tests/support/TestClass.h"
 
 namespace tests {
 
-// Class object (a test owns it; references to it are not counted) and record of what its objects saw.
-class FakeServer final : public IClassFactory {
+// Class object and record of what its objects saw.
+class FakeServer final : public TestClass {
 public:
-    FakeServer();
+    FakeServer() : FakeServer(NewClassId()) {}
     ~FakeServer();
 
     std::wstring m_progID = L"VarnokeTest.Server" + std::to_wstring(GetCurrentProcessId());
@@ -26,14 +26,11 @@ public:
     std::wstring LastSeen() const { return m_seen.empty() ? L"" : m_seen.back(); }
     long m_objects = 0; // alive
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void** object) override { return *object = this, S_OK; }
-    ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
-    ULONG STDMETHODCALLTYPE Release() override { return 1; }
     HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID iid, void** object) override;
-    HRESULT STDMETHODCALLTYPE LockServer(BOOL) override { return S_OK; }
 
 private:
-    DWORD m_registration = 0;
+    static CLSID NewClassId();
+    explicit FakeServer(const CLSID& clsid);
 };
 
 } // namespace tests
