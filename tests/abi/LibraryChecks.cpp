@@ -5,6 +5,7 @@
 #include "plm/PLMInteract.h"
 #include "sign/SignOpt.h"
 #include "tests/abi/Checks.h"
+#include "tests/support/Message.h"
 
 namespace {
 
@@ -36,13 +37,10 @@ void Records(CPLMInteract& plm, CString folder) {
     SLoginInfo* login = nullptr;
     SSignType* steps = nullptr;
     SSignType* files = nullptr;
-    CString message =
-        L"<root><objs><type id='LoginInfo'><obj><pro name='UserName' value='王工'/>"
-        L"<pro name='Password' value='secret'/><pro name='PLMServer' value='plm:80'/></obj></type>"
-        L"<type id='step'><obj><pro name='ROLE' value='审核'/></obj></type>"
-        L"<type id='doc'><obj><pro name='FNAME' value='a.dwg'/><pro name='VER' value='2'/></obj>"
-        L"<obj><pro name='FNAME' value='b.dwg'/></obj></type></objs></root>";
-    CHECK(plm.StartSignForBackSign(message.GetBuffer(), folder.GetBuffer(), &login, &steps, &files) == 1);
+    std::wstring message =
+        tests::Message(L"LoginInfo:UserName=王工,Password=secret,PLMServer=plm:80|step:ROLE=审核|"
+                       L"doc:FNAME=a.dwg,VER=2;b.dwg");
+    CHECK(plm.StartSignForBackSign(message.data(), folder.GetBuffer(), &login, &steps, &files) == 1);
     if (login == nullptr || steps == nullptr || files == nullptr) return;
 
     CHECK(TextAt(login, 0) == L"王工" && TextAt(login, 8) == L"secret" && TextAt(login, 0x10) == L"plm:80");

@@ -1,6 +1,8 @@
 // The server document list, shown by CPLMInteract::StartSign.
 #include "tests/dialogs/DialogFixture.h"
 #include "tests/dialogs/BrokenClass.h"
+#include "tests/model/ModelFixture.h"
+#include "tests/plm/PlmFixture.h"
 #include "ui/QORGrid.h"
 #include "ui/QORGridIds.h"
 
@@ -13,44 +15,21 @@ enum { Grid = 4000, Confirm = 4001, Dismiss = 4002 };
 const wchar_t kColumns[] =
     LR"(<modelconfig><objconfig id="SIGN"><other/><attr name="FNAME" caption="文件名"/>)"
     LR"(<attr name="VER" caption=""/></objconfig></modelconfig>)";
-const wchar_t kMessage[] =
-    LR"(<root><objs><type id="LoginInfo"><obj><pro name="UserName" value="wang"/><pro name="Password" value="p"/>)"
-    LR"(<pro name="PLMServer" value="s"/></obj></type><type id="step"><obj><pro name="ROLE" value="审核"/></obj></type>)"
-    LR"(<type id="DOC"><obj><pro name="FNAME" value="一.dwg"/><pro name="VER" value="2"/><pro name="X" value="y"/></obj>)"
-    LR"(<obj><pro name="FNAME" value="二.dwg"/></obj><obj><pro name="FNAME" value="三.dwg"/></obj></type></objs></root>)";
+const std::wstring kMessage = Message(L"LoginInfo:UserName=wang,Password=p,PLMServer=s|step:ROLE=审核|"
+                                      L"DOC:FNAME=一.dwg,VER=2,X=y;二.dwg;三.dwg");
 
 class ServerDocuments : public DialogFixture {
 protected:
-    // The model configuration lies beside the local services module, here a copy of it.
-    ServerDocuments() {
-        wchar_t program[MAX_PATH];
-        GetModuleFileNameW(nullptr, program, MAX_PATH);
-        const auto copy = m_folder / L"QORLocal.dll";
-        std::filesystem::copy_file(std::filesystem::path(program).parent_path() / L"QORLocal.dll", copy);
-        m_local = LoadLibraryW(copy.c_str());
-    }
-    ~ServerDocuments() override {
-        Release();
-        FreeLibrary(m_local);
-    }
     void Configure(const wchar_t* model) {
-        WriteBytes(m_folder / L"ModelConfig.Xml", ToUtf8(model));
+        WriteBytes(m_services.m_configFile, ToUtf8(model));
         m_plm.Initialize(m_host);
     }
-    long StartSign() {
-        return m_plm.StartSign(Text(kMessage), Text(m_folder.Text()), &m_login, &m_steps, &m_files);
-    }
-    void Release() {
-        Cmn_ReleaseLoginInfo(m_login);
-        Cmn_ReleaseSignType(m_steps);
-        Cmn_ReleaseSignType(m_files);
-        m_login = nullptr;
-        m_steps = m_files = nullptr;
+    long StartSign(Results&& results = {}) {
+        return m_plm.StartSign(Text(kMessage), Text(m_folder.Text()), &results.login, &results.steps,
+                               &results.files);
     }
 
-    HMODULE m_local;
-    SLoginInfo* m_login = nullptr;
-    SSignType *m_steps = nullptr, *m_files = nullptr;
+    const LocalServices m_services;
 };
 
 // The grid of the shown dialog, driven as the dialog drives it.
@@ -62,21 +41,11 @@ public:
 
 TEST_F(ServerDocuments, Documents_AreConfirmedUnseenAndTheFirstIsHandedOut) {
     Configure(kColumns);
-    ASSERT_EQ(1, StartSign());
+    Results results;
+    ASSERT_EQ(1, StartSign(std::move(results)));
     EXPECT_EQ(0, m_driver.ShownDialogs());
     EXPECT_TRUE(m_driver.Boxes().empty());
-    EXPECT_EQ(m_files->m_strId, L"");
-    ASSERT_EQ(1, m_files->m_lstObj.GetCount());
-    const SSignObj& document = *m_files->m_lstObj.GetHead();
-    const std::pair<const wchar_t*, const wchar_t*> properties[] = {
-        {L"FNAME", L"一.dwg"}, {L"VER", L"2"}, {L"X", L"y"}};
-    ASSERT_EQ(3, document.GetCount());
-    POSITION pos = document.GetHeadPosition();
-    for (const auto& [name, value] : properties) {
-        const SSignPro* property = document.GetNext(pos);
-        EXPECT_EQ(property->m_strName, name);
-        EXPECT_EQ(property->m_strValue, value);
-    }
+    EXPECT_EQ(Described(results.files), L":一.dwg,VER=2,X=y");
 }
 
 TEST_F(ServerDocuments, WithoutColumns_TheEmptyListCanOnlyBeCancelled) {
@@ -89,10 +58,9 @@ TEST_F(ServerDocuments, WithoutColumns_TheEmptyListCanOnlyBeCancelled) {
             Click(dialog, Confirm);
             Click(dialog, Dismiss);
         });
-        m_login = reinterpret_cast<SLoginInfo*>(1);
-        m_steps = m_files = reinterpret_cast<SSignType*>(1);
-        EXPECT_EQ(0, StartSign());
-        EXPECT_TRUE(!m_login && !m_steps && !m_files);
+        Results results;
+        EXPECT_EQ(0, StartSign(std::move(results)));
+        EXPECT_TRUE(results.AllNull());
         EXPECT_TRUE(std::filesystem::remove(m_folder / L"SignData" / L"StartSign.Xml"))
             << "kept all the same";
     }
@@ -123,18 +91,15 @@ TEST_F(ServerDocuments, RowsWithoutACheckedOne_AreRefused) {
         grid.SetRowValue(0, 1);
         Click(dialog, Confirm);
     });
-    ASSERT_EQ(1, StartSign());
+    Results results;
+    ASSERT_EQ(1, StartSign(std::move(results)));
     ExpectBoxes(L"服务端文档列表", {L"没有文档数据。", L"没有选中的文档数据。", L"没有选中的文档数据。"});
-    EXPECT_EQ(m_files->m_lstObj.GetHead()->GetHead()->m_strValue, L"二.dwg")
-        << "the row's value names its document";
+    EXPECT_EQ(Described(results.files), L":二.dwg") << "the row's value names its document";
 }
 
 TEST_F(ServerDocuments, Runs_LeaveNothingBehind) {
     Configure(kColumns);
-    ExpectNothingLeft([this] {
-        EXPECT_EQ(1, StartSign());
-        Release();
-    });
+    ExpectNothingLeft([this] { EXPECT_EQ(1, StartSign()); });
 }
 
 } // namespace

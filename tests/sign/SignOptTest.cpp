@@ -6,14 +6,11 @@
 #include "tests/support/MemoryUse.h"
 #include "tests/support/SettingsFile.h"
 #include "tests/support/TempFolder.h"
+#include "tests/support/Text.h"
 
 namespace {
 
-// A text that exported functions may take as wchar_t*.
-struct Text : std::wstring {
-    using std::wstring::wstring;
-    operator wchar_t*() { return data(); }
-};
+using tests::Text;
 
 class SignOpt : public testing::Test {
 protected:
@@ -48,8 +45,7 @@ protected:
     SSignInfo m_info;
     // The host's drawing is never touched: any use of this one would crash.
     IDispatch* const m_drawing = reinterpret_cast<IDispatch*>(0x1000);
-    Text m_text = L"甲";
-    Text m_empty;
+    Text m_text = L"甲", m_empty = L"";
 };
 
 TEST_F(SignOpt, Initialize_ReplacesTheServerOnlyBySomethingCreated) {
@@ -144,16 +140,16 @@ TEST_F(SignOpt, Status_IsTheIntegerThatTheMethodReturned) {
 }
 
 TEST_F(SignOpt, Calls_FreeArgumentsResultsAndExceptionTexts) {
-    Text big(500000, L'x');
+    std::wstring big(500000, L'x');
     const auto calls = [&] {
-        m_opt.Test(big);
-        m_opt.DeleteAllSignForBackSign(m_drawing, big);
+        m_opt.Test(big.data());
+        m_opt.DeleteAllSignForBackSign(m_drawing, big.data());
         m_server.m_seen.clear();
     };
     EXPECT_LT(tests::MemoryGrowth(60, calls), 20 << 20) << "of 120 MB handed over";
     m_server.m_answer = [&](VARIANT& result, EXCEPINFO& exception) {
         result = _variant_t(big.c_str()).Detach();
-        exception.bstrDescription = SysAllocString(big);
+        exception.bstrDescription = SysAllocString(big.c_str());
         return DISP_E_EXCEPTION;
     };
     EXPECT_LT(tests::MemoryGrowth(60, calls), 20 << 20) << "of 360 MB handed over and back";
@@ -164,8 +160,8 @@ TEST_F(SignOpt, GetSignUserName_CopiesTheSharedLogin) {
     SetEnvironmentVariableW(L"DURVELL_VAULT", vault.Text().c_str());
     const std::wstring name(1100, L'名');
     WritePrivateProfileStringW(L"Session", L"UserName", name.c_str(), (vault / "session.ini").c_str());
-    Text buffer(1100, L'#');
-    EXPECT_EQ(m_opt.GetSignUserName(buffer), 1);
+    std::wstring buffer(1100, L'#');
+    EXPECT_EQ(m_opt.GetSignUserName(buffer.data()), 1);
     EXPECT_EQ(buffer.c_str(), name.substr(0, 1023));
     EXPECT_EQ(buffer[1024], L'#') << "1023 characters and the terminator at most";
     SetEnvironmentVariableW(L"DURVELL_VAULT", nullptr);
