@@ -2,7 +2,7 @@
 #pragma once
 
 #include "bench/Workspace.h"
-#include "plm/PLMInteract.h"
+#include "varnoke/PLMInteract.h"
 
 namespace bench {
 

@@ -3,7 +3,7 @@
 
 #include <afxwin.h>
 
-#include "module/Owned.h"
+#include "base/Owned.h"
 
 namespace bench {
 

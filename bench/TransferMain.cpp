@@ -6,7 +6,7 @@
 #include "bench/DrawingList.h"
 #include "bench/Responsiveness.h"
 #include "bench/Stopwatch.h"
-#include "plm/PLMInteract.h"
+#include "varnoke/PLMInteract.h"
 
 #include <algorithm>
 #include <cstdio>

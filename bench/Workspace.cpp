@@ -3,7 +3,7 @@
 
 #include "bench/Workspace.h"
 #include "host/Paths.h"
-#include "module/Owned.h"
+#include "base/Owned.h"
 
 namespace bench {
 

@@ -18,7 +18,7 @@ public:
     static std::wstring DrawingName(int number);
 
 private:
-    host::CTemporaryFolder m_folder;
+    host::TemporaryFolder m_folder;
 };
 
 } // namespace bench

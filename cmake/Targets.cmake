@@ -3,7 +3,7 @@ option(VARNOKE_REAL_MFC "Build against Visual C++'s MFC instead of mfc/" OFF)
 
 # Settings common to all code of our own.
 add_library(varnoke_common INTERFACE)
-target_include_directories(varnoke_common INTERFACE ${CMAKE_SOURCE_DIR})
+target_include_directories(varnoke_common INTERFACE ${CMAKE_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/include)
 target_compile_definitions(varnoke_common INTERFACE UNICODE _UNICODE WINVER=0x0A00 _WIN32_WINNT=0x0A00)
 if(MSVC)
     target_compile_options(varnoke_common INTERFACE /W4 /WX /utf-8)

@@ -3,7 +3,7 @@
 
 #include <afxwin.h>
 
-#include "config/qormodel.h"
+#include "neighbours/qormodel.h"
 #include "module/BstrText.h"
 
 namespace varnoke {

@@ -1,5 +1,5 @@
 // Reader and writer of the settings file: a table of all settings and thin accessors over it.
-#include "config/INIConfig.h"
+#include "varnoke/INIConfig.h"
 
 #include <cwchar>
 
@@ -11,23 +11,23 @@ namespace {
 // The settings: section, key, default, which values are usable.
 
 struct TextSetting {
-    const wchar_t* m_pszSection;
-    const wchar_t* m_pszKey;
-    const wchar_t* m_pszDefault;
+    const wchar_t* section;
+    const wchar_t* key;
+    const wchar_t* fallback;
 };
 
 struct IntegerSetting {
-    const wchar_t* m_pszSection;
-    const wchar_t* m_pszKey;
-    long m_nDefault;
-    bool (*m_pfnUsable)(long value);
+    const wchar_t* section;
+    const wchar_t* key;
+    long fallback;
+    bool (*m_usable)(long value);
 
-    long Normalized(long value) const { return m_pfnUsable(value) ? value : m_nDefault; }
+    long Normalized(long value) const { return m_usable(value) ? value : fallback; }
 };
 
 struct NumberSetting {
-    const wchar_t* m_pszSection;
-    const wchar_t* m_pszKey;
+    const wchar_t* section;
+    const wchar_t* key;
 };
 
 bool Any(long) {
@@ -65,7 +65,7 @@ constexpr TextSetting kDateLocation = {kSignDate, L"DateLocation", L"左上"};
 constexpr IntegerSetting kDateFontSize = {kSignDate, L"DateFontSize", 8, Positive};
 constexpr IntegerSetting kDateTextColor = {kSignDate, L"DateTextColor", 0xFFFFFF, NotNegative};
 // The dialogs start from white, a signature without a set colour is placed in red.
-constexpr IntegerSetting kSignDateTextColor = {kDateTextColor.m_pszSection, kDateTextColor.m_pszKey, 0x0000FF,
+constexpr IntegerSetting kSignDateTextColor = {kDateTextColor.section, kDateTextColor.key, 0x0000FF,
                                                NotNegative};
 constexpr NumberSetting kDateOffsetX = {kSignDate, L"DateOffsetX"};
 constexpr NumberSetting kDateOffsetY = {kSignDate, L"DateOffsetY"};
@@ -87,16 +87,15 @@ constexpr long kUnreadableColor = 200;
 constexpr DWORD kBufferSize = 1023; // with the terminator
 
 CString Read(const CString& path, const TextSetting& setting) {
-    return varnoke::Guarded(CString(setting.m_pszDefault), [&] {
+    return varnoke::Guarded(CString(setting.fallback), [&] {
         if (path.IsEmpty()) {
-            return CString(setting.m_pszDefault);
+            return CString(setting.fallback);
         }
         wchar_t buffer[kBufferSize] = {};
-        ::GetPrivateProfileStringW(setting.m_pszSection, setting.m_pszKey, setting.m_pszDefault, buffer,
-                                   kBufferSize, path);
+        ::GetPrivateProfileStringW(setting.section, setting.key, setting.fallback, buffer, kBufferSize, path);
         CString text(buffer);
         text.Trim();
-        return text.IsEmpty() ? CString(setting.m_pszDefault) : text;
+        return text.IsEmpty() ? CString(setting.fallback) : text;
     });
 }
 
@@ -108,16 +107,15 @@ CString ReadNamed(const CString& path, const wchar_t* section, const CString& ke
 long Read(const CString& path, const IntegerSetting& setting, long failure) {
     return varnoke::Guarded(failure, [&] {
         if (path.IsEmpty()) {
-            return setting.m_nDefault;
+            return setting.fallback;
         }
-        const UINT value =
-            ::GetPrivateProfileIntW(setting.m_pszSection, setting.m_pszKey, setting.m_nDefault, path);
+        const UINT value = ::GetPrivateProfileIntW(setting.section, setting.key, setting.fallback, path);
         return setting.Normalized(static_cast<long>(value));
     });
 }
 
 long Read(const CString& path, const IntegerSetting& setting) {
-    return Read(path, setting, setting.m_nDefault);
+    return Read(path, setting, setting.fallback);
 }
 
 double Read(const CString& path, const NumberSetting& setting) {
@@ -126,18 +124,14 @@ double Read(const CString& path, const NumberSetting& setting) {
             return 0.0;
         }
         wchar_t buffer[kBufferSize] = {};
-        ::GetPrivateProfileStringW(setting.m_pszSection, setting.m_pszKey, L"0.00", buffer, kBufferSize,
-                                   path);
+        ::GetPrivateProfileStringW(setting.section, setting.key, L"0.00", buffer, kBufferSize, path);
         return _wtof(buffer);
     });
 }
 
 template <class Setting>
 long WriteText(const CString& path, const Setting& setting, const CString& value) {
-    return !path.IsEmpty() &&
-                   ::WritePrivateProfileStringW(setting.m_pszSection, setting.m_pszKey, value, path)
-               ? 1
-               : 0;
+    return !path.IsEmpty() && ::WritePrivateProfileStringW(setting.section, setting.key, value, path) ? 1 : 0;
 }
 
 long Write(const CString& path, const TextSetting& setting, const CString& value) {
@@ -159,112 +153,112 @@ CINIConfig::~CINIConfig() {
 }
 
 long CINIConfig::Initialize(CWnd* parent) {
-    m_pParentWnd = parent;
-    m_strPath = varnoke::SettingsFilePath();
-    return m_strPath.IsEmpty() ? 0 : 1;
+    m_parentWnd = parent;
+    m_path = varnoke::SettingsFilePath();
+    return m_path.IsEmpty() ? 0 : 1;
 }
 
 long CINIConfig::Uninitialize() {
-    m_strPath.Empty();
-    m_pParentWnd = nullptr;
+    m_path.Empty();
+    m_parentWnd = nullptr;
     return 1;
 }
 
 CString CINIConfig::GetServerIP() const {
-    return Read(m_strPath, kServerIP);
+    return Read(m_path, kServerIP);
 }
 CString CINIConfig::GetServerPort() const {
-    return Read(m_strPath, kServerPort);
+    return Read(m_path, kServerPort);
 }
 CString CINIConfig::GetSignServer(const CString& key) const {
-    return ReadNamed(m_strPath, kSignServer, key);
+    return ReadNamed(m_path, kSignServer, key);
 }
 CString CINIConfig::GetProgID() const {
-    return Read(m_strPath, kProgID);
+    return Read(m_path, kProgID);
 }
 CString CINIConfig::GetDynDisp(const CString& key) const {
-    return ReadNamed(m_strPath, kDynDisp, key);
+    return ReadNamed(m_path, kDynDisp, key);
 }
 
 CString CINIConfig::GetDesignDoMain() const {
-    return Read(m_strPath, kDesignDoMain);
+    return Read(m_path, kDesignDoMain);
 }
 CString CINIConfig::GetLocalObjectConfigId() const {
-    return Read(m_strPath, kLocalObjectConfigId);
+    return Read(m_path, kLocalObjectConfigId);
 }
 CString CINIConfig::GetServerObjectConfigId() const {
-    return Read(m_strPath, kServerObjectConfigId);
+    return Read(m_path, kServerObjectConfigId);
 }
 
 long CINIConfig::GetIndex() const {
-    return Read(m_strPath, kIndex);
+    return Read(m_path, kIndex);
 }
 CString CINIConfig::GetPin() const {
-    return Read(m_strPath, kPin);
+    return Read(m_path, kPin);
 }
 long CINIConfig::GetDelPre() const {
-    return Read(m_strPath, kDelPre);
+    return Read(m_path, kDelPre);
 }
 
 CString CINIConfig::GetDateStyle() const {
-    return Read(m_strPath, kDateStyle);
+    return Read(m_path, kDateStyle);
 }
 long CINIConfig::SetDateStyle(const CString& value) {
-    return Write(m_strPath, kDateStyle, value.IsEmpty() ? CString(kDateStyle.m_pszDefault) : value);
+    return Write(m_path, kDateStyle, value.IsEmpty() ? CString(kDateStyle.fallback) : value);
 }
 CString CINIConfig::GetDateLocation() const {
-    return Read(m_strPath, kDateLocation);
+    return Read(m_path, kDateLocation);
 }
 long CINIConfig::SetDateLocation(const CString& value) {
-    return Write(m_strPath, kDateLocation, value);
+    return Write(m_path, kDateLocation, value);
 }
 long CINIConfig::GetDateFontSize() const {
-    return Read(m_strPath, kDateFontSize);
+    return Read(m_path, kDateFontSize);
 }
 long CINIConfig::SetDateFontSize(long value) {
-    return Write(m_strPath, kDateFontSize, value);
+    return Write(m_path, kDateFontSize, value);
 }
 long CINIConfig::GetDateTextColor() const {
-    return Read(m_strPath, kDateTextColor);
+    return Read(m_path, kDateTextColor);
 }
 long CINIConfig::GetSignDateTextColor() const {
-    return Read(m_strPath, kSignDateTextColor, kUnreadableColor);
+    return Read(m_path, kSignDateTextColor, kUnreadableColor);
 }
 long CINIConfig::SetDateTextColor(long value) {
-    return Write(m_strPath, kDateTextColor, value);
+    return Write(m_path, kDateTextColor, value);
 }
 double CINIConfig::GetDateOffsetX() const {
-    return Read(m_strPath, kDateOffsetX);
+    return Read(m_path, kDateOffsetX);
 }
 double CINIConfig::GetDateOffsetY() const {
-    return Read(m_strPath, kDateOffsetY);
+    return Read(m_path, kDateOffsetY);
 }
 CString CINIConfig::GetDateFontName() const {
-    return Read(m_strPath, kDateFontName);
+    return Read(m_path, kDateFontName);
 }
 
 long CINIConfig::GetScope() const {
-    return Read(m_strPath, kScope);
+    return Read(m_path, kScope);
 }
 long CINIConfig::SetScope(long value) {
-    return Write(m_strPath, kScope, value);
+    return Write(m_path, kScope, value);
 }
 
 long CINIConfig::GetLocationStyle() const {
-    return Read(m_strPath, kLocationStyle);
+    return Read(m_path, kLocationStyle);
 }
 double CINIConfig::GetLocationXCheck() const {
-    return Read(m_strPath, kLocationXCheck);
+    return Read(m_path, kLocationXCheck);
 }
 double CINIConfig::GetLocationYCheck() const {
-    return Read(m_strPath, kLocationYCheck);
+    return Read(m_path, kLocationYCheck);
 }
 long CINIConfig::GetDateLocationStyle() const {
-    return Read(m_strPath, kDateLocationStyle);
+    return Read(m_path, kDateLocationStyle);
 }
 double CINIConfig::GetDateLocationXCheck() const {
-    return Read(m_strPath, kDateLocationXCheck);
+    return Read(m_path, kDateLocationXCheck);
 }
 double CINIConfig::GetDateLocationYCheck() const {
-    return Read(m_strPath, kDateLocationYCheck);
+    return Read(m_path, kDateLocationYCheck);
 }

@@ -1,7 +1,7 @@
 // CModelConfig: loads the model configuration and picks the three configurations that signing needs.
-#include "config/ModelConfig.h"
+#include "varnoke/ModelConfig.h"
 
-#include "config/qorparser.h"
+#include "neighbours/qorparser.h"
 #include "module/BstrText.h"
 #include "module/Guarded.h"
 #include "module/ModulePaths.h"
@@ -53,33 +53,33 @@ IQORObjMapConfigPtr FindMap(IQORObjMapConfigs* maps, long count, const CString& 
 
 } // namespace
 
-CModelConfig::CModelConfig() : m_pParentWnd(nullptr) {}
+CModelConfig::CModelConfig() : m_parentWnd(nullptr) {}
 
 CModelConfig::~CModelConfig() {
     Guarded([&] {
-        m_strConfigPath.Empty();
-        m_spModel = nullptr;
-        m_pParentWnd = nullptr;
+        m_configPath.Empty();
+        m_model = nullptr;
+        m_parentWnd = nullptr;
     });
 }
 
 long CModelConfig::Initialize(CWnd* pParentWnd) {
     return Guarded(0L, [&] {
-        m_pParentWnd = pParentWnd;
+        m_parentWnd = pParentWnd;
         const long result = m_iniConfig.Initialize(pParentWnd);
         if (result == 0) return 0L;
-        m_strConfigPath = varnoke::ModelConfigPath();
-        return m_strConfigPath.IsEmpty() ? 0L : result;
+        m_configPath = varnoke::ModelConfigPath();
+        return m_configPath.IsEmpty() ? 0L : result;
     });
 }
 
 long CModelConfig::Load() {
     return Guarded(0L, [&] {
         CQORXmlConfigParser parser;
-        if (m_strConfigPath.IsEmpty()) return 0L;
-        m_spModel = nullptr;
-        parser.parseDataFile(m_strConfigPath, m_spModel);
-        return m_spModel ? 1L : 0L;
+        if (m_configPath.IsEmpty()) return 0L;
+        m_model = nullptr;
+        parser.parseDataFile(m_configPath, m_model);
+        return m_model ? 1L : 0L;
     });
 }
 
@@ -89,22 +89,22 @@ long CModelConfig::Uninitialize() {
 
 IQORObjConfigPtr CModelConfig::GetLocalObjectConfig() {
     return Guarded(IQORObjConfigPtr(), [&] {
-        return m_spModel ? FindObjConfig(m_spModel, LocalId(m_iniConfig)) : IQORObjConfigPtr();
+        return m_model ? FindObjConfig(m_model, LocalId(m_iniConfig)) : IQORObjConfigPtr();
     });
 }
 
 IQORObjConfigPtr CModelConfig::GetServerObjectConfig() {
     return Guarded(IQORObjConfigPtr(), [&] {
-        return m_spModel ? FindObjConfig(m_spModel, ServerId(m_iniConfig)) : IQORObjConfigPtr();
+        return m_model ? FindObjConfig(m_model, ServerId(m_iniConfig)) : IQORObjConfigPtr();
     });
 }
 
 IQORObjMapConfigPtr CModelConfig::GetMapObjectConfig() {
     return Guarded(IQORObjMapConfigPtr(), [&]() -> IQORObjMapConfigPtr {
-        if (!m_spModel) return nullptr;
+        if (!m_model) return nullptr;
         IQORDomainConfigPtr domain;
         const CString domainName = OrDefault(m_iniConfig.GetDesignDoMain(), L"standard");
-        CheckError(m_spModel->GetDomainConfig(ToBstr(domainName), &domain));
+        CheckError(m_model->GetDomainConfig(ToBstr(domainName), &domain));
         if (!domain) return nullptr;
         IQORObjMapConfigsPtr maps;
         CheckError(domain->GetObjMapConfigs(ToBstr(LocalId(m_iniConfig)), &maps));

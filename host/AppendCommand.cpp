@@ -22,31 +22,30 @@ CString TextOf(const CString& file) {
 
 } // namespace
 
-std::vector<SOptionRule> CAppendCommand::Rules() {
-    return MessageRules(CInteractiveSession::Rules());
+std::vector<OptionRule> AppendCommand::Rules() {
+    return MessageRules(InteractiveSession::Rules());
 }
 
-int CAppendCommand::Run(const COptions& options) {
-    SRunInput input;
+int AppendCommand::Run(const Options& options) {
+    RunInput input;
     if (!LoadRunInput(options, input)) return exitRefused;
-    const CString kept = SignDataFile(input.m_strWork, L"StartSign.Xml");
+    const CString kept = SignDataFile(input.work, L"StartSign.Xml");
     if (!FileExists(kept)) {
-        PrintError(Text(EText::NothingKept, {input.m_strWork}));
+        PrintError(Text(TextId::NothingKept, {input.work}));
         return exitRefused;
     }
-    CInteractiveSession session(options);
+    InteractiveSession session(options);
     if (!session.Open()) return exitFailed;
     const CString before = TextOf(kept);
-    SMessageRecords records;
-    if (!StartMessage(session.Plm(), &CPLMInteract::AppendStartSign, input.m_strMessage, input.m_strWork,
-                      records)) {
+    MessageRecords records;
+    if (!StartMessage(session.Plm(), &CPLMInteract::AppendStartSign, input.message, input.work, records)) {
         // The library merges first and lets the user choose then.
-        PrintLine(Text(TextOf(kept) == before ? EText::NothingMerged : EText::MergedUnchosen));
+        PrintLine(Text(TextOf(kept) == before ? TextId::NothingMerged : TextId::MergedUnchosen));
         return exitNone;
     }
     // The library adds every new document to the kept message, but hands only the first one out.
-    for (const CDocument& document : DocumentsOf(*records.m_pFiles)) {
-        PrintLine(Text(EText::Merged, {document.Name()}));
+    for (const Document& document : DocumentsOf(*records.files)) {
+        PrintLine(Text(TextId::Merged, {document.Name()}));
     }
     return exitDone;
 }

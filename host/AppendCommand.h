@@ -6,10 +6,10 @@
 
 namespace host {
 
-class CAppendCommand : public CCommand {
+class AppendCommand : public Command {
 public:
-    static std::vector<SOptionRule> Rules();
-    int Run(const COptions& options) override;
+    static std::vector<OptionRule> Rules();
+    int Run(const Options& options) override;
 };
 
 } // namespace host

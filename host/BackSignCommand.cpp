@@ -26,50 +26,50 @@ CString ReturnFileOf(const CString& returnPath) {
 
 } // namespace
 
-std::vector<SOptionRule> CBackSignCommand::Rules() {
+std::vector<OptionRule> BackSignCommand::Rules() {
     return MessageRules({{L"--return", L"FILE", true}, {L"--dry-run", nullptr, false}});
 }
 
-int CBackSignCommand::Run(const COptions& options) {
+int BackSignCommand::Run(const Options& options) {
     // No box of the system may stop a run that nobody watches.
     ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX | SEM_NOOPENFILEERRORBOX);
-    SRunInput input;
+    RunInput input;
     if (!LoadRunInput(options, input)) return exitRefused;
     const CString returnPath = ReturnPath(options.Value(L"--return"));
     if (!FolderExists(ParentFolder(returnPath) + L"\\")) {
-        PrintError(Text(EText::NoReturnFolder, {returnPath}));
+        PrintError(Text(TextId::NoReturnFolder, {returnPath}));
         return exitRefused;
     }
-    if (options.Has(L"--dry-run")) return CDryRun(input).Run();
+    if (options.Has(L"--dry-run")) return DryRun(input).Run();
     if (!PrepareWorkFolder(input)) return exitRefused;
     return SignAll(input, returnPath);
 }
 
-int CBackSignCommand::SignAll(const SRunInput& input, const CString& returnPath) {
-    CSession session;
+int BackSignCommand::SignAll(const RunInput& input, const CString& returnPath) {
+    Session session;
     if (!session.Open(false)) {
-        PrintError(Text(EText::FrameworkFailed));
+        PrintError(Text(TextId::FrameworkFailed));
         return exitFailed;
     }
-    if (!session.HasModel()) PrintError(Text(EText::NoModel));
-    SMessageRecords records;
-    if (!StartMessage(session.Plm(), &CPLMInteract::StartSignForBackSign, input.m_strMessage, input.m_strWork,
+    if (!session.HasModel()) PrintError(Text(TextId::NoModel));
+    MessageRecords records;
+    if (!StartMessage(session.Plm(), &CPLMInteract::StartSignForBackSign, input.message, input.work,
                       records)) {
-        PrintError(Text(EText::MessageRefused));
+        PrintError(Text(TextId::MessageRefused));
         return exitRefused;
     }
-    const std::vector<CDocument> documents = DocumentsOf(*records.m_pFiles);
-    CBackSignRun run(session, *records.m_pLogin, input.m_strWork);
+    const std::vector<Document> documents = DocumentsOf(*records.files);
+    BackSignRun run(session, *records.login, input.work);
     run.Run(documents);
 
     const size_t done = static_cast<size_t>(run.SignedNames().GetCount());
-    PrintLine(Text(EText::Summary, {NumberText(done), NumberText(documents.size())}));
+    PrintLine(Text(TextId::Summary, {NumberText(done), NumberText(documents.size())}));
     if (!session.Plm().NotifyPLMSignForBackSignRet(run.SignedNames(), InText(kNameProperty),
-                                                   InText(input.m_strWork), InText(returnPath))) {
-        PrintError(Text(EText::ReturnFileFailed, {ReturnFileOf(returnPath)}));
+                                                   InText(input.work), InText(returnPath))) {
+        PrintError(Text(TextId::ReturnFileFailed, {ReturnFileOf(returnPath)}));
         return exitFailed;
     }
-    PrintLine(Text(EText::ReturnFile, {ReturnFileOf(returnPath)}));
+    PrintLine(Text(TextId::ReturnFile, {ReturnFileOf(returnPath)}));
     return ExitOfCount(done, documents.size());
 }
 

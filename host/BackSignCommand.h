@@ -6,13 +6,13 @@
 
 namespace host {
 
-class CBackSignCommand : public CCommand {
+class BackSignCommand : public Command {
 public:
-    static std::vector<SOptionRule> Rules();
-    int Run(const COptions& options) override;
+    static std::vector<OptionRule> Rules();
+    int Run(const Options& options) override;
 
 private:
-    int SignAll(const SRunInput& input, const CString& returnPath);
+    int SignAll(const RunInput& input, const CString& returnPath);
 };
 
 } // namespace host

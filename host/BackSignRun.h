@@ -13,29 +13,29 @@
 
 namespace host {
 
-class CBackSignRun {
+class BackSignRun {
 public:
     /// All arguments are borrowed. `work` is the documents' folder.
-    CBackSignRun(CSession& session, const SLoginInfo& login, const CString& work);
+    BackSignRun(Session& session, const SLoginInfo& login, const CString& work);
 
     /// Takes every document as far as it gets and prints its line. Afterwards SignedNames() holds the names
     /// of those that were downloaded, signed and uploaded.
-    void Run(const std::vector<CDocument>& documents);
+    void Run(const std::vector<Document>& documents);
     CStringList& SignedNames() { return m_signedNames; }
 
 private:
     /// Signed, or the step that failed.
-    EText Process(const CDocument& document);
-    EText Sign(const CDocument& document);
-    bool Download(const CDocument& document);
-    bool Upload(const CDocument& document);
+    TextId Process(const Document& document);
+    TextId Sign(const Document& document);
+    bool Download(const Document& document);
+    bool Upload(const Document& document);
     /// Signed while signing is possible at all, else the reason why it isn't.
-    EText Connect();
+    TextId Connect();
 
-    CSession& m_session;
+    Session& m_session;
     const SLoginInfo& m_login;
-    CString m_strWork;
-    CSignMarks m_marks;
+    CString m_work;
+    SignMarks m_marks;
     CStringList m_signedNames;
 };
 

@@ -10,7 +10,7 @@
 namespace host {
 
 /// Exit codes of the program.
-enum EExit {
+enum ExitCode {
     exitDone = 0,    ///< everything that was asked for was done
     exitFailed = 1,  ///< the machine failed: framework, return file
     exitRefused = 2, ///< bad usage, a folder or file that isn't there, or a refused message
@@ -18,11 +18,11 @@ enum EExit {
     exitNone = 4     ///< no document was signed; nothing was merged, found or confirmed
 };
 
-class CCommand {
+class Command {
 public:
-    virtual ~CCommand() = default;
+    virtual ~Command() = default;
     /// Carries the command out on the main thread, with the framework and COM ready. Returns the exit code.
-    virtual int Run(const COptions& options) = 0;
+    virtual int Run(const Options& options) = 0;
 };
 
 } // namespace host

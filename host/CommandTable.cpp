@@ -14,32 +14,32 @@ namespace host {
 
 namespace {
 
-template <class Command>
-std::unique_ptr<CCommand> Make() {
-    return std::make_unique<Command>();
+template <class T>
+std::unique_ptr<Command> Make() {
+    return std::make_unique<T>();
 }
 
-template <class Command>
-constexpr SCommandEntry Entry(const wchar_t* name, EText purpose) {
-    return {name, purpose, &Command::Rules, &Make<Command>};
+template <class T>
+constexpr CommandEntry Entry(const wchar_t* name, TextId purpose) {
+    return {name, purpose, &T::Rules, &Make<T>};
 }
 
-const SCommandEntry kCommands[] = {
-    Entry<CBackSignCommand>(L"back-sign", EText::PurposeBackSign),
-    Entry<CAppendCommand>(L"append", EText::PurposeAppend),
-    Entry<CLogCommand>(L"log", EText::PurposeLog),
-    Entry<CStatusCommand>(L"status", EText::PurposeStatus),
-    Entry<CSignCommand>(L"sign", EText::PurposeSign),
-    Entry<COptionCommand>(L"option", EText::PurposeOption),
+const CommandEntry kCommands[] = {
+    Entry<BackSignCommand>(L"back-sign", TextId::PurposeBackSign),
+    Entry<AppendCommand>(L"append", TextId::PurposeAppend),
+    Entry<LogCommand>(L"log", TextId::PurposeLog),
+    Entry<StatusCommand>(L"status", TextId::PurposeStatus),
+    Entry<SignCommand>(L"sign", TextId::PurposeSign),
+    Entry<OptionCommand>(L"option", TextId::PurposeOption),
 };
 
 void PrintUsage(void (*print)(const CString&)) {
-    print(Text(EText::Usage));
-    for (const SCommandEntry& command : kCommands) {
-        print(CString(L"  ") + command.m_pszName + UsageOf(command.m_pfnRules()));
-        print(CString(L"      ") + Text(command.m_purpose));
+    print(Text(TextId::Usage));
+    for (const CommandEntry& command : kCommands) {
+        print(CString(L"  ") + command.name + UsageOf(command.rules()));
+        print(CString(L"      ") + Text(command.purpose));
     }
-    print(Text(EText::UsageEnd));
+    print(Text(TextId::UsageEnd));
 }
 
 int RefuseUsage(const CString& error) {
@@ -57,15 +57,15 @@ int RunCommand(const std::vector<CString>& arguments) {
         PrintUsage(PrintLine);
         return exitDone;
     }
-    for (const SCommandEntry& command : kCommands) {
-        if (name != command.m_pszName) continue;
-        COptions options;
+    for (const CommandEntry& command : kCommands) {
+        if (name != command.name) continue;
+        Options options;
         CString error;
         const std::vector<CString> rest(arguments.begin() + 1, arguments.end());
-        if (!options.Parse(rest, command.m_pfnRules(), error)) return RefuseUsage(error);
-        return command.m_pfnMake()->Run(options);
+        if (!options.Parse(rest, command.rules(), error)) return RefuseUsage(error);
+        return command.make()->Run(options);
     }
-    return RefuseUsage(Text(EText::UnknownCommand, {name}));
+    return RefuseUsage(Text(TextId::UnknownCommand, {name}));
 }
 
 } // namespace host

@@ -9,11 +9,11 @@
 
 namespace host {
 
-struct SCommandEntry {
-    const wchar_t* m_pszName;
-    EText m_purpose;
-    std::vector<SOptionRule> (*m_pfnRules)();
-    std::unique_ptr<CCommand> (*m_pfnMake)();
+struct CommandEntry {
+    const wchar_t* name;
+    TextId purpose;
+    std::vector<OptionRule> (*rules)();
+    std::unique_ptr<Command> (*make)();
 };
 
 /// Runs the command that the arguments (without the program's name) ask for; prints the usage for bad ones.

@@ -17,7 +17,7 @@ constexpr UINT kLookEveryMs = 100;
 // Long enough for a dialog's controls to paint and for a short transfer to show its log.
 constexpr ULONGLONG kSettleMs = 1200;
 
-CDialogWatcher* g_watcher = nullptr; // the timer procedure has no argument of its own
+DialogWatcher* g_watcher = nullptr; // the timer procedure has no argument of its own
 
 BOOL CALLBACK AddDialog(HWND window, LPARAM list) {
     wchar_t windowClass[16];
@@ -35,47 +35,46 @@ HWND DefaultButton(HWND dialog) {
 
 } // namespace
 
-CDialogWatcher::CDialogWatcher(const CString& folder, bool confirm)
-    : m_strFolder(folder), m_bConfirm(confirm) {
+DialogWatcher::DialogWatcher(const CString& folder, bool confirm) : m_folder(folder), m_confirm(confirm) {
     g_watcher = this;
-    m_nTimer = ::SetTimer(nullptr, 0, kLookEveryMs, OnTimer);
+    m_timer = ::SetTimer(nullptr, 0, kLookEveryMs, OnTimer);
 }
 
-CDialogWatcher::~CDialogWatcher() {
-    ::KillTimer(nullptr, m_nTimer);
+DialogWatcher::~DialogWatcher() {
+    ::KillTimer(nullptr, m_timer);
     g_watcher = nullptr;
 }
 
-void CALLBACK CDialogWatcher::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
+void CALLBACK DialogWatcher::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
     if (g_watcher) g_watcher->Look();
 }
 
-std::vector<HWND> CDialogWatcher::VisibleDialogs() {
+std::vector<HWND> DialogWatcher::VisibleDialogs() {
     std::vector<HWND> dialogs;
     ::EnumThreadWindows(::GetCurrentThreadId(), AddDialog, reinterpret_cast<LPARAM>(&dialogs));
     return dialogs;
 }
 
-void CDialogWatcher::Look() {
+void DialogWatcher::Look() {
     const std::vector<HWND> dialogs = VisibleDialogs();
     // A closed dialog's handle may come back as another dialog's.
     m_seen.erase(std::remove_if(m_seen.begin(), m_seen.end(),
-                                [&dialogs](const SSeenDialog& seen) {
-                                    return std::find(dialogs.begin(), dialogs.end(), seen.m_hWnd) ==
+                                [&dialogs](const SeenDialog& seen) {
+                                    return std::find(dialogs.begin(), dialogs.end(), seen.window) ==
                                            dialogs.end();
                                 }),
                  m_seen.end());
     const ULONGLONG now = ::GetTickCount64();
     for (HWND dialog : dialogs) {
         auto seen = std::find_if(m_seen.begin(), m_seen.end(),
-                                 [dialog](const SSeenDialog& entry) { return entry.m_hWnd == dialog; });
+                                 [dialog](const SeenDialog& entry) { return entry.window == dialog; });
         if (seen == m_seen.end()) {
             m_seen.push_back({dialog, now, 0});
         } else if (IsDue(*seen, now)) {
-            seen->m_nSince = now;
-            if (++seen->m_nAnswers == 1) TakePicture(dialog);
-            if (!m_bConfirm) continue;
-            if (seen->m_nAnswers == 1) {
+            seen->since = now;
+            if (++seen->answers == 1) TakePicture(dialog);
+            if (!m_confirm) continue;
+            if (seen->answers == 1) {
                 Confirm(dialog);
             } else {
                 ::PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
@@ -84,23 +83,23 @@ void CDialogWatcher::Look() {
     }
 }
 
-bool CDialogWatcher::IsDue(const SSeenDialog& dialog, ULONGLONG now) {
-    if (now - dialog.m_nSince < kSettleMs) return false;
-    if (dialog.m_nAnswers == 0) return true;
+bool DialogWatcher::IsDue(const SeenDialog& dialog, ULONGLONG now) {
+    if (now - dialog.since < kSettleMs) return false;
+    if (dialog.answers == 0) return true;
     // A transfer has no button and takes its time; a disabled dialog waits for its message box.
-    return DefaultButton(dialog.m_hWnd) && ::IsWindowEnabled(dialog.m_hWnd);
+    return DefaultButton(dialog.window) && ::IsWindowEnabled(dialog.window);
 }
 
-void CDialogWatcher::TakePicture(HWND dialog) {
-    if (m_strFolder.IsEmpty()) return;
+void DialogWatcher::TakePicture(HWND dialog) {
+    if (m_folder.IsEmpty()) return;
     wchar_t title[64];
     ::GetWindowTextW(dialog, title, _countof(title));
     CString name;
-    name.Format(L"%02d-%s.png", ++m_nPictures, title);
-    if (!SavePicture(dialog, JoinPath(m_strFolder, name))) PrintError(Text(EText::PictureFailed, {name}));
+    name.Format(L"%02d-%s.png", ++m_pictures, title);
+    if (!SavePicture(dialog, JoinPath(m_folder, name))) PrintError(Text(TextId::PictureFailed, {name}));
 }
 
-void CDialogWatcher::Confirm(HWND dialog) {
+void DialogWatcher::Confirm(HWND dialog) {
     const HWND button = ::IsWindowEnabled(dialog) ? DefaultButton(dialog) : nullptr;
     if (button) {
         ::PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(button), BN_CLICKED),

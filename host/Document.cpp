@@ -25,14 +25,13 @@ CString FirstValueOf(const SSignObj& object, const wchar_t* name, const CString&
 
 } // namespace
 
-CDocument::CDocument(const SSignObj& object)
-    : m_pObject(&object), m_strName(FirstValueOf(object, kNameProperty, CString())),
-      m_strRemoteName(FirstValueOf(object, L"LOCATION", m_strName)),
-      m_strId(FirstValueOf(object, L"ID", m_strName)),
-      m_strRole(FirstValueOf(object, L"SIGN_ROLE", kDefaultRole)), m_names(ValuesOf(object, kNameProperty)) {}
+Document::Document(const SSignObj& object)
+    : m_object(&object), m_name(FirstValueOf(object, kNameProperty, CString())),
+      m_remoteName(FirstValueOf(object, L"LOCATION", m_name)), m_id(FirstValueOf(object, L"ID", m_name)),
+      m_role(FirstValueOf(object, L"SIGN_ROLE", kDefaultRole)), m_names(ValuesOf(object, kNameProperty)) {}
 
-std::vector<CDocument> DocumentsOf(const SSignType& files) {
-    std::vector<CDocument> documents;
+std::vector<Document> DocumentsOf(const SSignType& files) {
+    std::vector<Document> documents;
     for (POSITION position = files.m_lstObj.GetHeadPosition(); position;) {
         const SSignObj* object = files.m_lstObj.GetNext(position);
         if (object) documents.emplace_back(*object);

@@ -13,35 +13,35 @@ namespace host {
 /// Property of a document that holds its file name in the work folder; the result file is keyed by it too.
 constexpr wchar_t kNameProperty[] = L"FNAME";
 
-class CDocument {
+class Document {
 public:
     /// `object` is borrowed from the message's records, which must outlive this.
-    explicit CDocument(const SSignObj& object);
+    explicit Document(const SSignObj& object);
 
-    const SSignObj& Object() const { return *m_pObject; }
-    const CString& Name() const { return m_strName; }
+    const SSignObj& Object() const { return *m_object; }
+    const CString& Name() const { return m_name; }
     /// "LOCATION", the server's name of the file; the file name without one.
-    const CString& RemoteName() const { return m_strRemoteName; }
+    const CString& RemoteName() const { return m_remoteName; }
     /// "ID"; the file name without one, which identifies the document as well.
-    const CString& Id() const { return m_strId; }
+    const CString& Id() const { return m_id; }
     /// "SIGN_ROLE", the role in which the document is signed; the designer's without one.
-    const CString& Role() const { return m_strRole; }
+    const CString& Role() const { return m_role; }
 
     /// Why the document is refused; None for one that may be fetched.
-    ENameFault NameFault() const { return CheckDocumentName(m_strName); }
+    NameFault Fault() const { return CheckDocumentName(m_name); }
     /// All values of the name property: the result file finds a document by any of them.
     const std::vector<CString>& AllNames() const { return m_names; }
 
 private:
-    const SSignObj* m_pObject; // weak
-    CString m_strName;
-    CString m_strRemoteName;
-    CString m_strId;
-    CString m_strRole;
+    const SSignObj* m_object; // weak
+    CString m_name;
+    CString m_remoteName;
+    CString m_id;
+    CString m_role;
     std::vector<CString> m_names;
 };
 
 /// The documents of a message, in message order.
-std::vector<CDocument> DocumentsOf(const SSignType& files);
+std::vector<Document> DocumentsOf(const SSignType& files);
 
 } // namespace host

@@ -11,69 +11,69 @@ namespace host {
 
 namespace {
 
-EText TextOfFault(ENameFault fault) {
+TextId TextOfFault(NameFault fault) {
     switch (fault) {
-    case ENameFault::Empty:
-        return EText::RefusedEmpty;
-    case ENameFault::Path:
-        return EText::RefusedPath;
-    case ENameFault::Device:
-        return EText::RefusedDevice;
-    case ENameFault::Ending:
-        return EText::RefusedEnding;
-    case ENameFault::Character:
-        return EText::RefusedCharacter;
-    case ENameFault::SignData:
-        return EText::RefusedSignData;
-    case ENameFault::None:
+    case NameFault::Empty:
+        return TextId::RefusedEmpty;
+    case NameFault::Path:
+        return TextId::RefusedPath;
+    case NameFault::Device:
+        return TextId::RefusedDevice;
+    case NameFault::Ending:
+        return TextId::RefusedEnding;
+    case NameFault::Character:
+        return TextId::RefusedCharacter;
+    case NameFault::SignData:
+        return TextId::RefusedSignData;
+    case NameFault::None:
         break;
     }
-    return EText::Ready;
+    return TextId::Ready;
 }
 
-struct SOwnedName {
-    CString m_strName;
-    size_t m_nDocument;
+struct OwnedName {
+    CString name;
+    size_t document;
 };
 
 /// The names of all documents in the order of names, so that equal ones are neighbours.
-std::vector<SOwnedName> SortedNames(const std::vector<CDocument>& documents) {
-    std::vector<SOwnedName> names;
+std::vector<OwnedName> SortedNames(const std::vector<Document>& documents) {
+    std::vector<OwnedName> names;
     for (size_t i = 0; i < documents.size(); ++i) {
         for (const CString& name : documents[i].AllNames()) {
             if (!name.IsEmpty()) names.push_back({name, i});
         }
     }
-    std::sort(names.begin(), names.end(), [](const SOwnedName& a, const SOwnedName& b) {
-        const int order = CompareFileNames(a.m_strName, b.m_strName);
-        return order != 0 ? order < 0 : a.m_nDocument < b.m_nDocument;
+    std::sort(names.begin(), names.end(), [](const OwnedName& a, const OwnedName& b) {
+        const int order = CompareFileNames(a.name, b.name);
+        return order != 0 ? order < 0 : a.document < b.document;
     });
     return names;
 }
 
 } // namespace
 
-std::vector<EText> RefusalsOf(const std::vector<CDocument>& documents) {
-    std::vector<EText> refusals;
-    for (const CDocument& document : documents) {
-        refusals.push_back(TextOfFault(document.NameFault()));
+std::vector<TextId> RefusalsOf(const std::vector<Document>& documents) {
+    std::vector<TextId> refusals;
+    for (const Document& document : documents) {
+        refusals.push_back(TextOfFault(document.Fault()));
     }
-    const std::vector<SOwnedName> names = SortedNames(documents);
+    const std::vector<OwnedName> names = SortedNames(documents);
     for (size_t i = 1; i < names.size(); ++i) {
-        const SOwnedName &one = names[i - 1], &other = names[i];
-        if (one.m_nDocument == other.m_nDocument || CompareFileNames(one.m_strName, other.m_strName) != 0) {
+        const OwnedName &one = names[i - 1], &other = names[i];
+        if (one.document == other.document || CompareFileNames(one.name, other.name) != 0) {
             continue;
         }
-        for (size_t document : {one.m_nDocument, other.m_nDocument}) {
-            if (refusals[document] == EText::Ready) refusals[document] = EText::RefusedTwice;
+        for (size_t document : {one.document, other.document}) {
+            if (refusals[document] == TextId::Ready) refusals[document] = TextId::RefusedTwice;
         }
     }
     return refusals;
 }
 
-void PrintDocumentLine(const std::vector<CDocument>& documents, size_t index, EText outcome) {
+void PrintDocumentLine(const std::vector<Document>& documents, size_t index, TextId outcome) {
     CString name = documents[index].Name();
-    if (name.IsEmpty()) name = Text(EText::Document, {NumberText(index + 1)});
+    if (name.IsEmpty()) name = Text(TextId::Document, {NumberText(index + 1)});
     PrintLine(name + L": " + Text(outcome));
 }
 

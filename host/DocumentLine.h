@@ -12,10 +12,10 @@ namespace host {
 
 /// For each document why the host refuses it, or Ready. Documents that share a file name are all refused: one
 /// would overwrite the other in the work folder, and the result file couldn't tell them apart.
-std::vector<EText> RefusalsOf(const std::vector<CDocument>& documents);
+std::vector<TextId> RefusalsOf(const std::vector<Document>& documents);
 
 /// Prints the line of one document, by its name, or by its place in the message when it has none.
-void PrintDocumentLine(const std::vector<CDocument>& documents, size_t index, EText outcome);
+void PrintDocumentLine(const std::vector<Document>& documents, size_t index, TextId outcome);
 
 /// Exit code of a run over so many documents.
 int ExitOfCount(size_t done, size_t all);

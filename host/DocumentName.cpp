@@ -36,15 +36,15 @@ bool HasForbiddenCharacter(const CString& name) {
 
 } // namespace
 
-ENameFault CheckDocumentName(const CString& name) {
-    if (name.IsEmpty()) return ENameFault::Empty;
-    if (name.FindOneOf(L"\\/:") >= 0 || name == L"." || name == L"..") return ENameFault::Path;
-    if (IsDevice(name)) return ENameFault::Device;
+NameFault CheckDocumentName(const CString& name) {
+    if (name.IsEmpty()) return NameFault::Empty;
+    if (name.FindOneOf(L"\\/:") >= 0 || name == L"." || name == L"..") return NameFault::Path;
+    if (IsDevice(name)) return NameFault::Device;
     const wchar_t last = name[name.GetLength() - 1];
-    if (last == L'.' || last == L' ') return ENameFault::Ending;
-    if (HasForbiddenCharacter(name)) return ENameFault::Character;
-    if (name.CompareNoCase(L"SignData") == 0) return ENameFault::SignData;
-    return ENameFault::None;
+    if (last == L'.' || last == L' ') return NameFault::Ending;
+    if (HasForbiddenCharacter(name)) return NameFault::Character;
+    if (name.CompareNoCase(L"SignData") == 0) return NameFault::SignData;
+    return NameFault::None;
 }
 
 int CompareFileNames(const CString& a, const CString& b) {

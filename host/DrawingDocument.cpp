@@ -11,11 +11,11 @@ constexpr const wchar_t* kMembers[] = {L"FullName", L"Name"};
 
 } // namespace
 
-IDispatchPtr CDrawingDocument::Make(const CString& path) {
-    return IDispatchPtr(new CDrawingDocument(path), false);
+IDispatchPtr DrawingDocument::Make(const CString& path) {
+    return IDispatchPtr(new DrawingDocument(path), false);
 }
 
-STDMETHODIMP CDrawingDocument::QueryInterface(REFIID iid, void** object) {
+STDMETHODIMP DrawingDocument::QueryInterface(REFIID iid, void** object) {
     if (!object) return E_POINTER;
     *object =
         iid == __uuidof(IUnknown) || iid == __uuidof(IDispatch) ? static_cast<IDispatch*>(this) : nullptr;
@@ -24,29 +24,29 @@ STDMETHODIMP CDrawingDocument::QueryInterface(REFIID iid, void** object) {
     return S_OK;
 }
 
-STDMETHODIMP_(ULONG) CDrawingDocument::AddRef() {
-    return static_cast<ULONG>(::InterlockedIncrement(&m_nReferences));
+STDMETHODIMP_(ULONG) DrawingDocument::AddRef() {
+    return static_cast<ULONG>(::InterlockedIncrement(&m_references));
 }
 
-STDMETHODIMP_(ULONG) CDrawingDocument::Release() {
-    const LONG left = ::InterlockedDecrement(&m_nReferences);
+STDMETHODIMP_(ULONG) DrawingDocument::Release() {
+    const LONG left = ::InterlockedDecrement(&m_references);
     if (left == 0) delete this;
     return static_cast<ULONG>(left);
 }
 
-STDMETHODIMP CDrawingDocument::GetTypeInfoCount(UINT* count) {
+STDMETHODIMP DrawingDocument::GetTypeInfoCount(UINT* count) {
     if (!count) return E_POINTER;
     *count = 0;
     return S_OK;
 }
 
-STDMETHODIMP CDrawingDocument::GetTypeInfo(UINT, LCID, ITypeInfo** info) {
+STDMETHODIMP DrawingDocument::GetTypeInfo(UINT, LCID, ITypeInfo** info) {
     if (!info) return E_POINTER;
     *info = nullptr;
     return DISP_E_BADINDEX;
 }
 
-STDMETHODIMP CDrawingDocument::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) {
+STDMETHODIMP DrawingDocument::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) {
     if (!names || !ids || count != 1) return E_INVALIDARG;
     ids[0] = DISPID_UNKNOWN;
     for (DISPID member = 0; member < static_cast<DISPID>(_countof(kMembers)); ++member) {
@@ -55,13 +55,13 @@ STDMETHODIMP CDrawingDocument::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count
     return ids[0] == DISPID_UNKNOWN ? DISP_E_UNKNOWNNAME : S_OK;
 }
 
-STDMETHODIMP CDrawingDocument::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS*, VARIANT* result,
-                                      EXCEPINFO*, UINT*) {
+STDMETHODIMP DrawingDocument::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS*, VARIANT* result,
+                                     EXCEPINFO*, UINT*) {
     if (id < 1 || id > static_cast<DISPID>(_countof(kMembers)) || !(flags & DISPATCH_PROPERTYGET)) {
         return DISP_E_MEMBERNOTFOUND;
     }
     if (!result) return E_POINTER;
-    const CString value = id == 1 ? m_strPath : m_strPath.Mid(m_strPath.ReverseFind(L'\\') + 1);
+    const CString value = id == 1 ? m_path : m_path.Mid(m_path.ReverseFind(L'\\') + 1);
     result->vt = VT_BSTR;
     result->bstrVal = ::SysAllocString(value);
     return result->bstrVal ? S_OK : E_OUTOFMEMORY;

@@ -11,7 +11,7 @@ _COM_SMARTPTR_TYPEDEF(IDispatch, __uuidof(IDispatch));
 
 /// What the signing operations take as the host's open document. It answers "FullName" and "Name", as drawing
 /// programs' documents do. Counted as COM objects are; Make() gives the only reference.
-class CDrawingDocument : public IDispatch {
+class DrawingDocument : public IDispatch {
 public:
     /// `path` is the full path of the open drawing.
     static IDispatchPtr Make(const CString& path);
@@ -26,11 +26,11 @@ public:
                         VARIANT* result, EXCEPINFO* exception, UINT* badArgument) override;
 
 private:
-    explicit CDrawingDocument(const CString& path) : m_strPath(path) {}
-    virtual ~CDrawingDocument() = default;
+    explicit DrawingDocument(const CString& path) : m_path(path) {}
+    virtual ~DrawingDocument() = default;
 
-    LONG m_nReferences = 1;
-    CString m_strPath;
+    LONG m_references = 1;
+    CString m_path;
 };
 
 } // namespace host

@@ -7,9 +7,9 @@
 
 namespace host {
 
-class CDryRun {
+class DryRun {
 public:
-    explicit CDryRun(const SRunInput& input) : m_input(input) {}
+    explicit DryRun(const RunInput& input) : m_input(input) {}
 
     /// Works in a private temporary folder, since the library keeps a copy of every message that it reads.
     /// Neither the server nor the login of the signing server is called, so no journal tells of it. Returns
@@ -17,12 +17,12 @@ public:
     int Run();
 
 private:
-    int Check(CSession& session, const CString& folder);
+    int Check(Session& session, const CString& folder);
     void ReportSettings(CSignOpt& signOpt);
-    size_t ReportDocuments(const std::vector<CDocument>& documents);
-    bool IsInVault(const CDocument& document) const;
+    size_t ReportDocuments(const std::vector<Document>& documents);
+    bool IsInVault(const Document& document) const;
 
-    const SRunInput& m_input;
+    const RunInput& m_input;
 };
 
 } // namespace host

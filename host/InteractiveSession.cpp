@@ -15,25 +15,25 @@ constexpr wchar_t kAuto[] = L"--auto";
 
 } // namespace
 
-std::vector<SOptionRule> CInteractiveSession::Rules() {
+std::vector<OptionRule> InteractiveSession::Rules() {
     return {{kPictures, L"DIR", false}, {kAuto, nullptr, false}};
 }
 
-bool CInteractiveSession::Open() {
+bool InteractiveSession::Open() {
     const CString pictures = m_options.Has(kPictures) ? FullPath(m_options.Value(kPictures)) : CString();
     if (!pictures.IsEmpty() && !EnsureFolder(pictures)) {
-        PrintError(Text(EText::NoPictureFolder, {pictures}));
+        PrintError(Text(TextId::NoPictureFolder, {pictures}));
         return false;
     }
     // The library's dialogs follow the host: unaware, they would be enlarged as blurred pictures.
     ::SetProcessDPIAware();
     if (!m_session.Open(true)) {
-        PrintError(Text(EText::FrameworkFailed));
+        PrintError(Text(TextId::FrameworkFailed));
         return false;
     }
-    if (!m_session.HasModel()) PrintError(Text(EText::NoModel));
+    if (!m_session.HasModel()) PrintError(Text(TextId::NoModel));
     if (!pictures.IsEmpty() || m_options.Has(kAuto)) {
-        m_pWatcher = std::make_unique<CDialogWatcher>(pictures, m_options.Has(kAuto));
+        m_watcher = std::make_unique<DialogWatcher>(pictures, m_options.Has(kAuto));
     }
     return true;
 }

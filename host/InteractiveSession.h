@@ -9,26 +9,26 @@
 
 namespace host {
 
-class CInteractiveSession {
+class InteractiveSession {
 public:
     /// Options that every interactive command takes.
-    static std::vector<SOptionRule> Rules();
+    static std::vector<OptionRule> Rules();
 
-    explicit CInteractiveSession(const COptions& options) : m_options(options) {}
+    explicit InteractiveSession(const Options& options) : m_options(options) {}
 
     /// Shows the main window and begins to watch dialogs if the options ask for it; false after an error
     /// line.
     bool Open();
 
-    CMainWindow& Window() { return m_session.Window(); }
+    MainWindow& Window() { return m_session.Window(); }
     CPLMInteract& Plm() { return m_session.Plm(); }
     CSignOpt& SignOpt() { return m_session.SignOpt(); }
-    CSession& Session() { return m_session; }
+    Session& Library() { return m_session; }
 
 private:
-    const COptions& m_options;
-    CSession m_session;
-    std::unique_ptr<CDialogWatcher> m_pWatcher;
+    const Options& m_options;
+    Session m_session;
+    std::unique_ptr<DialogWatcher> m_watcher;
 };
 
 } // namespace host

@@ -1,15 +1,15 @@
 // log: the sign record that waits to be sent.
 #pragma once
 
-#include "config/qormodel.h"
+#include "neighbours/qormodel.h"
 #include "host/Command.h"
 
 namespace host {
 
-class CLogCommand : public CCommand {
+class LogCommand : public Command {
 public:
-    static std::vector<SOptionRule> Rules();
-    int Run(const COptions& options) override;
+    static std::vector<OptionRule> Rules();
+    int Run(const Options& options) override;
 
 private:
     int PrintRecord(const CString& file);

@@ -12,15 +12,15 @@ constexpr wchar_t kWindowClass[] = L"VarnokeHost";
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
+BEGIN_MESSAGE_MAP(MainWindow, CWnd)
     ON_WM_PAINT()
 END_MESSAGE_MAP()
 
-CMainWindow::~CMainWindow() {
+MainWindow::~MainWindow() {
     if (m_hWnd) DestroyWindow();
 }
 
-bool CMainWindow::Create(bool visible) {
+bool MainWindow::Create(bool visible) {
     WNDCLASSEXW windowClass = {};
     windowClass.cbSize = sizeof windowClass;
     windowClass.style = CS_HREDRAW | CS_VREDRAW;
@@ -32,23 +32,23 @@ bool CMainWindow::Create(bool visible) {
     windowClass.lpszClassName = kWindowClass;
     if (!::RegisterClassExW(&windowClass) && ::GetLastError() != ERROR_CLASS_ALREADY_EXISTS) return false;
     const DWORD style = WS_OVERLAPPEDWINDOW | (visible ? WS_VISIBLE : 0);
-    return CreateEx(0, kWindowClass, Text(EText::WindowTitle), style, 40, 40, 1100, 800, nullptr, nullptr) !=
+    return CreateEx(0, kWindowClass, Text(TextId::WindowTitle), style, 40, 40, 1100, 800, nullptr, nullptr) !=
            FALSE;
 }
 
-void CMainWindow::ShowStep(const CString& text) {
-    m_strStep = text;
+void MainWindow::ShowStep(const CString& text) {
+    m_step = text;
     Invalidate();
     UpdateWindow();
 }
 
-void CMainWindow::OnPaint() {
+void MainWindow::OnPaint() {
     CPaintDC context(this);
     CRect client;
     GetClientRect(&client);
     client.DeflateRect(16, 12);
     context.SetBkMode(TRANSPARENT);
-    context.DrawText(m_strStep, &client, DT_LEFT | DT_TOP | DT_WORDBREAK | DT_NOPREFIX);
+    context.DrawText(m_step, &client, DT_LEFT | DT_TOP | DT_WORDBREAK | DT_NOPREFIX);
 }
 
 } // namespace host

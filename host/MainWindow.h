@@ -5,9 +5,9 @@
 
 namespace host {
 
-class CMainWindow : public CWnd {
+class MainWindow : public CWnd {
 public:
-    ~CMainWindow() override;
+    ~MainWindow() override;
 
     /// A silent run's window is never shown. False when it can't be made.
     bool Create(bool visible);
@@ -19,7 +19,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    CString m_strStep;
+    CString m_step;
 };
 
 } // namespace host

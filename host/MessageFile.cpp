@@ -5,7 +5,7 @@
 
 #include "host/MessageFile.h"
 #include "host/Texts.h"
-#include "module/Owned.h"
+#include "base/Owned.h"
 
 namespace host {
 
@@ -15,12 +15,12 @@ constexpr LONGLONG kMaxFileSize = 64LL * 1024 * 1024;
 constexpr UINT kUtf16 = 1200;
 constexpr UINT kUtf16BigEndian = 1201;
 
-struct SEncodingName {
-    const char* m_pszName;
-    UINT m_nCodePage;
+struct EncodingName {
+    const char* name;
+    UINT codePage;
 };
 
-constexpr SEncodingName kEncodingNames[] = {
+constexpr EncodingName kEncodingNames[] = {
     {"utf-8", CP_UTF8}, {"gbk", 936},        {"gb2312", 936},       {"cp936", 936},
     {"gb18030", 54936}, {"us-ascii", 20127}, {"iso-8859-1", 28591},
 };
@@ -30,18 +30,18 @@ bool ReadBytes(const CString& path, std::string& bytes, CString& error) {
         path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     LARGE_INTEGER size;
     if (!file || !::GetFileSizeEx(file.get(), &size)) {
-        error = Text(EText::FileUnreadable, {path});
+        error = Text(TextId::FileUnreadable, {path});
         return false;
     }
     if (size.QuadPart > kMaxFileSize) {
-        error = Text(EText::FileTooLarge, {path});
+        error = Text(TextId::FileTooLarge, {path});
         return false;
     }
     bytes.resize(static_cast<size_t>(size.QuadPart));
     DWORD read = 0;
     if (!::ReadFile(file.get(), &bytes[0], static_cast<DWORD>(bytes.size()), &read, nullptr) ||
         read != bytes.size()) {
-        error = Text(EText::FileUnreadable, {path});
+        error = Text(TextId::FileUnreadable, {path});
         return false;
     }
     return true;
@@ -83,15 +83,15 @@ bool DetectEncoding(std::string& bytes, UINT& codePage, CString& error) {
         codePage = CP_UTF8;
         const std::string declared = DeclaredEncoding(bytes);
         if (declared.empty()) return true;
-        for (const SEncodingName& known : kEncodingNames) {
-            if (declared != known.m_pszName) continue;
+        for (const EncodingName& known : kEncodingNames) {
+            if (declared != known.name) continue;
             // Not every system has GB18030; GBK is the two-byte part of it, and the rest is refused as
             // invalid.
-            codePage = ::IsValidCodePage(known.m_nCodePage) ? known.m_nCodePage : 936;
+            codePage = ::IsValidCodePage(known.codePage) ? known.codePage : 936;
             return true;
         }
         error =
-            Text(EText::UnknownEncoding, {CString(std::wstring(declared.begin(), declared.end()).c_str())});
+            Text(TextId::UnknownEncoding, {CString(std::wstring(declared.begin(), declared.end()).c_str())});
         return false;
     }
     return true;
@@ -130,7 +130,7 @@ bool ReadMessageFile(const CString& path, CString& message, CString& error) {
     UINT codePage = CP_UTF8;
     if (!ReadBytes(path, bytes, error) || !DetectEncoding(bytes, codePage, error)) return false;
     if (Decode(bytes, codePage, message)) return true;
-    error = Text(EText::BadEncoding, {path});
+    error = Text(TextId::BadEncoding, {path});
     return false;
 }
 

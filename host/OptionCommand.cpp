@@ -8,17 +8,17 @@
 
 namespace host {
 
-std::vector<SOptionRule> COptionCommand::Rules() {
-    return CInteractiveSession::Rules();
+std::vector<OptionRule> OptionCommand::Rules() {
+    return InteractiveSession::Rules();
 }
 
-int COptionCommand::Run(const COptions& options) {
-    CInteractiveSession session(options);
+int OptionCommand::Run(const Options& options) {
+    InteractiveSession session(options);
     if (!session.Open()) return exitFailed;
     // The dialog needs the settings only, which connecting prepares whether the server is there or not.
-    session.Session().ConnectSignServer();
+    session.Library().ConnectSignServer();
     const bool confirmed = session.SignOpt().SetOption() != 0;
-    PrintLine(Text(confirmed ? EText::OptionStored : EText::Cancelled));
+    PrintLine(Text(confirmed ? TextId::OptionStored : TextId::Cancelled));
     return confirmed ? exitDone : exitNone;
 }
 

@@ -5,10 +5,10 @@
 
 namespace host {
 
-class COptionCommand : public CCommand {
+class OptionCommand : public Command {
 public:
-    static std::vector<SOptionRule> Rules();
-    int Run(const COptions& options) override;
+    static std::vector<OptionRule> Rules();
+    int Run(const Options& options) override;
 };
 
 } // namespace host

@@ -4,7 +4,7 @@
 #include <wincodec.h>
 
 #include "host/PngFile.h"
-#include "module/Owned.h"
+#include "base/Owned.h"
 
 namespace host {
 

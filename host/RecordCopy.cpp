@@ -6,25 +6,25 @@
 
 namespace host {
 
-CRecordCopy::CRecordCopy(const CString& folder, const wchar_t* name)
-    : m_strRecord(SignRecordFile(folder)), m_strCopy(SignDataFile(folder, name)) {}
+RecordCopy::RecordCopy(const CString& folder, const wchar_t* name)
+    : m_record(SignRecordFile(folder)), m_copy(SignDataFile(folder, name)) {}
 
-bool CRecordCopy::Exists() const {
-    return FileExists(m_strCopy);
+bool RecordCopy::Exists() const {
+    return FileExists(m_copy);
 }
 
-bool CRecordCopy::Take() const {
+bool RecordCopy::Take() const {
     Discard();
-    return !FileExists(m_strRecord) || ::CopyFileW(m_strRecord, m_strCopy, FALSE);
+    return !FileExists(m_record) || ::CopyFileW(m_record, m_copy, FALSE);
 }
 
-bool CRecordCopy::Restore() const {
-    if (Exists()) return ::MoveFileExW(m_strCopy, m_strRecord, MOVEFILE_REPLACE_EXISTING) != FALSE;
-    return ::DeleteFileW(m_strRecord) || !FileExists(m_strRecord);
+bool RecordCopy::Restore() const {
+    if (Exists()) return ::MoveFileExW(m_copy, m_record, MOVEFILE_REPLACE_EXISTING) != FALSE;
+    return ::DeleteFileW(m_record) || !FileExists(m_record);
 }
 
-void CRecordCopy::Discard() const {
-    ::DeleteFileW(m_strCopy);
+void RecordCopy::Discard() const {
+    ::DeleteFileW(m_copy);
 }
 
 } // namespace host

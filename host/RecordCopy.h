@@ -5,10 +5,10 @@
 
 namespace host {
 
-class CRecordCopy {
+class RecordCopy {
 public:
     /// `folder` holds the documents; `name` is the copy's file name beside the record.
-    CRecordCopy(const CString& folder, const wchar_t* name);
+    RecordCopy(const CString& folder, const wchar_t* name);
 
     bool Exists() const;
     /// Copies the record as it is; of a missing record there is no copy. False on failure.
@@ -18,8 +18,8 @@ public:
     void Discard() const;
 
 private:
-    CString m_strRecord;
-    CString m_strCopy;
+    CString m_record;
+    CString m_copy;
 };
 
 } // namespace host

@@ -5,19 +5,19 @@
 
 #include <memory>
 
-#include "module/SignRecords.h"
+#include "varnoke/SignRecords.h"
 
 namespace host {
 
-struct SRecordReleaser {
+struct RecordReleaser {
     void operator()(SLoginInfo* record) const { Cmn_ReleaseLoginInfo(record); }
     void operator()(SSignType* record) const { Cmn_ReleaseSignType(record); }
     void operator()(SSignInfo* record) const { Cmn_ReleaseSignInfo(record); }
 };
 
-using LoginInfoPtr = std::unique_ptr<SLoginInfo, SRecordReleaser>;
-using SignTypePtr = std::unique_ptr<SSignType, SRecordReleaser>;
-using SignInfoPtr = std::unique_ptr<SSignInfo, SRecordReleaser>;
+using LoginInfoPtr = std::unique_ptr<SLoginInfo, RecordReleaser>;
+using SignTypePtr = std::unique_ptr<SSignType, RecordReleaser>;
+using SignInfoPtr = std::unique_ptr<SSignInfo, RecordReleaser>;
 
 /// A text argument of the library, which takes writable pointers but only reads them.
 inline wchar_t* InText(const CString& text) {

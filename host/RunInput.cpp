@@ -9,44 +9,44 @@
 
 namespace host {
 
-std::vector<SOptionRule> MessageRules(const std::vector<SOptionRule>& further) {
-    std::vector<SOptionRule> rules = {
+std::vector<OptionRule> MessageRules(const std::vector<OptionRule>& further) {
+    std::vector<OptionRule> rules = {
         {L"--message", L"FILE", true}, {L"--vault", L"DIR", true}, {L"--work", L"DIR", true}};
     rules.insert(rules.end(), further.begin(), further.end());
     return rules;
 }
 
-bool LoadRunInput(const COptions& options, SRunInput& input) {
-    input.m_strVault = FullPath(options.Value(L"--vault"));
-    input.m_strWork = FullPath(options.Value(L"--work"));
-    if (!FolderExists(input.m_strVault)) {
-        PrintError(Text(EText::NoVault, {options.Value(L"--vault")}));
+bool LoadRunInput(const Options& options, RunInput& input) {
+    input.vault = FullPath(options.Value(L"--vault"));
+    input.work = FullPath(options.Value(L"--work"));
+    if (!FolderExists(input.vault)) {
+        PrintError(Text(TextId::NoVault, {options.Value(L"--vault")}));
         return false;
     }
     CString error;
-    if (!ReadMessageFile(FullPath(options.Value(L"--message")), input.m_strMessage, error)) {
+    if (!ReadMessageFile(FullPath(options.Value(L"--message")), input.message, error)) {
         PrintError(error);
         return false;
     }
-    ::SetEnvironmentVariableW(L"DURVELL_VAULT", input.m_strVault);
+    ::SetEnvironmentVariableW(L"DURVELL_VAULT", input.vault);
     return true;
 }
 
-bool PrepareWorkFolder(const SRunInput& input) {
-    if (EnsureFolder(input.m_strWork)) return true;
-    PrintError(Text(EText::NoWorkFolder, {input.m_strWork}));
+bool PrepareWorkFolder(const RunInput& input) {
+    if (EnsureFolder(input.work)) return true;
+    PrintError(Text(TextId::NoWorkFolder, {input.work}));
     return false;
 }
 
 bool StartMessage(CPLMInteract& plm, StartOperation operation, const CString& message, const CString& folder,
-                  SMessageRecords& records) {
+                  MessageRecords& records) {
     SLoginInfo* login = nullptr;
     SSignType* steps = nullptr;
     SSignType* files = nullptr;
     const long started = (plm.*operation)(InText(message), InText(folder), &login, &steps, &files);
-    records.m_pLogin.reset(login);
-    records.m_pSteps.reset(steps);
-    records.m_pFiles.reset(files);
+    records.login.reset(login);
+    records.steps.reset(steps);
+    records.files.reset(files);
     return started != 0;
 }
 

@@ -7,39 +7,39 @@
 
 #include "host/Options.h"
 #include "host/Records.h"
-#include "plm/PLMInteract.h"
+#include "varnoke/PLMInteract.h"
 
 namespace host {
 
 /// Message, vault and work folder as given on the command line, paths absolute.
-struct SRunInput {
-    CString m_strMessage; ///< text of the message, not its path
-    CString m_strVault;
-    CString m_strWork;
+struct RunInput {
+    CString message; ///< text of the message, not its path
+    CString vault;
+    CString work;
 };
 
 /// The records of one message.
-struct SMessageRecords {
-    LoginInfoPtr m_pLogin;
-    SignTypePtr m_pSteps;
-    SignTypePtr m_pFiles;
+struct MessageRecords {
+    LoginInfoPtr login;
+    SignTypePtr steps;
+    SignTypePtr files;
 };
 
 /// "--message FILE --vault DIR --work DIR", followed by a command's own rules.
-std::vector<SOptionRule> MessageRules(const std::vector<SOptionRule>& further);
+std::vector<OptionRule> MessageRules(const std::vector<OptionRule>& further);
 
 /// Checks the folders, reads the message and names the vault to the server access library, which looks at it
 /// when it is first called. Writes nothing. False after an error line.
-bool LoadRunInput(const COptions& options, SRunInput& input);
+bool LoadRunInput(const Options& options, RunInput& input);
 
 /// The folder is there or was made; false after an error line.
-bool PrepareWorkFolder(const SRunInput& input);
+bool PrepareWorkFolder(const RunInput& input);
 
 /// One of the library's operations that turn a message into records.
 using StartOperation = long (CPLMInteract::*)(wchar_t*, wchar_t*, SLoginInfo**, SSignType**, SSignType**);
 
 /// Hands the message to the library, which keeps a copy under `folder`. False when it was refused.
 bool StartMessage(CPLMInteract& plm, StartOperation operation, const CString& message, const CString& folder,
-                  SMessageRecords& records);
+                  MessageRecords& records);
 
 } // namespace host

@@ -4,18 +4,18 @@
 #include <afxwin.h>
 
 #include "host/MainWindow.h"
-#include "plm/PLMInteract.h"
-#include "sign/SignOpt.h"
+#include "varnoke/PLMInteract.h"
+#include "varnoke/SignOpt.h"
 
 namespace host {
 
-class CSession {
+class Session {
 public:
-    CSession() = default;
+    Session() = default;
     /// Ends what was begun, in reverse order.
-    ~CSession();
-    CSession(const CSession&) = delete;
-    CSession& operator=(const CSession&) = delete;
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
 
     /// Makes the main window and begins the exchange with the PLM side. False when there is no window. A
     /// missing model configuration only means that no sign log can be written; see HasModel().
@@ -24,18 +24,18 @@ public:
     bool ConnectSignServer();
     bool Login(const SLoginInfo& login);
 
-    bool HasModel() const { return m_bModel; }
-    CMainWindow& Window() { return m_window; }
+    bool HasModel() const { return m_hasModel; }
+    MainWindow& Window() { return m_window; }
     CPLMInteract& Plm() { return m_plm; }
     CSignOpt& SignOpt() { return m_signOpt; }
 
 private:
-    CMainWindow m_window; // outlives the objects that show dialogs over it
+    MainWindow m_window; // outlives the objects that show dialogs over it
     CPLMInteract m_plm;
     CSignOpt m_signOpt;
-    bool m_bPlm = false;
-    bool m_bModel = false;
-    bool m_bSignOpt = false;
+    bool m_plmOpen = false;
+    bool m_hasModel = false;
+    bool m_signOptOpen = false;
 };
 
 } // namespace host

@@ -20,81 +20,80 @@ constexpr int kUserNameLength = 1024;
 
 } // namespace
 
-std::vector<SOptionRule> CSignCommand::Rules() {
-    std::vector<SOptionRule> rules = MessageRules(CInteractiveSession::Rules());
+std::vector<OptionRule> SignCommand::Rules() {
+    std::vector<OptionRule> rules = MessageRules(InteractiveSession::Rules());
     rules.push_back({kKeepLog, nullptr, false});
     return rules;
 }
 
-int CSignCommand::Run(const COptions& options) {
-    SRunInput input;
+int SignCommand::Run(const Options& options) {
+    RunInput input;
     if (!LoadRunInput(options, input) || !PrepareWorkFolder(input)) return exitRefused;
-    m_strWork = input.m_strWork;
-    CInteractiveSession session(options);
+    m_work = input.work;
+    InteractiveSession session(options);
     if (!session.Open()) return exitFailed;
-    session.Window().ShowStep(Text(EText::StepStart));
-    SMessageRecords records;
-    if (!StartMessage(session.Plm(), &CPLMInteract::StartSign, input.m_strMessage, m_strWork, records)) {
-        PrintError(Text(EText::NothingChosen));
+    session.Window().ShowStep(Text(TextId::StepStart));
+    MessageRecords records;
+    if (!StartMessage(session.Plm(), &CPLMInteract::StartSign, input.message, m_work, records)) {
+        PrintError(Text(TextId::NothingChosen));
         return exitRefused;
     }
-    const std::vector<CDocument> documents = DocumentsOf(*records.m_pFiles);
+    const std::vector<Document> documents = DocumentsOf(*records.files);
     if (documents.empty()) return exitNone;
 
-    EText outcome = RefusalsOf(documents).front();
-    if (outcome == EText::Ready) outcome = Process(session, *records.m_pLogin, documents.front());
+    TextId outcome = RefusalsOf(documents).front();
+    if (outcome == TextId::Ready) outcome = Process(session, *records.login, documents.front());
     PrintDocumentLine(documents, 0, outcome);
-    if (outcome != EText::Signed) return exitNone;
+    if (outcome != TextId::Signed) return exitNone;
     if (options.Has(kKeepLog)) {
-        PrintLine(Text(EText::LogKept));
+        PrintLine(Text(TextId::LogKept));
     } else {
-        const bool sent = CSignMarks(session.Plm(), m_strWork).SendLog();
-        PrintLine(Text(sent ? EText::LogSent : EText::LogNotSent));
+        const bool sent = SignMarks(session.Plm(), m_work).SendLog();
+        PrintLine(Text(sent ? TextId::LogSent : TextId::LogNotSent));
     }
     return exitDone;
 }
 
-EText CSignCommand::Process(CInteractiveSession& session, const SLoginInfo& login,
-                            const CDocument& document) {
-    if (!Transfer(session, document, EText::StepDownload, &CPLMInteract::DownloadDoc))
-        return EText::FailedDownload;
-    CSignMarks marks(session.Plm(), m_strWork);
-    const EText outcome = Sign(session, login, document, marks);
-    if (outcome != EText::Signed) return outcome;
-    if (Transfer(session, document, EText::StepUpload, &CPLMInteract::UploadDoc)) return EText::Signed;
+TextId SignCommand::Process(InteractiveSession& session, const SLoginInfo& login, const Document& document) {
+    if (!Transfer(session, document, TextId::StepDownload, &CPLMInteract::DownloadDoc))
+        return TextId::FailedDownload;
+    SignMarks marks(session.Plm(), m_work);
+    const TextId outcome = Sign(session, login, document, marks);
+    if (outcome != TextId::Signed) return outcome;
+    if (Transfer(session, document, TextId::StepUpload, &CPLMInteract::UploadDoc)) return TextId::Signed;
     marks.Withdraw(document);
-    return EText::FailedUpload;
+    return TextId::FailedUpload;
 }
 
-bool CSignCommand::Transfer(CInteractiveSession& session, const CDocument& document, EText step,
-                            long (CPLMInteract::*operation)(SSignFileDUL*)) {
+bool SignCommand::Transfer(InteractiveSession& session, const Document& document, TextId step,
+                           long (CPLMInteract::*operation)(SSignFileDUL*)) {
     session.Window().ShowStep(Text(step, {document.Name()}));
-    CTransferList list(m_strWork, document);
+    TransferList list(m_work, document);
     (session.Plm().*operation)(list.Start());
     // The dialog's result tells how the run went, the item whether the file was moved.
     return list.Moved();
 }
 
-EText CSignCommand::Sign(CInteractiveSession& session, const SLoginInfo& login, const CDocument& document,
-                         CSignMarks& marks) {
-    session.Window().ShowStep(Text(EText::StepSign, {document.Name()}));
-    if (!session.Session().ConnectSignServer()) return EText::NoSignServer;
-    if (!session.Session().Login(login)) return EText::NotLoggedIn;
-    const CString path = JoinPath(m_strWork, document.Name());
+TextId SignCommand::Sign(InteractiveSession& session, const SLoginInfo& login, const Document& document,
+                         SignMarks& marks) {
+    session.Window().ShowStep(Text(TextId::StepSign, {document.Name()}));
+    if (!session.Library().ConnectSignServer()) return TextId::NoSignServer;
+    if (!session.Library().Login(login)) return TextId::NotLoggedIn;
+    const CString path = JoinPath(m_work, document.Name());
     const SignInfoPtr info = AskSignInfo(session, document, path);
-    if (!info) return EText::FailedSignInfo;
+    if (!info) return TextId::FailedSignInfo;
     CompleteSignInfo(*info, document, path, login.m_strUserName);
-    if (!SignDrawing(session.SignOpt(), &CSignOpt::Sign, *info, path)) return EText::FailedSign;
-    if (!marks.Note(document, *info)) PrintError(Text(EText::LogNotWritten, {document.Name()}));
-    return EText::Signed;
+    if (!SignDrawing(session.SignOpt(), &CSignOpt::Sign, *info, path)) return TextId::FailedSign;
+    if (!marks.Note(document, *info)) PrintError(Text(TextId::LogNotWritten, {document.Name()}));
+    return TextId::Signed;
 }
 
-SignInfoPtr CSignCommand::AskSignInfo(CInteractiveSession& session, const CDocument& document,
-                                      const CString& path) {
+SignInfoPtr SignCommand::AskSignInfo(InteractiveSession& session, const Document& document,
+                                     const CString& path) {
     constexpr long scopeSelectable = 1;
     wchar_t user[kUserNameLength] = L"";
     session.SignOpt().GetSignUserName(user);
-    const CSignatureDrawing drawing(session.Plm(), user, document.Role());
+    const SignatureDrawing drawing(session.Plm(), user, document.Role());
     SSignInfo* made = nullptr;
     session.SignOpt().GetSignInfo(InText(path), scopeSelectable, InText(document.Role()), &made);
     return SignInfoPtr(made);

@@ -10,21 +10,21 @@
 
 namespace host {
 
-class CSignCommand : public CCommand {
+class SignCommand : public Command {
 public:
-    static std::vector<SOptionRule> Rules();
-    int Run(const COptions& options) override;
+    static std::vector<OptionRule> Rules();
+    int Run(const Options& options) override;
 
 private:
     /// Signed, or the step that failed.
-    EText Process(CInteractiveSession& session, const SLoginInfo& login, const CDocument& document);
-    bool Transfer(CInteractiveSession& session, const CDocument& document, EText step,
+    TextId Process(InteractiveSession& session, const SLoginInfo& login, const Document& document);
+    bool Transfer(InteractiveSession& session, const Document& document, TextId step,
                   long (CPLMInteract::*operation)(SSignFileDUL*));
-    EText Sign(CInteractiveSession& session, const SLoginInfo& login, const CDocument& document,
-               CSignMarks& marks);
-    SignInfoPtr AskSignInfo(CInteractiveSession& session, const CDocument& document, const CString& path);
+    TextId Sign(InteractiveSession& session, const SLoginInfo& login, const Document& document,
+                SignMarks& marks);
+    SignInfoPtr AskSignInfo(InteractiveSession& session, const Document& document, const CString& path);
 
-    CString m_strWork;
+    CString m_work;
 };
 
 } // namespace host

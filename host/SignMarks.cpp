@@ -22,7 +22,7 @@ void Set(std::vector<SSignPro>& properties, const wchar_t* name, const CString& 
 }
 
 /// The document's properties, with the identifier and the role that it was signed with.
-std::vector<SSignPro> LoggedProperties(const CDocument& document, const SSignInfo& info) {
+std::vector<SSignPro> LoggedProperties(const Document& document, const SSignInfo& info) {
     std::vector<SSignPro> properties;
     for (POSITION position = document.Object().GetHeadPosition(); position;) {
         const SSignPro* property = document.Object().GetNext(position);
@@ -40,32 +40,32 @@ std::vector<SSignPro> LoggedProperties(const CDocument& document, const SSignInf
 
 } // namespace
 
-CSignMarks::CSignMarks(CPLMInteract& plm, const CString& folder)
-    : m_plm(plm), m_strFolder(folder), m_before(folder, L"DocSignRecord.before.xml"),
+SignMarks::SignMarks(CPLMInteract& plm, const CString& folder)
+    : m_plm(plm), m_folder(folder), m_before(folder, L"DocSignRecord.before.xml"),
       m_unsent(folder, L"DocSignRecord.unsent.xml") {
     if (m_unsent.Exists() && !FileExists(SignRecordFile(folder))) m_unsent.Restore();
 }
 
-CSignMarks::~CSignMarks() {
+SignMarks::~SignMarks() {
     m_before.Discard();
 }
 
-bool CSignMarks::Note(const CDocument& document, const SSignInfo& info) {
-    m_bLogged = m_before.Take() && WriteLog(document, info);
-    SetTags(document, 1, m_bLogged);
-    return m_bLogged;
+bool SignMarks::Note(const Document& document, const SSignInfo& info) {
+    m_logged = m_before.Take() && WriteLog(document, info);
+    SetTags(document, 1, m_logged);
+    return m_logged;
 }
 
-void CSignMarks::Withdraw(const CDocument& document) {
+void SignMarks::Withdraw(const Document& document) {
     // Logging a deletion would not do: it also cancels the entry of an earlier run.
-    if (m_bLogged) m_before.Restore();
+    if (m_logged) m_before.Restore();
     SetTags(document, 0, 0);
 }
 
-bool CSignMarks::SendLog() {
-    if (!FileExists(SignRecordFile(m_strFolder))) return true;
+bool SignMarks::SendLog() {
+    if (!FileExists(SignRecordFile(m_folder))) return true;
     if (!m_unsent.Take()) return false;
-    const bool sent = m_plm.WriteSignLogToServer(m_strFolder) == 0;
+    const bool sent = m_plm.WriteSignLogToServer(m_folder) == 0;
     if (sent) {
         m_unsent.Discard();
     } else {
@@ -74,18 +74,18 @@ bool CSignMarks::SendLog() {
     return sent;
 }
 
-bool CSignMarks::WriteLog(const CDocument& document, const SSignInfo& info) {
+bool SignMarks::WriteLog(const Document& document, const SSignInfo& info) {
     std::vector<SSignPro> properties = LoggedProperties(document, info);
     SSignObj object;
     for (SSignPro& property : properties) {
         object.AddTail(&property);
     }
-    return m_plm.WriteDelOrSignLogToLocal(&object, m_strFolder, L"N") != 0;
+    return m_plm.WriteDelOrSignLogToLocal(&object, m_folder, L"N") != 0;
 }
 
-void CSignMarks::SetTags(const CDocument& document, long signTag, long logTag) {
-    m_plm.SetDocSignTag(InText(m_strFolder), InText(document.Name()), signTag);
-    m_plm.SetDocSignLogTag(InText(m_strFolder), InText(document.Name()), logTag);
+void SignMarks::SetTags(const Document& document, long signTag, long logTag) {
+    m_plm.SetDocSignTag(InText(m_folder), InText(document.Name()), signTag);
+    m_plm.SetDocSignLogTag(InText(m_folder), InText(document.Name()), logTag);
 }
 
 } // namespace host

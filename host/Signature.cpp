@@ -10,35 +10,35 @@ namespace {
 
 /// A box on the sheet in drawing units, its origin at the upper left. The library turns the top into the
 /// lower edge that the signing server wants.
-struct SBox {
-    double m_dLeft;
-    double m_dTop;
-    double m_dWidth;
-    double m_dHeight;
+struct Box {
+    double left;
+    double top;
+    double width;
+    double height;
 };
 
-constexpr SBox kSealBox = {180.0, 40.0, 40.0, 20.0};
-constexpr SBox kDateBox = {180.0, 18.0, 40.0, 8.0};
+constexpr Box kSealBox = {180.0, 40.0, 40.0, 20.0};
+constexpr Box kDateBox = {180.0, 18.0, 40.0, 8.0};
 
 } // namespace
 
-void CompleteSignInfo(SSignInfo& info, const CDocument& document, const CString& path, const CString& user) {
+void CompleteSignInfo(SSignInfo& info, const Document& document, const CString& path, const CString& user) {
     info.m_strFirstText = document.Id();
     info.m_strSecondText = path;
     if (info.m_strUserName.IsEmpty()) info.m_strUserName = user;
     if (info.m_strRole.IsEmpty()) info.m_strRole = document.Role();
-    info.m_dA = kSealBox.m_dLeft;
-    info.m_dB = kSealBox.m_dTop;
-    info.m_dC = kSealBox.m_dWidth;
-    info.m_dD = kSealBox.m_dHeight;
-    info.m_dE = kDateBox.m_dLeft;
-    info.m_dF = kDateBox.m_dTop;
-    info.m_dG = kDateBox.m_dWidth;
-    info.m_dH = kDateBox.m_dHeight;
+    info.m_dA = kSealBox.left;
+    info.m_dB = kSealBox.top;
+    info.m_dC = kSealBox.width;
+    info.m_dD = kSealBox.height;
+    info.m_dE = kDateBox.left;
+    info.m_dF = kDateBox.top;
+    info.m_dG = kDateBox.width;
+    info.m_dH = kDateBox.height;
 }
 
 bool SignDrawing(CSignOpt& signOpt, SignOperation operation, SSignInfo& info, const CString& path) {
-    const IDispatchPtr drawing = CDrawingDocument::Make(path);
+    const IDispatchPtr drawing = DrawingDocument::Make(path);
     return (signOpt.*operation)(drawing, &info) != 0;
 }
 

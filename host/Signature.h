@@ -10,7 +10,7 @@ namespace host {
 
 /// Fills what the library leaves to the host: the two sign texts (identifier and path of the drawing), the
 /// signer and the role where no dialog gave them, and where seal and date go on the sheet.
-void CompleteSignInfo(SSignInfo& info, const CDocument& document, const CString& path, const CString& user);
+void CompleteSignInfo(SSignInfo& info, const Document& document, const CString& path, const CString& user);
 
 /// The interactive and the silent operation of the library.
 using SignOperation = long (CSignOpt::*)(IDispatch*, SSignInfo*);

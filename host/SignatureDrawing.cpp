@@ -8,17 +8,17 @@
 
 namespace host {
 
-CSignatureDrawing::CSignatureDrawing(CPLMInteract& plm, const CString& user, const CString& role) {
+SignatureDrawing::SignatureDrawing(CPLMInteract& plm, const CString& user, const CString& role) {
     // The role comes with the message: it must not lead out of the temporary folder.
     const CString name = user + L"_" + role + L".dwg";
-    if (CheckDocumentName(name) != ENameFault::None) return;
+    if (CheckDocumentName(name) != NameFault::None) return;
     wchar_t folder[MAX_PATH + 1];
     if (!plm.DownloadSignFileEx(InText(user), InText(role)) || !::GetTempPathW(MAX_PATH + 1, folder)) return;
-    m_strPath = JoinPath(folder, name);
+    m_path = JoinPath(folder, name);
 }
 
-CSignatureDrawing::~CSignatureDrawing() {
-    if (!m_strPath.IsEmpty()) ::DeleteFileW(m_strPath);
+SignatureDrawing::~SignatureDrawing() {
+    if (!m_path.IsEmpty()) ::DeleteFileW(m_path);
 }
 
 } // namespace host

@@ -3,22 +3,22 @@
 
 #include <afxwin.h>
 
-#include "plm/PLMInteract.h"
+#include "varnoke/PLMInteract.h"
 
 namespace host {
 
 /// Fetched to where the sign dialog looks for it, and removed again with this object: a signature is not left
 /// lying about in the temporary folder.
-class CSignatureDrawing {
+class SignatureDrawing {
 public:
     /// Without a drawing on the server the preview stays empty; that is no error.
-    CSignatureDrawing(CPLMInteract& plm, const CString& user, const CString& role);
-    ~CSignatureDrawing();
-    CSignatureDrawing(const CSignatureDrawing&) = delete;
-    CSignatureDrawing& operator=(const CSignatureDrawing&) = delete;
+    SignatureDrawing(CPLMInteract& plm, const CString& user, const CString& role);
+    ~SignatureDrawing();
+    SignatureDrawing(const SignatureDrawing&) = delete;
+    SignatureDrawing& operator=(const SignatureDrawing&) = delete;
 
 private:
-    CString m_strPath;
+    CString m_path;
 };
 
 } // namespace host

@@ -59,38 +59,38 @@ std::vector<CString> TaggedDocuments(const CString& folder) {
 
 } // namespace
 
-std::vector<SOptionRule> CStatusCommand::Rules() {
+std::vector<OptionRule> StatusCommand::Rules() {
     return {{kFolder, nullptr, true}};
 }
 
-int CStatusCommand::Run(const COptions& options) {
+int StatusCommand::Run(const Options& options) {
     const CString folder = FullPath(options.Value(kFolder));
     if (!FolderExists(folder)) {
-        PrintError(Text(EText::NoFolder, {options.Value(kFolder)}));
+        PrintError(Text(TextId::NoFolder, {options.Value(kFolder)}));
         return exitRefused;
     }
-    m_rows = {{Text(EText::ColumnDocument), Text(EText::ColumnSign), Text(EText::ColumnLog),
-               Text(EText::ColumnChange)}};
+    m_rows = {{Text(TextId::ColumnDocument), Text(TextId::ColumnSign), Text(TextId::ColumnLog),
+               Text(TextId::ColumnChange)}};
     for (const CString& name : TaggedDocuments(folder)) {
         AddRow(folder, name);
     }
     if (m_rows.size() == 1) {
-        PrintLine(Text(EText::NoDocuments));
+        PrintLine(Text(TextId::NoDocuments));
         return exitNone;
     }
     PrintTable(m_rows);
     return exitDone;
 }
 
-void CStatusCommand::AddRow(const CString& folder, const CString& name) {
+void StatusCommand::AddRow(const CString& folder, const CString& name) {
     long signTag = 0;
     long logTag = 0;
     long changed = 0;
     m_plm.GetDocSignTag(InText(folder), InText(name), &signTag);
     m_plm.GetDocSignLogTag(InText(folder), InText(name), &logTag);
     m_plm.GetDocSignTimeTag(InText(folder), InText(name), &changed);
-    EText state = changed ? EText::Changed : EText::Unchanged;
-    if (!FileExists(JoinPath(folder, name))) state = EText::Missing;
+    TextId state = changed ? TextId::Changed : TextId::Unchanged;
+    if (!FileExists(JoinPath(folder, name))) state = TextId::Missing;
 
     CString sign;
     CString log;

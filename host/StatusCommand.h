@@ -2,14 +2,14 @@
 #pragma once
 
 #include "host/Command.h"
-#include "plm/PLMInteract.h"
+#include "varnoke/PLMInteract.h"
 
 namespace host {
 
-class CStatusCommand : public CCommand {
+class StatusCommand : public Command {
 public:
-    static std::vector<SOptionRule> Rules();
-    int Run(const COptions& options) override;
+    static std::vector<OptionRule> Rules();
+    int Run(const Options& options) override;
 
 private:
     void AddRow(const CString& folder, const CString& name);

@@ -6,7 +6,7 @@
 
 namespace host {
 
-CTemporaryFolder::CTemporaryFolder() {
+TemporaryFolder::TemporaryFolder() {
     wchar_t root[MAX_PATH + 1];
     if (!::GetTempPathW(MAX_PATH + 1, root)) return;
     // Only a folder that didn't exist before is ours to remove, so a taken name means trying the next one.
@@ -15,14 +15,14 @@ CTemporaryFolder::CTemporaryFolder() {
         name.Format(L"varnoke-host-%lu-%lu", ::GetCurrentProcessId(), ::GetTickCount() + attempt);
         const CString path = JoinPath(root, name);
         if (::CreateDirectoryW(path, nullptr)) {
-            m_strPath = path;
+            m_path = path;
             return;
         }
     }
 }
 
-CTemporaryFolder::~CTemporaryFolder() {
-    if (!m_strPath.IsEmpty()) RemoveFolder(m_strPath);
+TemporaryFolder::~TemporaryFolder() {
+    if (!m_path.IsEmpty()) RemoveFolder(m_path);
 }
 
 } // namespace host

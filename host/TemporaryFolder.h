@@ -5,19 +5,19 @@
 
 namespace host {
 
-class CTemporaryFolder {
+class TemporaryFolder {
 public:
     /// Makes a new folder under the system's temporary folder; Path() stays empty when that fails.
-    CTemporaryFolder();
+    TemporaryFolder();
     /// Removes the folder with everything in it.
-    ~CTemporaryFolder();
-    CTemporaryFolder(const CTemporaryFolder&) = delete;
-    CTemporaryFolder& operator=(const CTemporaryFolder&) = delete;
+    ~TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
-    const CString& Path() const { return m_strPath; }
+    const CString& Path() const { return m_path; }
 
 private:
-    CString m_strPath;
+    CString m_path;
 };
 
 } // namespace host

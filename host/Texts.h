@@ -7,7 +7,7 @@
 
 namespace host {
 
-enum class EText {
+enum class TextId {
     // Usage
     Usage,
     UsageEnd,
@@ -111,10 +111,10 @@ enum class EText {
 
 /// The text in the user's language: Chinese for a Chinese user interface, English otherwise. VARNOKE_LANGUAGE
 /// ("zh" or "en") in the environment overrides it.
-const wchar_t* Text(EText id);
+const wchar_t* Text(TextId id);
 
 /// The same with "%1", "%2" ... replaced by the arguments. A replaced text is not looked at again.
-CString Text(EText id, std::initializer_list<CString> arguments);
+CString Text(TextId id, std::initializer_list<CString> arguments);
 
 /// A count as an argument.
 CString NumberText(size_t number);

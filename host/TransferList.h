@@ -9,11 +9,11 @@ namespace host {
 
 /// A list of its own for every document: the library's silent download stops at the first item that fails,
 /// and the result of its upload is that of the last item only.
-class CTransferList {
+class TransferList {
 public:
-    CTransferList(const CString& folder, const CDocument& document);
-    CTransferList(const CTransferList&) = delete;
-    CTransferList& operator=(const CTransferList&) = delete;
+    TransferList(const CString& folder, const Document& document);
+    TransferList(const TransferList&) = delete;
+    TransferList& operator=(const TransferList&) = delete;
 
     /// For one library call at a time; forgets the state of the transfer before.
     SSignFileDUL* Start();

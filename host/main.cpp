@@ -15,19 +15,19 @@ namespace {
 CWinApp theApp;
 
 /// COM on the main thread, for the library's operations.
-class CComThread {
+class ComThread {
 public:
-    CComThread() : m_bReady(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
-    ~CComThread() {
-        if (m_bReady) ::CoUninitialize();
+    ComThread() : m_ready(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
+    ~ComThread() {
+        if (m_ready) ::CoUninitialize();
     }
-    CComThread(const CComThread&) = delete;
-    CComThread& operator=(const CComThread&) = delete;
+    ComThread(const ComThread&) = delete;
+    ComThread& operator=(const ComThread&) = delete;
 
-    bool IsReady() const { return m_bReady; }
+    bool IsReady() const { return m_ready; }
 
 private:
-    bool m_bReady;
+    bool m_ready;
 };
 
 /// The product's local services, whose folder holds the model configuration. Without them the library looks
@@ -39,7 +39,7 @@ host::LibraryHandle LoadLocalServices() {
 } // namespace
 
 int wmain(int argc, wchar_t** argv) {
-    const CComThread com;
+    const ComThread com;
     if (!AfxWinInit(::GetModuleHandleW(nullptr), nullptr, ::GetCommandLineW(), SW_SHOWNORMAL) ||
         !com.IsReady()) {
         return host::exitFailed;
@@ -51,6 +51,6 @@ int wmain(int argc, wchar_t** argv) {
         exception->Delete();
     } catch (...) {
     }
-    host::PrintError(host::Text(host::EText::Unexpected));
+    host::PrintError(host::Text(host::TextId::Unexpected));
     return host::exitFailed;
 }

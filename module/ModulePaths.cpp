@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "module/InputFile.h"
+#include "base/InputFile.h"
 #include "module/Text.h"
 #include "module/VarnokeApp.h"
 

@@ -1,7 +1,7 @@
 // Fresh identifiers as text.
 #include "module/NewGuid.h"
 
-#include "module/Owned.h"
+#include "base/Owned.h"
 
 namespace varnoke {
 

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "module/SignRecords.h"
+#include "varnoke/SignRecords.h"
 
 namespace varnoke {
 

@@ -1,5 +1,5 @@
 // Release of the records that cross the exported interface.
-#include "module/SignRecords.h"
+#include "varnoke/SignRecords.h"
 
 #include "module/Guarded.h"
 #include "module/OwnedRecord.h"
@@ -30,7 +30,7 @@ void DeleteRecord(SSignFileDUL* record) {
 template <class Record>
 long Release(Record* record) {
     return varnoke::Guarded(0L, [record] {
-        if (record == nullptr) {
+        if (!record) {
             return 0L;
         }
         DeleteRecord(record);

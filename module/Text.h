@@ -5,7 +5,7 @@ namespace varnoke {
 
 /// Whether a text was given: neither null nor empty.
 inline bool HasText(const wchar_t* text) {
-    return text != nullptr && *text != L'\0';
+    return text && *text != L'\0';
 }
 
 } // namespace varnoke

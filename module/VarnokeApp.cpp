@@ -36,13 +36,13 @@ int CVarnokeApp::ExitInstance() {
 }
 
 CString CVarnokeApp::GetModuleFolder() {
-    if (m_strModuleFolder.IsEmpty()) {
+    if (m_moduleFolder.IsEmpty()) {
         FindModuleFolder();
     }
-    return m_strModuleFolder;
+    return m_moduleFolder;
 }
 
 int CVarnokeApp::FindModuleFolder() {
-    m_strModuleFolder = varnoke::FolderOfPath(varnoke::ModuleFilePath(m_hInstance));
-    return m_strModuleFolder.IsEmpty() ? 0 : 1;
+    m_moduleFolder = varnoke::FolderOfPath(varnoke::ModuleFilePath(m_hInstance));
+    return m_moduleFolder.IsEmpty() ? 0 : 1;
 }

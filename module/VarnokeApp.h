@@ -16,7 +16,7 @@ private:
     /// Returns 1 when a folder was found, else 0.
     int FindModuleFolder();
 
-    CString m_strModuleFolder;
+    CString m_moduleFolder;
 };
 
 extern CVarnokeApp theApp;

@@ -5,7 +5,7 @@
 #include "module/ModulePaths.h"
 #include "plm/ServerQuery.h"
 #include "plm/SignTags.h"
-#include "plm/durvell.h"
+#include "neighbours/durvell.h"
 #include "ui/DLDDlg.h"
 #include "ui/ULDDlg.h"
 

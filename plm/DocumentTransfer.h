@@ -3,7 +3,7 @@
 
 #include <afxwin.h>
 
-#include "module/SignRecords.h"
+#include "varnoke/SignRecords.h"
 
 namespace varnoke {
 

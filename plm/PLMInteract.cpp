@@ -1,7 +1,7 @@
 // CPLMInteract: the frame of the class and the start-sign request.
 #include <afxwin.h>
 
-#include "plm/PLMInteract.h"
+#include "varnoke/PLMInteract.h"
 #include "module/Guarded.h"
 #include "plm/StartSign.h"
 #include "plm/StartSignMerge.h"
@@ -22,15 +22,15 @@ long HandOut(Record** out, Read read) {
 
 } // namespace
 
-CPLMInteract::CPLMInteract() : m_pParentWnd(nullptr) {}
+CPLMInteract::CPLMInteract() : m_parentWnd(nullptr) {}
 
 CPLMInteract::~CPLMInteract() {
-    m_pParentWnd = nullptr;
+    m_parentWnd = nullptr;
 }
 
 long CPLMInteract::Initialize(CWnd* pParentWnd) {
     return Guarded(0L, [&] {
-        m_pParentWnd = pParentWnd;
+        m_parentWnd = pParentWnd;
         return m_modelConfig.Initialize(pParentWnd) ? m_modelConfig.Load() : 0L;
     });
 }
@@ -51,7 +51,7 @@ long CPLMInteract::StartSign(wchar_t* pszXml, wchar_t* pszWorkFolder, SLoginInfo
     return Guarded(0L, [&] {
         return varnoke::StartWithChosenDocument(
             {pszXml, pszWorkFolder, ppLoginInfo, ppSignStepType, ppSignFileType},
-            varnoke::ParseStartSignMessage, m_modelConfig, m_pParentWnd);
+            varnoke::ParseStartSignMessage, m_modelConfig, m_parentWnd);
     });
 }
 
@@ -65,7 +65,7 @@ long CPLMInteract::AppendStartSign(wchar_t* pszXml, wchar_t* pszWorkFolder, SLog
     return Guarded(0L, [&] {
         return varnoke::StartWithChosenDocument(
             {pszXml, pszWorkFolder, ppLoginInfo, ppSignStepType, ppSignFileType},
-            varnoke::MergeStartSignMessage, m_modelConfig, m_pParentWnd);
+            varnoke::MergeStartSignMessage, m_modelConfig, m_parentWnd);
     });
 }
 

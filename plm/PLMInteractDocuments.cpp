@@ -1,7 +1,7 @@
 // CPLMInteract: operations on documents (transfer, sign tags, sign log, return file).
 #include <afxwin.h>
 
-#include "plm/PLMInteract.h"
+#include "varnoke/PLMInteract.h"
 #include "module/Guarded.h"
 #include "module/Text.h"
 #include "plm/DocumentTransfer.h"
@@ -14,7 +14,7 @@ using varnoke::Guarded;
 using varnoke::HasText;
 
 long CPLMInteract::DownloadDoc(SSignFileDUL* pList) {
-    return Guarded(0L, [&] { return varnoke::DownloadWithDialog(pList, m_pParentWnd); });
+    return Guarded(0L, [&] { return varnoke::DownloadWithDialog(pList, m_parentWnd); });
 }
 
 long CPLMInteract::DownloadDocForBackSign(SSignFileDUL* pList) {
@@ -22,7 +22,7 @@ long CPLMInteract::DownloadDocForBackSign(SSignFileDUL* pList) {
 }
 
 long CPLMInteract::UploadDoc(SSignFileDUL* pList) {
-    return Guarded(0L, [&] { return varnoke::UploadWithDialog(pList, m_pParentWnd); });
+    return Guarded(0L, [&] { return varnoke::UploadWithDialog(pList, m_parentWnd); });
 }
 
 long CPLMInteract::UploadDocForBackSign(SSignFileDUL* pList) {

@@ -5,7 +5,7 @@
 #include "module/Guarded.h"
 #include "module/ModulePaths.h"
 #include "plm/XmlDocument.h"
-#include "plm/durvell.h"
+#include "neighbours/durvell.h"
 
 namespace varnoke {
 

@@ -5,7 +5,7 @@
 #include "plm/SignLogEntry.h"
 #include "plm/SignRecordFile.h"
 #include "plm/SignDataFolder.h"
-#include "plm/durvell.h"
+#include "neighbours/durvell.h"
 
 using namespace QORMODEL;
 using _com_util::CheckError;
@@ -16,32 +16,32 @@ namespace {
 
 // What the record holds for one document and role: at most one logged signature and one logged deletion.
 struct LoggedEntries {
-    IQORDataEntryPtr m_spSignature;
-    IQORDataEntryPtr m_spDeletion;
-    bool m_bDropped = false; // whether entries were taken out of the model
+    IQORDataEntryPtr signature;
+    IQORDataEntryPtr deletion;
+    bool dropped = false; // whether entries were taken out of the model
 };
 
 void Drop(LoggedEntries& logged, IQORDataEntryPtr& entry) {
     CheckError(entry->Delete());
     entry = nullptr;
-    logged.m_bDropped = true;
+    logged.dropped = true;
 }
 
 // Finds the entries of a document and role. A record made elsewhere may hold several of a kind: the latest
 // one counts, the others are dropped.
 LoggedEntries FindLogged(IQORDataModel* model, const SignLogSource& source) {
     IQORDataEntriesPtr entries;
-    CheckError(model->FindEntries(ToBstr(source.m_strEntryType), _bstr_t(L"QORMFILEID"),
-                                  ToBstr(source.m_strDocumentId), &entries));
+    CheckError(model->FindEntries(ToBstr(source.entryType), _bstr_t(L"QORMFILEID"), ToBstr(source.documentId),
+                                  &entries));
     long count = 0;
     CheckError(entries->GetCount(&count));
     LoggedEntries logged;
     for (long index = 0; index < count; ++index) {
         IQORDataEntryPtr entry;
         CheckError(entries->GetItem(index, &entry));
-        if (ReadProperty(entry, L"QORMROLE") != source.m_strRole) continue;
+        if (ReadProperty(entry, L"QORMROLE") != source.role) continue;
         const bool deletion = ReadProperty(entry, L"QORMTYPE") == L"D";
-        IQORDataEntryPtr& place = deletion ? logged.m_spDeletion : logged.m_spSignature;
+        IQORDataEntryPtr& place = deletion ? logged.deletion : logged.signature;
         if (place) Drop(logged, place);
         place = entry;
     }
@@ -51,16 +51,16 @@ LoggedEntries FindLogged(IQORDataModel* model, const SignLogSource& source) {
 // Brings the model to its intended state; false when it is in it already.
 bool Log(IQORDataModel* model, const SignLogSource& source) {
     LoggedEntries logged = FindLogged(model, source);
-    const bool signature = source.m_strKind == L"N";
-    const bool replaces = logged.m_spSignature != nullptr;
+    const bool signature = source.kind == L"N";
+    const bool replaces = logged.signature;
     // A deletion cancels the unsent signature; a further signature takes its place, so that the latest values
     // are the ones sent.
-    if (replaces) Drop(logged, logged.m_spSignature);
-    if (signature || (!replaces && !logged.m_spDeletion)) {
+    if (replaces) Drop(logged, logged.signature);
+    if (signature || (!replaces && !logged.deletion)) {
         AddEntry(model, source);
         return true;
     }
-    return logged.m_bDropped;
+    return logged.dropped;
 }
 
 } // namespace
@@ -74,7 +74,7 @@ long WriteDelOrSignLogToLocal(CModelConfig& config, const SSignObj* obj, const C
     if (!local || !map || !server) return 0;
 
     const SignLogSource source(*obj, kind, local, map);
-    CSignRecordFile record;
+    SignRecordFile record;
     if (!record.Create()) return 0;
     record.Read(folder);
     if (!Log(record.Model(), source)) return 1;

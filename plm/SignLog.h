@@ -2,8 +2,8 @@
 #pragma once
 
 #include <afxwin.h>
-#include "config/ModelConfig.h"
-#include "module/SignRecords.h"
+#include "varnoke/ModelConfig.h"
+#include "varnoke/SignRecords.h"
 
 namespace varnoke {
 

@@ -25,36 +25,36 @@ CString SignValue(const SSignObj& obj, const CString& name) {
 // A new entry and its local object, which keeps the client's values apart from those mapped for the server.
 struct NewEntry {
     NewEntry(IQORDataModel* model, const CString& type) {
-        CheckError(model->CreateEntry(ToBstr(type), &m_spEntry));
-        CheckError(m_spEntry->GetLocalObject(&m_spLocal));
+        CheckError(model->CreateEntry(ToBstr(type), &entry));
+        CheckError(entry->GetLocalObject(&local));
     }
 
     void Set(const CString& name, const CString& value) {
         const _bstr_t key = ToBstr(name), text = ToBstr(value);
-        CheckError(m_spEntry->SetProperty(key, text));
-        CheckError(m_spLocal->SetProperty(key, text));
+        CheckError(entry->SetProperty(key, text));
+        CheckError(local->SetProperty(key, text));
     }
 
-    IQORDataEntryPtr m_spEntry;
-    IQORDataObjectPtr m_spLocal;
+    IQORDataEntryPtr entry;
+    IQORDataObjectPtr local;
 };
 
 void FillConfigured(NewEntry& entry, const SignLogSource& source) {
     long count = 0;
-    CheckError(source.m_pLocal->GetCount(&count));
+    CheckError(source.local->GetCount(&count));
     for (long index = 0; index < count; ++index) {
-        const CString name = EntryAttribute(source.m_pLocal, index, L"name");
-        if (!name.IsEmpty()) entry.Set(name, SignValue(source.m_obj, name));
+        const CString name = EntryAttribute(source.local, index, L"name");
+        if (!name.IsEmpty()) entry.Set(name, SignValue(source.obj, name));
     }
 }
 
 // Comes after the configured properties: these identify the entry, whatever the configuration lists.
 void FillIdentity(NewEntry& entry, const SignLogSource& source) {
     entry.Set(L"ID", NewGuid());
-    entry.Set(L"QORMFILEID", source.m_strDocumentId);
-    entry.Set(L"QORMROLE", source.m_strRole);
-    entry.Set(L"QORMTYPE", source.m_strKind);
-    entry.Set(L"SIGNSTATE", source.m_strKind);
+    entry.Set(L"QORMFILEID", source.documentId);
+    entry.Set(L"QORMROLE", source.role);
+    entry.Set(L"QORMTYPE", source.kind);
+    entry.Set(L"SIGNSTATE", source.kind);
 }
 
 void MapToServer(NewEntry& entry, IQORObjMapConfig* map) {
@@ -64,8 +64,8 @@ void MapToServer(NewEntry& entry, IQORObjMapConfig* map) {
         const CString server = EntryAttribute(map, index, L"server");
         if (server.IsEmpty()) continue;
         const CString client = EntryAttribute(map, index, L"client");
-        const CString value = ReadProperty(entry.m_spLocal, client);
-        CheckError(entry.m_spEntry->SetProperty(ToBstr(server), ToBstr(value)));
+        const CString value = ReadProperty(entry.local, client);
+        CheckError(entry.entry->SetProperty(ToBstr(server), ToBstr(value)));
     }
 }
 
@@ -73,11 +73,11 @@ void MapToServer(NewEntry& entry, IQORObjMapConfig* map) {
 
 SignLogSource::SignLogSource(const SSignObj& obj, const CString& kind, IQORObjConfig* local,
                              IQORObjMapConfig* map)
-    : m_obj(obj), m_pLocal(local), m_pMap(map), m_strKind(kind), m_strDocumentId(SignValue(obj, L"ID")),
-      m_strRole(SignValue(obj, L"SIGN_ROLE")) {
+    : obj(obj), local(local), map(map), kind(kind), documentId(SignValue(obj, L"ID")),
+      role(SignValue(obj, L"SIGN_ROLE")) {
     _bstr_t type;
     CheckError(local->GetAttribute(_bstr_t(L"id"), type.GetAddress()));
-    m_strEntryType = ToText(type);
+    entryType = ToText(type);
 }
 
 CString ReadProperty(IQORDataObject* object, const wchar_t* name) {
@@ -87,12 +87,12 @@ CString ReadProperty(IQORDataObject* object, const wchar_t* name) {
 }
 
 void AddEntry(IQORDataModel* model, const SignLogSource& source) {
-    NewEntry entry(model, source.m_strEntryType);
+    NewEntry entry(model, source.entryType);
     FillConfigured(entry, source);
     FillIdentity(entry, source);
-    MapToServer(entry, source.m_pMap);
-    CheckError(entry.m_spEntry->SetState(_bstr_t(L"N")));
-    CheckError(model->AddEntry(entry.m_spEntry));
+    MapToServer(entry, source.map);
+    CheckError(entry.entry->SetState(_bstr_t(L"N")));
+    CheckError(model->AddEntry(entry.entry));
 }
 
 } // namespace varnoke

@@ -3,8 +3,8 @@
 
 #include <afxwin.h>
 
-#include "config/qormodel.h"
-#include "module/SignRecords.h"
+#include "neighbours/qormodel.h"
+#include "varnoke/SignRecords.h"
 
 namespace varnoke {
 
@@ -14,13 +14,13 @@ struct SignLogSource {
     SignLogSource(const SSignObj& obj, const CString& kind, QORMODEL::IQORObjConfig* local,
                   QORMODEL::IQORObjMapConfig* map);
 
-    const SSignObj& m_obj;
-    QORMODEL::IQORObjConfig* m_pLocal;  // weak
-    QORMODEL::IQORObjMapConfig* m_pMap; // weak
-    CString m_strKind;                  // "N" or "D"
-    CString m_strEntryType;
-    CString m_strDocumentId;
-    CString m_strRole;
+    const SSignObj& obj;
+    QORMODEL::IQORObjConfig* local;  // weak
+    QORMODEL::IQORObjMapConfig* map; // weak
+    CString kind;                    // "N" or "D"
+    CString entryType;
+    CString documentId;
+    CString role;
 };
 
 /// The value of an entry's property, empty when it has none.

@@ -1,7 +1,7 @@
 // The local record file of the sign log, DocSignRecord.xml.
 #include "plm/SignRecordFile.h"
 
-#include "config/qorparser.h"
+#include "neighbours/qorparser.h"
 #include "plm/SignDataFolder.h"
 #include "plm/TemporaryFile.h"
 
@@ -38,33 +38,32 @@ CString SignWorkPath(const CString& signDataFolder) {
     return signDataFolder + L"DocTemt.xml";
 }
 
-bool CSignRecordFile::Create() {
+bool SignRecordFile::Create() {
     // With servers of every kind allowed, this puts the object into the running state, too.
-    return SUCCEEDED(m_spModel.CreateInstance(QORMODEL::CLSID_QORDataModel, nullptr, CLSCTX_ALL)) &&
-           m_spModel;
+    return SUCCEEDED(m_model.CreateInstance(QORMODEL::CLSID_QORDataModel, nullptr, CLSCTX_ALL)) && m_model;
 }
 
-void CSignRecordFile::Read(const CString& folder) {
-    m_strFolder = MakeSignDataFolder(folder);
-    const CString path = SignRecordPath(m_strFolder);
+void SignRecordFile::Read(const CString& folder) {
+    m_folder = MakeSignDataFolder(folder);
+    const CString path = SignRecordPath(m_folder);
     MakeWritable(path);
     CQORXmlDataParser parser;
-    const int result = parser.parseDataFile(path, m_spModel, nullptr);
+    const int result = parser.parseDataFile(path, m_model, nullptr);
     CheckError(result);
-    m_bUnreadable = result == 0 && IsThere(path);
+    m_unreadable = result == 0 && IsThere(path);
 }
 
-bool CSignRecordFile::Save() {
-    TemporaryFile temporary(m_strFolder);
+bool SignRecordFile::Save() {
+    TemporaryFile temporary(m_folder);
     if (temporary.Path().IsEmpty()) return false;
     CQORXmlDataParser parser;
-    const int result = parser.saveToFile(m_spModel, temporary.Path());
+    const int result = parser.saveToFile(m_model, temporary.Path());
     CheckError(result);
     if (result == 0) return false;
-    const CString copy = m_bUnreadable ? KeepCopy(m_strFolder) : CString();
-    if (m_bUnreadable && copy.IsEmpty()) return false;
-    const bool replaced = temporary.MoveTo(SignRecordPath(m_strFolder));
-    if (!replaced && m_bUnreadable) ::DeleteFileW(copy);
+    const CString copy = m_unreadable ? KeepCopy(m_folder) : CString();
+    if (m_unreadable && copy.IsEmpty()) return false;
+    const bool replaced = temporary.MoveTo(SignRecordPath(m_folder));
+    if (!replaced && m_unreadable) ::DeleteFileW(copy);
     return replaced;
 }
 

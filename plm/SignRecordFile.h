@@ -3,7 +3,7 @@
 
 #include <afxwin.h>
 
-#include "config/qormodel.h"
+#include "neighbours/qormodel.h"
 
 namespace varnoke {
 
@@ -12,11 +12,11 @@ CString SignRecordPath(const CString& signDataFolder);
 CString SignWorkPath(const CString& signDataFolder);
 
 /// The data model of a record file. Failing calls of the model raise _com_error.
-class CSignRecordFile {
+class SignRecordFile {
 public:
-    CSignRecordFile() = default;
-    CSignRecordFile(const CSignRecordFile&) = delete;
-    CSignRecordFile& operator=(const CSignRecordFile&) = delete;
+    SignRecordFile() = default;
+    SignRecordFile(const SignRecordFile&) = delete;
+    SignRecordFile& operator=(const SignRecordFile&) = delete;
 
     /// Creates an empty model; false when there is none to be had.
     bool Create();
@@ -27,12 +27,12 @@ public:
     /// unchanged. An unreadable old file is kept beside the new one.
     bool Save();
 
-    QORMODEL::IQORDataModel* Model() const { return m_spModel; }
+    QORMODEL::IQORDataModel* Model() const { return m_model; }
 
 private:
-    QORMODEL::IQORDataModelPtr m_spModel;
-    CString m_strFolder; // SignData, with its trailing backslash
-    bool m_bUnreadable = false;
+    QORMODEL::IQORDataModelPtr m_model;
+    CString m_folder; // SignData, with its trailing backslash
+    bool m_unreadable = false;
 };
 
 } // namespace varnoke

@@ -2,9 +2,9 @@
 #include <afxwin.h>
 
 #include "plm/TagFile.h"
-#include "module/InputFile.h"
+#include "base/InputFile.h"
 #include "module/ModulePaths.h"
-#include "module/Owned.h"
+#include "base/Owned.h"
 #include "plm/NoCase.h"
 #include "plm/TemporaryFile.h"
 

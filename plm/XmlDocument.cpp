@@ -3,7 +3,7 @@
 #include <afxwin.h>
 
 #include "plm/XmlDocument.h"
-#include "module/InputFile.h"
+#include "base/InputFile.h"
 #include "module/ModulePaths.h"
 #include "plm/SignDataFolder.h"
 #include "plm/TemporaryFile.h"

@@ -24,7 +24,7 @@ if grep -nE '#include <[a-zA-Z/_]*[A-Z][a-zA-Z/_]*\.h>' "${code[@]}"; then
 fi
 
 # Owned resources go back in their owners only.
-owners='^(module/Owned\.h|mfc/|standins/|abi/|tests/|host/Owned\.h|bench/)'
+owners='^(base/Owned\.h|mfc/|standins/|abi/|tests/|host/Owned\.h|bench/)'
 naked='(SysFreeString|VariantClear|CloseHandle|DeleteObject|CoTaskMemFree|GlobalFree|FreeLibrary|FindClose)\('
 if printf '%s\n' "${code[@]}" | grep -vE "$owners" | xargs grep -nE "$naked"; then
     complain "resources are released by their owner types only"
@@ -37,5 +37,7 @@ while read -r id; do
 done < <(grep -oE '^#define +ID[A-Z]_[A-Z0-9_]+' ui/resource.h | awk '{print $2}')
 dup=$(grep -oE '^#define +ID[A-Z]*_[A-Z0-9_]+' ui/resource.h | sort | uniq -d)
 [ -z "$dup" ] || complain "defined twice: $dup"
+
+scripts/check-rooms.py || failed=1
 
 exit $failed

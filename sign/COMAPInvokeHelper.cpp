@@ -1,12 +1,12 @@
 // Late-bound calls of the signing automation server.
-#include "sign/COMAPInvokeHelper.h"
+#include "varnoke/COMAPInvokeHelper.h"
 
 #include <cwchar>
 #include <iterator>
 #include <vector>
 
 #include "module/Guarded.h"
-#include "module/Owned.h"
+#include "base/Owned.h"
 #include "module/Text.h"
 
 namespace {
@@ -14,15 +14,15 @@ namespace {
 constexpr int kNameSize = 1024; // of a method name, with its terminator
 
 /// Takes what a failing method tells about itself; nobody reads it, but it is the caller's to free.
-struct CExceptionInfo : EXCEPINFO {
-    CExceptionInfo() : EXCEPINFO() {}
-    ~CExceptionInfo() {
+struct ExceptionInfo : EXCEPINFO {
+    ExceptionInfo() : EXCEPINFO() {}
+    ~ExceptionInfo() {
         const varnoke::OwnedBstr texts[] = {varnoke::OwnedBstr(bstrSource),
                                             varnoke::OwnedBstr(bstrDescription),
                                             varnoke::OwnedBstr(bstrHelpFile)};
     }
-    CExceptionInfo(const CExceptionInfo&) = delete;
-    CExceptionInfo& operator=(const CExceptionInfo&) = delete;
+    ExceptionInfo(const ExceptionInfo&) = delete;
+    ExceptionInfo& operator=(const ExceptionInfo&) = delete;
 };
 
 /// The status that a method returned: its 32-bit integer, whatever type the server chose for it; 0 when it is
@@ -42,7 +42,7 @@ static_assert(sizeof(_variant_t) == sizeof(VARIANT), "owned arguments go to the 
 
 CCOMAPInvokeHelper::~CCOMAPInvokeHelper() {
     // The server's code runs here for the last time.
-    varnoke::Guarded([&] { m_spServer = nullptr; });
+    varnoke::Guarded([&] { m_server = nullptr; });
 }
 
 long CCOMAPInvokeHelper::CreateFromProgID(const wchar_t* progID) {
@@ -59,43 +59,43 @@ long CCOMAPInvokeHelper::CreateFromProgID(const wchar_t* progID) {
         !spObject) {
         return 0;
     }
-    m_nMethod = 0;
+    m_method = 0;
     // Taking the address gives the previous server back.
-    if (FAILED(spObject->QueryInterface(IID_IDispatch, reinterpret_cast<void**>(&m_spServer)))) {
-        m_spServer.Detach();
+    if (FAILED(spObject->QueryInterface(IID_IDispatch, reinterpret_cast<void**>(&m_server)))) {
+        m_server.Detach();
     }
-    return m_spServer ? 1 : 0;
+    return m_server ? 1 : 0;
 }
 
 long CCOMAPInvokeHelper::SelectMethod(const wchar_t* name) {
-    if (!varnoke::HasText(name) || wcsnlen(name, kNameSize) == kNameSize || !m_spServer) {
+    if (!varnoke::HasText(name) || wcsnlen(name, kNameSize) == kNameSize || !m_server) {
         return 0;
     }
-    m_nMethod = 0;
+    m_method = 0;
     wchar_t buffer[kNameSize] = {};
     ::lstrcpynW(buffer, name, kNameSize);
     LPOLESTR names[] = {buffer};
     DISPID method = 0;
-    if (SUCCEEDED(m_spServer->GetIDsOfNames(IID_NULL, names, 1, ::GetUserDefaultLCID(), &method)) &&
+    if (SUCCEEDED(m_server->GetIDsOfNames(IID_NULL, names, 1, ::GetUserDefaultLCID(), &method)) &&
         method > 0) {
-        m_nMethod = method;
+        m_method = method;
     }
-    return m_nMethod;
+    return m_method;
 }
 
 long CCOMAPInvokeHelper::Invoke(VARIANT* arguments, unsigned count, VARIANT* result) {
-    if (!m_spServer || m_nMethod < 1) {
+    if (!m_server || m_method < 1) {
         return 0;
     }
     DISPPARAMS parameters = {arguments, nullptr, count, 0};
     _variant_t returned;
-    CExceptionInfo exception;
+    ExceptionInfo exception;
     UINT faultyArgument = 0;
-    if (FAILED(m_spServer->Invoke(m_nMethod, IID_NULL, ::GetUserDefaultLCID(), DISPATCH_METHOD, &parameters,
-                                  &returned, &exception, &faultyArgument))) {
+    if (FAILED(m_server->Invoke(m_method, IID_NULL, ::GetUserDefaultLCID(), DISPATCH_METHOD, &parameters,
+                                &returned, &exception, &faultyArgument))) {
         return 0;
     }
-    if (result != nullptr) {
+    if (result) {
         *result = returned.Detach();
     }
     return 1;

@@ -1,5 +1,5 @@
 // Calls of the signing automation server.
-#include "sign/SignOpt.h"
+#include "varnoke/SignOpt.h"
 
 #include "module/Guarded.h"
 #include "module/Text.h"
@@ -10,7 +10,7 @@ using varnoke::HasText;
 namespace {
 
 bool IsComplete(IDispatch* document, const wchar_t* text) {
-    return document != nullptr && HasText(text);
+    return document && HasText(text);
 }
 
 } // namespace
@@ -21,7 +21,7 @@ CSignOpt::~CSignOpt() = default;
 
 long CSignOpt::Initialize(CWnd* parent) {
     return Guarded(0L, [&]() -> long {
-        m_pParentWnd = parent;
+        m_parentWnd = parent;
         if (m_config.Initialize(parent) == 0) {
             return 0;
         }
@@ -36,24 +36,22 @@ long CSignOpt::Uninitialize() {
 
 long CSignOpt::Login(wchar_t* user, wchar_t* password, wchar_t* server) {
     return Guarded(0L, [&]() -> long {
-        if (!HasText(user) || password == nullptr || !HasText(server)) {
+        if (!HasText(user) || !password || !HasText(server)) {
             return 0;
         }
         const CString address = m_config.GetServerIP();
-        m_strSignUser = m_config.GetSignServer(user);
-        m_strServerAddress = address.IsEmpty() ? CString(server) : address;
-        m_strServerPort = m_config.GetServerPort();
-        m_strPLMUser = user;
-        m_strPassword = password;
-        return Call(m_config.GetDynDisp(L"Login"),
-                    {m_strSignUser, m_strPassword, m_strServerAddress, m_strServerPort});
+        m_signUser = m_config.GetSignServer(user);
+        m_serverAddress = address.IsEmpty() ? CString(server) : address;
+        m_serverPort = m_config.GetServerPort();
+        m_plmUser = user;
+        m_password = password;
+        return Call(m_config.GetDynDisp(L"Login"), {m_signUser, m_password, m_serverAddress, m_serverPort});
     });
 }
 
 long CSignOpt::Logout() {
     return Guarded(0L, [&] {
-        for (CString* text :
-             {&m_strPLMUser, &m_strSignUser, &m_strPassword, &m_strServerAddress, &m_strServerPort}) {
+        for (CString* text : {&m_plmUser, &m_signUser, &m_password, &m_serverAddress, &m_serverPort}) {
             text->Empty();
         }
         return 1L;
@@ -70,7 +68,7 @@ long CSignOpt::Sign(IDispatch* document, SSignInfo* info) {
 
 long CSignOpt::SignForBackSign(IDispatch* document, SSignInfo* info) {
     return Guarded(0L, [&]() -> long {
-        if (document == nullptr || info == nullptr) {
+        if (!document || !info) {
             return 0;
         }
         m_config.GetDelPre(); // reserved: read, without a meaning yet
@@ -83,7 +81,7 @@ long CSignOpt::SignForBackSign(IDispatch* document, SSignInfo* info) {
 
 long CSignOpt::DeleteSignForBackSign(IDispatch* document, SSignInfo* info) {
     return Guarded(0L, [&]() -> long {
-        if (document == nullptr || info == nullptr) {
+        if (!document || !info) {
             return 0;
         }
         return Call(m_config.GetDynDisp(L"SignatureDelete"),
@@ -115,7 +113,7 @@ long CSignOpt::ClearInvalidSign(IDispatch* document, wchar_t* text) {
 
 long CSignOpt::CancelSign(IDispatch* document, wchar_t* first, wchar_t* second, wchar_t* third) {
     return Guarded(0L, [&]() -> long {
-        if (document == nullptr || !HasText(first) || !HasText(second) || !HasText(third)) {
+        if (!document || !HasText(first) || !HasText(second) || !HasText(third)) {
             return 0;
         }
         // The configured name only has to be there: what is called is always the deletion of a signature.
@@ -132,7 +130,7 @@ long CSignOpt::ExistSignature(IDispatch* document, wchar_t* first, wchar_t* /*se
 
 long CSignOpt::HasInvalidSign(IDispatch* document, long* invalid) {
     return Guarded(0L, [&]() -> long {
-        if (document == nullptr || invalid == nullptr) {
+        if (!document || !invalid) {
             return 0;
         }
         *invalid = 0;

@@ -1,12 +1,12 @@
 // Assembly of the parameters of a signature, and the dialogs behind it.
-#include "sign/SignOpt.h"
+#include "varnoke/SignOpt.h"
 
 #include "module/Guarded.h"
 #include "module/ModulePaths.h"
 #include "module/OwnedRecord.h"
 #include "module/Text.h"
-#include "plm/durvell.h"
-#include "sign/DateStyle.h"
+#include "neighbours/durvell.h"
+#include "config/DateStyle.h"
 #include "ui/OptionDlg.h"
 #include "ui/SignDlg.h"
 
@@ -20,7 +20,7 @@ constexpr int kShareInfoSize = 1024; // of each buffer of the shared login, with
 
 /// Prepares an out-pointer, which stays null on failure. Returns whether there is one.
 bool ClearOut(SSignInfo** out) {
-    if (out == nullptr) {
+    if (!out) {
         return false;
     }
     *out = nullptr;
@@ -75,11 +75,11 @@ void FillSealAndDateForm(SSignInfo& info, const CINIConfig& config) {
 
 long CSignOpt::GetSignUserName(wchar_t* buffer) {
     return Guarded(0L, [&]() -> long {
-        if (buffer == nullptr) {
+        if (!buffer) {
             return 0;
         }
-        FetchSharedLogin(m_strPLMUser, m_strPassword, m_strServerAddress);
-        ::lstrcpynW(buffer, m_strPLMUser, kShareInfoSize);
+        FetchSharedLogin(m_plmUser, m_password, m_serverAddress);
+        ::lstrcpynW(buffer, m_plmUser, kShareInfoSize);
         return 1;
     });
 }
@@ -89,13 +89,13 @@ long CSignOpt::GetSignInfo(wchar_t* document, long value, wchar_t* name, SSignIn
         if (!ClearOut(out) || !HasText(document) || !HasText(name)) {
             return 0;
         }
-        FetchSharedLogin(m_strPLMUser, m_strPassword, m_strServerAddress);
-        const CString key = m_strPLMUser + L"_" + name;
+        FetchSharedLogin(m_plmUser, m_password, m_serverAddress);
+        const CString key = m_plmUser + L"_" + name;
         const CString drawing = varnoke::JoinPath(varnoke::TemporaryFolder(), key + L".dwg");
 
-        CSignDlg dialog(m_pParentWnd);
+        CSignDlg dialog(m_parentWnd);
         dialog.SetScopeSelectable(value);
-        dialog.SetUserName(m_strPLMUser);
+        dialog.SetUserName(m_plmUser);
         dialog.SetRole(name);
         dialog.SetSealDrawingPath(drawing);
         dialog.SetSettings(&m_config);
@@ -127,7 +127,7 @@ long CSignOpt::GetSignInfoForBackSign(wchar_t* document, SSignInfo** out) {
 
 long CSignOpt::GetCancelSignDate(wchar_t* out) {
     return Guarded(0L, [&]() -> long {
-        if (out == nullptr) {
+        if (!out) {
             return 0;
         }
         CString style = m_config.GetDateStyle();
@@ -141,7 +141,7 @@ long CSignOpt::GetCancelSignDate(wchar_t* out) {
 
 long CSignOpt::SetOption() {
     return Guarded(0L, [&]() -> long {
-        COptionDlg dialog(m_pParentWnd);
+        COptionDlg dialog(m_parentWnd);
         dialog.SetSettings(&m_config);
         return dialog.DoModal() == IDOK ? 1 : 0;
     });

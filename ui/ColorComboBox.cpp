@@ -2,9 +2,9 @@
 #include "ui/ColorComboBox.h"
 
 #include <afxdlgs.h>
-#include "module/Owned.h"
+#include "base/Owned.h"
 #include "ui/ColorText.h"
-#include "ui/ResourceText.h"
+#include "module/ResourceText.h"
 #include "ui/ScaledPixels.h"
 #include "ui/resource.h"
 
@@ -44,12 +44,12 @@ int CColorComboBox::SelectColor(int index) {
     if (index < 0 || index >= GetCount()) return 0;
     const int result = SetCurSel(index);
     if (result == CB_ERR) return 0;
-    m_nSelected = index;
+    m_selected = index;
     return result;
 }
 
 int CColorComboBox::SetPickerOwner(CWnd* pOwner) {
-    m_pPickerOwner = pOwner;
+    m_pickerOwner = pOwner;
     return 1;
 }
 
@@ -60,7 +60,7 @@ int CColorComboBox::FinishList() {
         AddColor(RGB(0, 255, 0));
         AddColor(RGB(0, 0, 255));
     }
-    if (count > m_nCapacity) return 0;
+    if (count > m_capacity) return 0;
     SelectColor(0);
     return AddColor(RGB(0, 0, 0));
 }
@@ -143,17 +143,17 @@ void CColorComboBox::OnSelendok() {
 
 // The picked colour takes the place of the entry for more colours, and a new such entry follows it.
 void CColorComboBox::PickColor(int index) {
-    CColorDialog picker(RGB(0, 0, 0), 0, m_pPickerOwner);
+    CColorDialog picker(RGB(0, 0, 0), 0, m_pickerOwner);
     if (picker.DoModal() == IDOK) {
         SetItemData(index, picker.GetColor());
         AddColor(picker.GetColor());
-        m_nSelected = index;
+        m_selected = index;
         return;
     }
-    if (m_nSelected < 0 || m_nSelected >= GetCount() - 1) m_nSelected = 0;
-    SelectColor(m_nSelected);
+    if (m_selected < 0 || m_selected >= GetCount() - 1) m_selected = 0;
+    SelectColor(m_selected);
 }
 
 bool CColorComboBox::IsFull() const {
-    return GetCount() > m_nCapacity;
+    return GetCount() > m_capacity;
 }

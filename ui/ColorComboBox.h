@@ -38,7 +38,7 @@ private:
     void PickColor(int index);
     static void DrawSwatch(const DRAWITEMSTRUCT& item, COLORREF color);
 
-    CWnd* m_pPickerOwner = nullptr; // weak
-    int m_nSelected = -1;           // last selected through SelectColor or the picker
-    int m_nCapacity = 1000;         // above this nothing is added
+    CWnd* m_pickerOwner = nullptr; // weak
+    int m_selected = -1;           // last selected through SelectColor or the picker
+    int m_capacity = 1000;         // above this nothing is added
 };

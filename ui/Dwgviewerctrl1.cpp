@@ -1,7 +1,7 @@
 // The control is driven through its automation interface.
 #include "ui/Dwgviewerctrl1.h"
 
-#include "ui/DwgViewerIds.h"
+#include "neighbours/DwgViewerIds.h"
 
 long CDwgviewerctrl1::OpenDrawing(const CString& strPath) {
     static const BYTE parms[] = VTS_BSTR;

@@ -1,10 +1,10 @@
 // The colour is kept in the settings file only; nothing is written until OK.
 #include "ui/OptionDlg.h"
 
-#include "config/INIConfig.h"
+#include "varnoke/INIConfig.h"
 #include "module/Guarded.h"
 #include "module/InfoMessage.h"
-#include "ui/ResourceText.h"
+#include "module/ResourceText.h"
 #include "ui/StoredColor.h"
 
 BEGIN_MESSAGE_MAP(COptionDlg, CDialog)
@@ -15,8 +15,8 @@ END_MESSAGE_MAP()
 COptionDlg::COptionDlg(CWnd* pParent) : CDialog(IDD, pParent) {}
 
 int COptionDlg::SetSettings(CINIConfig* pSettings) {
-    if (pSettings == nullptr) return 0;
-    m_pSettings = pSettings;
+    if (!pSettings) return 0;
+    m_settings = pSettings;
     return 1;
 }
 
@@ -27,8 +27,7 @@ void COptionDlg::DoDataExchange(CDataExchange* pDX) {
 
 BOOL COptionDlg::OnInitDialog() {
     CDialog::OnInitDialog();
-    varnoke::Guarded(
-        [this] { m_comboTextColor.FillWithStored(varnoke::StoredTextColor(m_pSettings), this); });
+    varnoke::Guarded([this] { m_comboTextColor.FillWithStored(varnoke::StoredTextColor(m_settings), this); });
     return TRUE;
 }
 
@@ -39,7 +38,7 @@ void COptionDlg::OnOK() {
             varnoke::ShowInfo(varnoke::ResourceText(IDS_BAD_TEXT_COLOR), this);
             return;
         }
-        if (m_pSettings != nullptr) m_pSettings->SetDateTextColor(color);
+        if (m_settings) m_settings->SetDateTextColor(color);
         EndDialog(IDOK);
     });
 }

@@ -24,5 +24,5 @@ protected:
 
 private:
     CColorComboBox m_comboTextColor;
-    CINIConfig* m_pSettings = nullptr; // weak
+    CINIConfig* m_settings = nullptr; // weak
 };

@@ -1,7 +1,7 @@
 // The control is driven through its automation interface.
 #include "ui/QORGrid.h"
 
-#include "ui/QORGridIds.h"
+#include "neighbours/QORGridIds.h"
 
 using namespace varnoke;
 

@@ -4,12 +4,12 @@
 #include <algorithm>
 #include <vector>
 #include "config/EntryAttribute.h"
-#include "config/ModelConfig.h"
+#include "varnoke/ModelConfig.h"
 #include "module/Guarded.h"
 #include "module/InfoMessage.h"
-#include "ui/DocumentCopy.h"
-#include "ui/QORGridIds.h"
-#include "ui/ResourceText.h"
+#include "module/DocumentCopy.h"
+#include "neighbours/QORGridIds.h"
+#include "module/ResourceText.h"
 #include "ui/ScaledPixels.h"
 
 using namespace varnoke;
@@ -31,23 +31,23 @@ END_MESSAGE_MAP()
 CSDLDlg::CSDLDlg(CWnd* pParent) : CDialog(IDD, pParent) {}
 
 int CSDLDlg::SetSignFileType(SSignType* pSignFileType) {
-    if (pSignFileType == nullptr) return 0;
-    m_pSignFileType = pSignFileType;
+    if (!pSignFileType) return 0;
+    m_signFileType = pSignFileType;
     return 1;
 }
 
 int CSDLDlg::SetModelConfig(CModelConfig* pModelConfig) {
-    if (pModelConfig == nullptr) return 0;
-    m_pModelConfig = pModelConfig;
+    if (!pModelConfig) return 0;
+    m_modelConfig = pModelConfig;
     return 1;
 }
 
 int CSDLDlg::GetSelectedSignFileType(SSignType** ppSignFileType) const {
-    if (ppSignFileType == nullptr) return 0;
+    if (!ppSignFileType) return 0;
     *ppSignFileType = nullptr;
-    if (m_pChosen == nullptr) return 0;
-    *ppSignFileType = CopyFirstWithProperties(*m_pChosen).release();
-    return *ppSignFileType != nullptr ? 1 : 0;
+    if (!m_chosen) return 0;
+    *ppSignFileType = CopyFirstWithProperties(*m_chosen).release();
+    return *ppSignFileType ? 1 : 0;
 }
 
 void CSDLDlg::DoDataExchange(CDataExchange* pDX) {
@@ -64,9 +64,9 @@ BOOL CSDLDlg::OnInitDialog() {
 
 void CSDLDlg::FillGrid() {
     const QORMODEL::IQORObjConfigPtr config =
-        m_pModelConfig != nullptr ? m_pModelConfig->GetServerObjectConfig() : nullptr;
+        m_modelConfig ? m_modelConfig->GetServerObjectConfig() : nullptr;
     long attributes = 0;
-    if (config == nullptr || FAILED(config->GetCount(&attributes)) || attributes <= 0) return;
+    if (!config || FAILED(config->GetCount(&attributes)) || attributes <= 0) return;
 
     m_grid.SetUp();
     m_grid.SetColumnCount(attributes + kFirstAttributeColumn);
@@ -88,11 +88,11 @@ void CSDLDlg::FillGrid() {
     for (long column = 0; column < columns; ++column)
         m_grid.SetColumnWidth(column, width);
 
-    if (m_pSignFileType == nullptr) return;
+    if (!m_signFileType) return;
     long position = 0;
-    for (POSITION pos = m_pSignFileType->m_lstObj.GetHeadPosition(); pos != nullptr; ++position) {
-        const SSignObj* object = m_pSignFileType->m_lstObj.GetNext(pos);
-        if (object != nullptr) AddRow(*object, position);
+    for (POSITION pos = m_signFileType->m_lstObj.GetHeadPosition(); pos; ++position) {
+        const SSignObj* object = m_signFileType->m_lstObj.GetNext(pos);
+        if (object) AddRow(*object, position);
     }
 }
 
@@ -111,7 +111,7 @@ void CSDLDlg::AddRow(const SSignObj& obj, long nPosition) {
     m_grid.SetCellText(row, kNumberColumn, text);
     m_grid.SetCellText(row, kChosenColumn, L"1");
     long column = 0;
-    for (POSITION pos = m_columnKeys.GetHeadPosition(); pos != nullptr; ++column) {
+    for (POSITION pos = m_columnKeys.GetHeadPosition(); pos; ++column) {
         const CString& key = m_columnKeys.GetNext(pos);
         if (column < kFirstAttributeColumn) continue;
         const CString value = PropertyValue(obj, key);
@@ -120,7 +120,7 @@ void CSDLDlg::AddRow(const SSignObj& obj, long nPosition) {
 }
 
 void CSDLDlg::OnOK() {
-    m_pChosen.reset();
+    m_chosen.reset();
     Guarded([this] {
         if (const UINT fault = FindFault()) {
             ShowInfo(ResourceText(fault), this);
@@ -147,8 +147,8 @@ UINT CSDLDlg::FindFault() {
 
 void CSDLDlg::KeepChosen() {
     std::vector<const SSignObj*> objects;
-    for (POSITION pos = m_pSignFileType->m_lstObj.GetHeadPosition(); pos != nullptr;)
-        objects.push_back(m_pSignFileType->m_lstObj.GetNext(pos));
+    for (POSITION pos = m_signFileType->m_lstObj.GetHeadPosition(); pos;)
+        objects.push_back(m_signFileType->m_lstObj.GetNext(pos));
 
     OwnedRecord<SSignType> chosen(new SSignType);
     const long rows = m_grid.GetRowCount();
@@ -157,5 +157,5 @@ void CSDLDlg::KeepChosen() {
         const SSignObj* object = objects.at(m_grid.GetRowValue(row));
         if (HasProperties(object)) AppendObject(*chosen, CopyObject(*object));
     }
-    m_pChosen = std::move(chosen);
+    m_chosen = std::move(chosen);
 }

@@ -40,8 +40,8 @@ private:
     void KeepChosen();
 
     CQORGrid m_grid;
-    SSignType* m_pSignFileType = nullptr;   // weak
-    CModelConfig* m_pModelConfig = nullptr; // weak
-    varnoke::OwnedRecord<SSignType> m_pChosen;
+    SSignType* m_signFileType = nullptr;   // weak
+    CModelConfig* m_modelConfig = nullptr; // weak
+    varnoke::OwnedRecord<SSignType> m_chosen;
     CStringList m_columnKeys; // one per grid column
 };

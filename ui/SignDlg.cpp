@@ -1,11 +1,11 @@
 // The sign dialog's inputs, results and confirmation; SignDlgFill.cpp fills its controls.
 #include "ui/SignDlg.h"
 
-#include "config/INIConfig.h"
+#include "varnoke/INIConfig.h"
 #include "module/Guarded.h"
 #include "module/InfoMessage.h"
-#include "sign/DateStyle.h"
-#include "ui/ResourceText.h"
+#include "config/DateStyle.h"
+#include "module/ResourceText.h"
 #include "ui/SignScope.h"
 
 using namespace varnoke;
@@ -23,9 +23,9 @@ CalendarDate PickedDate(const CDateTimeCtrl& picker) {
     CalendarDate date;
     SYSTEMTIME time = {};
     if (picker.GetTime(&time) == GDT_VALID) {
-        date.m_nYear = time.wYear;
-        date.m_nMonth = time.wMonth;
-        date.m_nDay = time.wDay;
+        date.year = time.wYear;
+        date.month = time.wMonth;
+        date.day = time.wDay;
     }
     return date;
 }
@@ -43,26 +43,26 @@ END_MESSAGE_MAP()
 CSignDlg::CSignDlg(CWnd* pParent) : CDialog(IDD, pParent) {}
 
 int CSignDlg::SetScopeSelectable(int nSelectable) {
-    m_nScopeSelectable = nSelectable;
+    m_scopeSelectable = nSelectable;
     return 1;
 }
 
 int CSignDlg::SetUserName(const CString& strUserName) {
     return Guarded(0, [&] {
-        m_strUserNameIn = strUserName;
-        if (!m_strUserNameIn.IsEmpty()) return 1;
+        m_userNameIn = strUserName;
+        if (!m_userNameIn.IsEmpty()) return 1;
         wchar_t name[2048] = {};
         DWORD size = 2047;
         if (!::GetUserNameW(name, &size)) return 0;
-        m_strUserNameIn = name;
+        m_userNameIn = name;
         return 1;
     });
 }
 
 int CSignDlg::SetRole(const CString& strRole) {
     return Guarded(0, [&] {
-        m_strRoleIn = strRole;
-        if (m_strRoleIn.IsEmpty()) m_strRoleIn = L"设计";
+        m_roleIn = strRole;
+        if (m_roleIn.IsEmpty()) m_roleIn = L"设计";
         return 1;
     });
 }
@@ -70,14 +70,14 @@ int CSignDlg::SetRole(const CString& strRole) {
 int CSignDlg::SetSealDrawingPath(const CString& strPath) {
     return Guarded(0, [&] {
         if (strPath.IsEmpty()) return 0;
-        m_strSealDrawingPath = strPath;
+        m_sealDrawingPath = strPath;
         return 1;
     });
 }
 
 int CSignDlg::SetSettings(CINIConfig* pSettings) {
-    if (pSettings == nullptr) return 0;
-    m_pSettings = pSettings;
+    if (!pSettings) return 0;
+    m_settings = pSettings;
     return 1;
 }
 
@@ -94,21 +94,21 @@ void CSignDlg::OnClickedScopeAll() {
 }
 
 void CSignDlg::OnScopeClicked(int nScope, const CButton& box) {
-    if (m_nScopeSelectable != 0) ShowScope(ScopeAfterClick(nScope, box.GetCheck() == BST_CHECKED));
+    if (m_scopeSelectable != 0) ShowScope(ScopeAfterClick(nScope, box.GetCheck() == BST_CHECKED));
 }
 
 void CSignDlg::ShowScope(int nScope) {
-    const SScopeBoxes state = ScopeBoxes(nScope);
+    const ScopeState state = ScopeBoxes(nScope);
     CButton* const boxes[kScopeCount] = {&m_boxCurrent, &m_boxOpened, &m_boxAll};
     for (int i = 0; i < kScopeCount; ++i) {
-        boxes[i]->EnableWindow(state.m_abEnabled[i]);
-        boxes[i]->SetCheck(state.m_abChecked[i] ? BST_CHECKED : BST_UNCHECKED);
+        boxes[i]->EnableWindow(state.enabled[i]);
+        boxes[i]->SetCheck(state.checked[i] ? BST_CHECKED : BST_UNCHECKED);
     }
 }
 
 void CSignDlg::OnOK() {
     const bool confirmed = Guarded(false, [this] {
-        const SSignInput input = ReadInput();
+        const SignInput input = ReadInput();
         if (const UINT fault = FindSignFault(input)) {
             ShowInfo(ResourceText(fault), this);
             return false;
@@ -121,39 +121,39 @@ void CSignDlg::OnOK() {
     EndDialog(IDOK);
 }
 
-SSignInput CSignDlg::ReadInput() const {
-    SSignInput input;
-    input.m_strUserName = WindowText(m_editUserName);
-    input.m_strRole = WindowText(m_editRole);
-    input.m_strSealName = WindowText(m_editSealName);
-    input.m_strDateFormat = WindowText(m_comboDateFormat);
-    input.m_strDateLocation = WindowText(m_comboDateLocation);
-    input.m_strFontSize = WindowText(m_comboFontSize);
-    input.m_bColorValid = m_comboTextColor.GetSelectedColor(&input.m_nColor);
-    input.m_bCurrent = m_boxCurrent.GetCheck() == BST_CHECKED;
-    input.m_bOpened = m_boxOpened.GetCheck() == BST_CHECKED;
-    input.m_bAll = m_boxAll.GetCheck() == BST_CHECKED;
+SignInput CSignDlg::ReadInput() const {
+    SignInput input;
+    input.userName = WindowText(m_editUserName);
+    input.role = WindowText(m_editRole);
+    input.sealName = WindowText(m_editSealName);
+    input.dateFormat = WindowText(m_comboDateFormat);
+    input.dateLocation = WindowText(m_comboDateLocation);
+    input.fontSize = WindowText(m_comboFontSize);
+    input.colorValid = m_comboTextColor.GetSelectedColor(&input.color);
+    input.current = m_boxCurrent.GetCheck() == BST_CHECKED;
+    input.opened = m_boxOpened.GetCheck() == BST_CHECKED;
+    input.all = m_boxAll.GetCheck() == BST_CHECKED;
     return input;
 }
 
-void CSignDlg::Collect(const SSignInput& input) {
-    m_strUserNameOut = input.m_strUserName;
-    m_strRoleOut = input.m_strRole;
-    m_strSealNameOut = input.m_strSealName;
-    m_strSignDateText = RenderDate(input.m_strDateFormat, PickedDate(m_pickerSignTime));
-    m_strDateFormatOut = input.m_strDateFormat;
-    m_strDateLocationOut = input.m_strDateLocation;
-    m_strFontSizeOut = input.m_strFontSize;
-    m_nTextColor = input.m_nColor;
-    m_strTextColorOut.Format(L"%d", input.m_nColor);
-    m_nScope = ChosenScope(input.m_bOpened, input.m_bAll);
+void CSignDlg::Collect(const SignInput& input) {
+    m_userNameOut = input.userName;
+    m_roleOut = input.role;
+    m_sealNameOut = input.sealName;
+    m_signDateText = RenderDate(input.dateFormat, PickedDate(m_pickerSignTime));
+    m_dateFormatOut = input.dateFormat;
+    m_dateLocationOut = input.dateLocation;
+    m_fontSizeOut = input.fontSize;
+    m_textColor = input.color;
+    m_textColorOut.Format(L"%d", input.color);
+    m_scope = ChosenScope(input.opened, input.all);
 }
 
 void CSignDlg::WriteBack() {
-    if (m_pSettings == nullptr) return;
-    m_pSettings->SetDateStyle(m_strDateFormatOut);
-    m_pSettings->SetDateLocation(m_strDateLocationOut);
-    m_pSettings->SetDateFontSize(FontSizeValue(m_strFontSizeOut));
-    m_pSettings->SetDateTextColor(m_nTextColor);
-    m_pSettings->SetScope(m_nScope);
+    if (!m_settings) return;
+    m_settings->SetDateStyle(m_dateFormatOut);
+    m_settings->SetDateLocation(m_dateLocationOut);
+    m_settings->SetDateFontSize(FontSizeValue(m_fontSizeOut));
+    m_settings->SetDateTextColor(m_textColor);
+    m_settings->SetScope(m_scope);
 }

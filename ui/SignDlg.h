@@ -25,15 +25,15 @@ public:
     int SetSettings(CINIConfig* pSettings);         // borrowed, must outlive the dialog; null: refused
 
     /// Results of a dialog that ended with IDOK.
-    CString UserName() const { return m_strUserNameOut; }
-    CString Role() const { return m_strRoleOut; }
-    CString SealName() const { return m_strSealNameOut; }
-    CString SignDateText() const { return m_strSignDateText; }
-    CString DateFormat() const { return m_strDateFormatOut; }
-    CString DateLocation() const { return m_strDateLocationOut; }
-    CString FontSize() const { return m_strFontSizeOut; }
-    CString TextColor() const { return m_strTextColorOut; } // decimal
-    int Scope() const { return m_nScope; }                  // 1 current document, 2 opened, 3 all
+    CString UserName() const { return m_userNameOut; }
+    CString Role() const { return m_roleOut; }
+    CString SealName() const { return m_sealNameOut; }
+    CString SignDateText() const { return m_signDateText; }
+    CString DateFormat() const { return m_dateFormatOut; }
+    CString DateLocation() const { return m_dateLocationOut; }
+    CString FontSize() const { return m_fontSizeOut; }
+    CString TextColor() const { return m_textColorOut; } // decimal
+    int Scope() const { return m_scope; }                // 1 current document, 2 opened, 3 all
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
@@ -53,8 +53,8 @@ private:
     void InitScopeBoxes();
     void ShowScope(int nScope);
     void OnScopeClicked(int nScope, const CButton& box);
-    varnoke::SSignInput ReadInput() const;
-    void Collect(const varnoke::SSignInput& input);
+    varnoke::SignInput ReadInput() const;
+    void Collect(const varnoke::SignInput& input);
     void WriteBack();
 
     CEdit m_editUserName;
@@ -69,20 +69,20 @@ private:
     CButton m_boxCurrent;
     CButton m_boxOpened;
     CButton m_boxAll;
-    int m_nScopeSelectable = 0;
-    CString m_strUserNameIn;
-    CString m_strRoleIn;
-    CString m_strSealNameIn;
-    CString m_strSealDrawingPath;
-    CINIConfig* m_pSettings = nullptr; // weak
-    CString m_strUserNameOut;
-    CString m_strRoleOut;
-    CString m_strSealNameOut;
-    CString m_strSignDateText;
-    CString m_strDateFormatOut;
-    CString m_strDateLocationOut;
-    CString m_strFontSizeOut;
-    CString m_strTextColorOut;
-    int m_nScope = 1;
-    int m_nTextColor = 0; // the number behind m_strTextColorOut
+    int m_scopeSelectable = 0;
+    CString m_userNameIn;
+    CString m_roleIn;
+    CString m_sealNameIn;
+    CString m_sealDrawingPath;
+    CINIConfig* m_settings = nullptr; // weak
+    CString m_userNameOut;
+    CString m_roleOut;
+    CString m_sealNameOut;
+    CString m_signDateText;
+    CString m_dateFormatOut;
+    CString m_dateLocationOut;
+    CString m_fontSizeOut;
+    CString m_textColorOut;
+    int m_scope = 1;
+    int m_textColor = 0; // the number behind m_textColorOut
 };

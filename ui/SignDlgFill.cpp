@@ -1,9 +1,9 @@
 // How the sign dialog's controls start: the inputs, the settings and the fixed choices.
 #include "ui/SignDlg.h"
 
-#include "config/INIConfig.h"
+#include "varnoke/INIConfig.h"
 #include "module/Guarded.h"
-#include "sign/DateStyle.h"
+#include "config/DateStyle.h"
 #include "ui/StoredColor.h"
 #include "ui/SignScope.h"
 
@@ -58,34 +58,34 @@ BOOL CSignDlg::OnInitDialog() {
 }
 
 void CSignDlg::FillControls() {
-    m_editUserName.SetWindowText(m_strUserNameIn);
-    m_editRole.SetWindowText(m_strRoleIn);
-    if (m_strSealNameIn.IsEmpty()) m_strSealNameIn = m_strUserNameIn + L"_" + m_strRoleIn;
-    m_editSealName.SetWindowText(m_strSealNameIn);
+    m_editUserName.SetWindowText(m_userNameIn);
+    m_editRole.SetWindowText(m_roleIn);
+    if (m_sealNameIn.IsEmpty()) m_sealNameIn = m_userNameIn + L"_" + m_roleIn;
+    m_editSealName.SetWindowText(m_sealNameIn);
     ShowPreview();
     FillDateFormats();
     FillDateLocations();
     FillFontSizes();
-    m_comboTextColor.FillWithStored(StoredTextColor(m_pSettings), this);
+    m_comboTextColor.FillWithStored(StoredTextColor(m_settings), this);
     InitScopeBoxes();
 }
 
 void CSignDlg::ShowPreview() {
     // Without a viewer, or with a drawing it cannot show, the preview stays empty; signing goes on.
-    Guarded([this] { m_preview.OpenDrawing(m_strSealDrawingPath); });
+    Guarded([this] { m_preview.OpenDrawing(m_sealDrawingPath); });
 }
 
 void CSignDlg::FillDateFormats() {
     Fill(m_comboDateFormat, kDateStyles);
-    if (m_pSettings == nullptr) return;
-    const CString style = m_pSettings->GetDateStyle();
+    if (!m_settings) return;
+    const CString style = m_settings->GetDateStyle();
     SelectOrInsert(m_comboDateFormat, style.IsEmpty() ? CString(kDefaultDateStyle) : style);
 }
 
 void CSignDlg::FillDateLocations() {
     Fill(m_comboDateLocation, kDateLocations);
     CString location;
-    if (m_pSettings != nullptr) location = m_pSettings->GetDateLocation();
+    if (m_settings) location = m_settings->GetDateLocation();
     if (location.IsEmpty()) location = kDateLocations[0];
     const int index = m_comboDateLocation.FindStringExact(-1, location);
     if (index != CB_ERR)
@@ -96,7 +96,7 @@ void CSignDlg::FillDateLocations() {
 
 void CSignDlg::FillFontSizes() {
     Fill(m_comboFontSize, kFontSizes);
-    long size = m_pSettings != nullptr ? m_pSettings->GetDateFontSize() : kDefaultFontSize;
+    long size = m_settings ? m_settings->GetDateFontSize() : kDefaultFontSize;
     if (size < 1) size = kDefaultFontSize;
     CString text;
     text.Format(L"%ld", size);
@@ -109,8 +109,8 @@ void CSignDlg::InitScopeBoxes() {
         box->EnableWindow(FALSE);
         box->SetCheck(BST_CHECKED);
     }
-    if (m_nScopeSelectable == 0) return;
+    if (m_scopeSelectable == 0) return;
     int scope = kScopeCurrent;
-    if (m_pSettings != nullptr) scope = m_pSettings->GetScope();
+    if (m_settings) scope = m_settings->GetScope();
     ShowScope(scope);
 }

@@ -1,7 +1,7 @@
 // The order of the checks decides which message the user sees first.
 #include "ui/SignInput.h"
 
-#include "sign/DateStyle.h"
+#include "config/DateStyle.h"
 #include "ui/resource.h"
 
 namespace varnoke {
@@ -26,16 +26,16 @@ UINT FindDateFormatFault(const CString& format) {
 
 } // namespace
 
-UINT FindSignFault(const SSignInput& input) {
-    if (input.m_strUserName.IsEmpty()) return IDS_NO_USER_NAME;
-    if (input.m_strRole.IsEmpty()) return IDS_NO_ROLE;
-    if (input.m_strSealName.IsEmpty()) return IDS_NO_SEAL_NAME;
-    if (const UINT fault = FindDateFormatFault(input.m_strDateFormat)) return fault;
-    if (input.m_strDateLocation.IsEmpty()) return IDS_NO_DATE_LOCATION;
-    if (input.m_strFontSize.IsEmpty()) return IDS_NO_FONT_SIZE;
-    if (FontSizeValue(input.m_strFontSize) <= 0) return IDS_FONT_SIZE_NOT_POSITIVE;
-    if (!input.m_bColorValid) return IDS_BAD_TEXT_COLOR;
-    if (!input.m_bCurrent && !input.m_bOpened && !input.m_bAll) return IDS_NO_SCOPE;
+UINT FindSignFault(const SignInput& input) {
+    if (input.userName.IsEmpty()) return IDS_NO_USER_NAME;
+    if (input.role.IsEmpty()) return IDS_NO_ROLE;
+    if (input.sealName.IsEmpty()) return IDS_NO_SEAL_NAME;
+    if (const UINT fault = FindDateFormatFault(input.dateFormat)) return fault;
+    if (input.dateLocation.IsEmpty()) return IDS_NO_DATE_LOCATION;
+    if (input.fontSize.IsEmpty()) return IDS_NO_FONT_SIZE;
+    if (FontSizeValue(input.fontSize) <= 0) return IDS_FONT_SIZE_NOT_POSITIVE;
+    if (!input.colorValid) return IDS_BAD_TEXT_COLOR;
+    if (!input.current && !input.opened && !input.all) return IDS_NO_SCOPE;
     return 0;
 }
 

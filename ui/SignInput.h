@@ -5,23 +5,23 @@
 
 namespace varnoke {
 
-struct SSignInput {
-    CString m_strUserName;
-    CString m_strRole;
-    CString m_strSealName;
-    CString m_strDateFormat;
-    CString m_strDateLocation;
-    CString m_strFontSize;
-    bool m_bColorValid = false;
-    int m_nColor = 0; ///< red in the low byte, then green, then blue
-    bool m_bCurrent = false;
-    bool m_bOpened = false;
-    bool m_bAll = false;
+struct SignInput {
+    CString userName;
+    CString role;
+    CString sealName;
+    CString dateFormat;
+    CString dateLocation;
+    CString fontSize;
+    bool colorValid = false;
+    int color = 0; ///< red in the low byte, then green, then blue
+    bool current = false;
+    bool opened = false;
+    bool all = false;
 };
 
 /// The string id of the message for the first fault, in the order in which the user is told; 0 when there is
 /// none.
-UINT FindSignFault(const SSignInput& input);
+UINT FindSignFault(const SignInput& input);
 
 /// The leading decimal number of a font size text, 0 when it does not start with a number.
 int FontSizeValue(const CString& text);

@@ -3,12 +3,12 @@
 
 namespace varnoke {
 
-SScopeBoxes ScopeBoxes(int scope) {
+ScopeState ScopeBoxes(int scope) {
     if (scope < kScopeCurrent || scope > kScopeAll) scope = kScopeCurrent;
-    SScopeBoxes boxes;
+    ScopeState boxes;
     for (int box = kScopeCurrent; box <= kScopeAll; ++box) {
-        boxes.m_abEnabled[box - 1] = box >= scope;
-        boxes.m_abChecked[box - 1] = box <= scope;
+        boxes.enabled[box - 1] = box >= scope;
+        boxes.checked[box - 1] = box <= scope;
     }
     return boxes;
 }

@@ -4,17 +4,17 @@
 
 namespace varnoke {
 
-enum EScope : int { kScopeCurrent = 1, kScopeOpened = 2, kScopeAll = 3 };
+enum Scope : int { kScopeCurrent = 1, kScopeOpened = 2, kScopeAll = 3 };
 constexpr int kScopeCount = 3;
 
 /// State of the boxes, narrowest scope first.
-struct SScopeBoxes {
-    bool m_abEnabled[kScopeCount];
-    bool m_abChecked[kScopeCount];
+struct ScopeState {
+    bool enabled[kScopeCount];
+    bool checked[kScopeCount];
 };
 
 /// How the boxes show a scope; a value that is no scope shows as the current document.
-SScopeBoxes ScopeBoxes(int scope);
+ScopeState ScopeBoxes(int scope);
 
 /// The scope after a click on the box of a scope, which is now checked or not.
 int ScopeAfterClick(int clicked, bool checked);

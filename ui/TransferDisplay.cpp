@@ -13,16 +13,16 @@ const int kLogLimit = 0x7ffffffe;
 
 } // namespace
 
-void CTransferDisplay::Exchange(CDataExchange* pDX, const STransferVariant& variant) {
-    DDX_Control(pDX, variant.m_nFileLabel, m_labelFile);
-    DDX_Control(pDX, variant.m_nFileBar, m_barFile);
-    DDX_Control(pDX, variant.m_nTotalLabel, m_labelTotal);
-    DDX_Control(pDX, variant.m_nTotalBar, m_barTotal);
-    DDX_Control(pDX, variant.m_nLog, m_editLog);
+void CTransferDisplay::Exchange(CDataExchange* pDX, const TransferVariant& variant) {
+    DDX_Control(pDX, variant.fileLabel, m_labelFile);
+    DDX_Control(pDX, variant.fileBar, m_barFile);
+    DDX_Control(pDX, variant.totalLabel, m_labelTotal);
+    DDX_Control(pDX, variant.totalBar, m_barTotal);
+    DDX_Control(pDX, variant.log, m_editLog);
 }
 
 void CTransferDisplay::Start(const CString& strFile, const CString& strTotal, int nCount) {
-    m_bPaced = nCount > kShortList;
+    m_paced = nCount > kShortList;
     m_labelFile.SetWindowText(strFile);
     m_barFile.SetRange32(0, kActivityEnd);
     m_barFile.SetPos(0);
@@ -35,12 +35,12 @@ void CTransferDisplay::Start(const CString& strFile, const CString& strTotal, in
 }
 
 void CTransferDisplay::ShowFile(const CString& strText, int nActivity) {
-    m_strFile = strText;
-    m_nActivity = nActivity;
+    m_file = strText;
+    m_activity = nActivity;
 }
 
 void CTransferDisplay::ShowTotal(const CString& strText) {
-    m_strTotal = strText;
+    m_total = strText;
 }
 
 void CTransferDisplay::Log(const CString& strText) {
@@ -48,31 +48,31 @@ void CTransferDisplay::Log(const CString& strText) {
     const __time64_t now = _time64(nullptr);
     tm local = {};
     const bool known = _localtime64_s(&local, &now) == 0;
-    m_strLines += LogLine(strText, known ? &local : nullptr);
+    m_lines += LogLine(strText, known ? &local : nullptr);
 }
 
 void CTransferDisplay::Draw() {
-    if (!m_strFile.IsEmpty()) {
-        m_labelFile.SetWindowText(m_strFile);
-        m_barFile.SetPos(m_nActivity);
-        m_strFile.Empty();
+    if (!m_file.IsEmpty()) {
+        m_labelFile.SetWindowText(m_file);
+        m_barFile.SetPos(m_activity);
+        m_file.Empty();
     }
-    if (!m_strTotal.IsEmpty()) {
-        m_labelTotal.SetWindowText(m_strTotal);
-        m_strTotal.Empty();
+    if (!m_total.IsEmpty()) {
+        m_labelTotal.SetWindowText(m_total);
+        m_total.Empty();
     }
-    if (!m_strLines.IsEmpty()) {
+    if (!m_lines.IsEmpty()) {
         m_editLog.SetReadOnly(TRUE);
         const int end = m_editLog.GetWindowTextLength();
         m_editLog.SetSel(end, end); // this also scrolls the caret into view
-        m_editLog.ReplaceSel(m_strLines);
-        m_strLines.Empty();
+        m_editLog.ReplaceSel(m_lines);
+        m_lines.Empty();
     }
-    m_nLastDrawn = ::GetTickCount64();
+    m_lastDrawn = ::GetTickCount64();
 }
 
 void CTransferDisplay::DrawWhenDue() {
-    if (!m_bPaced || ::GetTickCount64() - m_nLastDrawn >= kDrawInterval) Draw();
+    if (!m_paced || ::GetTickCount64() - m_lastDrawn >= kDrawInterval) Draw();
 }
 
 void CTransferDisplay::StepActivity() {

@@ -10,7 +10,7 @@
 class CTransferDisplay {
 public:
     /// Binds the controls; for the dialog's DoDataExchange.
-    void Exchange(CDataExchange* pDX, const varnoke::STransferVariant& variant);
+    void Exchange(CDataExchange* pDX, const varnoke::TransferVariant& variant);
     void Start(const CString& strFile, const CString& strTotal, int nCount);
 
     void ShowFile(const CString& strText, int nActivity);
@@ -32,10 +32,10 @@ private:
     CEdit m_editLog;
 
     /// What waits to be drawn; empty texts when nothing does.
-    CString m_strFile;
-    int m_nActivity = 0;
-    CString m_strTotal;
-    CString m_strLines;
-    ULONGLONG m_nLastDrawn = 0; // ms
-    bool m_bPaced = false;
+    CString m_file;
+    int m_activity = 0;
+    CString m_total;
+    CString m_lines;
+    ULONGLONG m_lastDrawn = 0; // ms
+    bool m_paced = false;
 };

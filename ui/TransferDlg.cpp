@@ -3,8 +3,8 @@
 
 #include "module/Guarded.h"
 #include "module/InfoMessage.h"
-#include "module/Owned.h"
-#include "ui/ResourceText.h"
+#include "base/Owned.h"
+#include "module/ResourceText.h"
 
 using namespace varnoke;
 
@@ -25,14 +25,14 @@ BEGIN_MESSAGE_MAP(CTransferDlg, CDialog)
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
-CTransferDlg::CTransferDlg(const STransferVariant& variant, CWnd* pParent)
-    : CDialog(variant.m_nTemplate, pParent), m_variant(variant), m_worker(variant) {}
+CTransferDlg::CTransferDlg(const TransferVariant& variant, CWnd* pParent)
+    : CDialog(variant.dialogId, pParent), m_variant(variant), m_worker(variant) {}
 
 CTransferDlg::~CTransferDlg() = default;
 
 int CTransferDlg::SetFileList(SSignFileDUL* pFileList) {
-    if (pFileList == nullptr) return 0;
-    m_pFileList = pFileList;
+    if (!pFileList) return 0;
+    m_fileList = pFileList;
     return 1;
 }
 
@@ -44,8 +44,8 @@ INT_PTR CTransferDlg::DoModal() {
 }
 
 int CTransferDlg::GetResultCode(int* pResultCode) const {
-    if (pResultCode == nullptr) return 0;
-    *pResultCode = m_nResultCode;
+    if (!pResultCode) return 0;
+    *pResultCode = m_resultCode;
     return 1;
 }
 
@@ -62,9 +62,9 @@ BOOL CTransferDlg::OnInitDialog() {
 }
 
 void CTransferDlg::InitControls() {
-    m_nCount = m_pFileList != nullptr ? static_cast<int>(m_pFileList->m_lstItem.GetCount()) : 0;
-    if (m_nCount < 1) return;
-    m_display.Start(ResourceText(m_variant.m_nTextCurrent), ResourceText(m_variant.m_nTextCount), m_nCount);
+    m_count = m_fileList ? static_cast<int>(m_fileList->m_lstItem.GetCount()) : 0;
+    if (m_count < 1) return;
+    m_display.Start(ResourceText(m_variant.textCurrent), ResourceText(m_variant.textCount), m_count);
 }
 
 // There is no button to confirm: a stray Enter must not end the run.
@@ -93,15 +93,15 @@ void CTransferDlg::OnStartTimer() {
 
 void CTransferDlg::CloseLater() {
     // A message box may have outlived the window.
-    if (GetSafeHwnd() != nullptr) SetTimer(kCloseTimer, kCloseDelay, nullptr);
+    if (GetSafeHwnd()) SetTimer(kCloseTimer, kCloseDelay, nullptr);
 }
 
 bool CTransferDlg::StartRun() {
-    if (m_nCount < 1) {
-        ShowInfo(ResourceText(m_variant.m_nTextNothing), this);
+    if (m_count < 1) {
+        ShowInfo(ResourceText(m_variant.textNothing), this);
         return false;
     }
-    if (GetSafeHwnd() == nullptr || !m_worker.Start(m_pFileList, m_hWnd)) return false;
+    if (!GetSafeHwnd() || !m_worker.Start(m_fileList, m_hWnd)) return false;
     ::Sleep(kStartPause);
     return true;
 }
@@ -109,7 +109,7 @@ bool CTransferDlg::StartRun() {
 // While a run is still counting nothing else is undone here, the base handling included.
 void CTransferDlg::OnDestroy() {
     m_worker.Close();
-    if (m_nCount >= 1 && m_nDone < m_nCount) return;
+    if (m_count >= 1 && m_done < m_count) return;
     KillTimer(kStartTimer);
     KillTimer(kActivityTimer);
     CDialog::OnDestroy();
@@ -117,13 +117,13 @@ void CTransferDlg::OnDestroy() {
 
 // The private messages lie in a row, in the order of the steps, from another number for each variant.
 LRESULT CTransferDlg::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    const UINT step = message - m_variant.m_nFirstMessage;
+    const UINT step = message - m_variant.firstMessage;
     if (step < kTransferStepCount)
-        return OnStep(static_cast<ETransferStep>(step), reinterpret_cast<BSTR>(wParam));
+        return OnStep(static_cast<TransferStep>(step), reinterpret_cast<BSTR>(wParam));
     return CDialog::WindowProc(message, wParam, lParam);
 }
 
-LRESULT CTransferDlg::OnStep(ETransferStep step, BSTR text) {
+LRESULT CTransferDlg::OnStep(TransferStep step, BSTR text) {
     m_worker.ReportTaken();
     const OwnedBstr owned(text);
     return Guarded<LRESULT>(0, [&]() -> LRESULT {
@@ -133,16 +133,16 @@ LRESULT CTransferDlg::OnStep(ETransferStep step, BSTR text) {
     });
 }
 
-void CTransferDlg::HandleStep(ETransferStep step, const CString& strPath) {
+void CTransferDlg::HandleStep(TransferStep step, const CString& strPath) {
     switch (step) {
     case kRunStarted:
-        m_display.Log(ResourceText(m_variant.m_nTextStarted));
+        m_display.Log(ResourceText(m_variant.textStarted));
         return;
     case kRunEnded:
-        OnRunOver(m_variant.m_nTextEnded, step);
+        OnRunOver(m_variant.textEnded, step);
         return;
     case kRunInterrupted:
-        OnRunOver(m_variant.m_nTextInterrupted, step);
+        OnRunOver(m_variant.textInterrupted, step);
         return;
     default:
         break;
@@ -156,10 +156,10 @@ void CTransferDlg::HandleStep(ETransferStep step, const CString& strPath) {
         OnFileDone(strPath);
         break;
     case kFileSkipped:
-        OnFileMissed(m_variant.m_nTextSkipped, strPath, step);
+        OnFileMissed(m_variant.textSkipped, strPath, step);
         break;
     case kFileFailed:
-        OnFileMissed(m_variant.m_nTextFailed, strPath, step);
+        OnFileMissed(m_variant.textFailed, strPath, step);
         break;
     default:
         break;
@@ -167,35 +167,35 @@ void CTransferDlg::HandleStep(ETransferStep step, const CString& strPath) {
 }
 
 void CTransferDlg::OnFileBegins(const CString& strPath) {
-    const CString text = ResourceText(m_variant.m_nTextCurrent) + strPath;
+    const CString text = ResourceText(m_variant.textCurrent) + strPath;
     m_display.ShowFile(text, 0);
     SetTimer(kActivityTimer, kActivityInterval, nullptr);
     m_display.Log(text);
 }
 
 void CTransferDlg::OnFileDone(const CString& strPath) {
-    const CString text = ResourceText(m_variant.m_nTextDone) + strPath;
+    const CString text = ResourceText(m_variant.textDone) + strPath;
     KillTimer(kActivityTimer);
     m_display.ShowFile(text, kActivityEnd);
     m_display.Log(text);
-    if (m_nDone >= m_nCount) m_nDone = 0;
-    ++m_nDone;
-    m_display.ShowTotal(CountText(ResourceText(m_variant.m_nTextCount), m_nDone, m_nCount));
+    if (m_done >= m_count) m_done = 0;
+    ++m_done;
+    m_display.ShowTotal(CountText(ResourceText(m_variant.textCount), m_done, m_count));
 }
 
-void CTransferDlg::OnFileMissed(UINT nComplaint, const CString& strPath, ETransferStep step) {
-    m_nResultCode = ResultAfter(m_nResultCode, step);
-    m_strWarnings += WarningLine(strPath, ResourceText(nComplaint));
+void CTransferDlg::OnFileMissed(UINT nComplaint, const CString& strPath, TransferStep step) {
+    m_resultCode = ResultAfter(m_resultCode, step);
+    m_warnings += WarningLine(strPath, ResourceText(nComplaint));
 }
 
-void CTransferDlg::OnRunOver(UINT nText, ETransferStep step) {
+void CTransferDlg::OnRunOver(UINT nText, TransferStep step) {
     m_display.Log(ResourceText(nText));
     m_display.Draw();
-    if (!m_strWarnings.IsEmpty()) {
-        ShowInfo(m_strWarnings, this);
-        m_strWarnings.Empty();
+    if (!m_warnings.IsEmpty()) {
+        ShowInfo(m_warnings, this);
+        m_warnings.Empty();
     }
-    m_nDone = m_nCount;
-    m_nResultCode = ResultAfter(m_nResultCode, step);
+    m_done = m_count;
+    m_resultCode = ResultAfter(m_resultCode, step);
     CloseLater();
 }

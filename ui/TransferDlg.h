@@ -2,7 +2,7 @@
 #pragma once
 
 #include <afxwin.h>
-#include "module/SignRecords.h"
+#include "varnoke/SignRecords.h"
 #include "ui/TransferDisplay.h"
 #include "ui/TransferRules.h"
 #include "ui/TransferWorker.h"
@@ -21,7 +21,7 @@ public:
     int GetResultCode(int* pResultCode) const;
 
 protected:
-    CTransferDlg(const varnoke::STransferVariant& variant, CWnd* pParent);
+    CTransferDlg(const varnoke::TransferVariant& variant, CWnd* pParent);
 
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
@@ -36,19 +36,19 @@ private:
     void OnStartTimer();
     bool StartRun();
     void CloseLater();
-    LRESULT OnStep(varnoke::ETransferStep step, BSTR text);
-    void HandleStep(varnoke::ETransferStep step, const CString& strPath);
+    LRESULT OnStep(varnoke::TransferStep step, BSTR text);
+    void HandleStep(varnoke::TransferStep step, const CString& strPath);
     void OnFileBegins(const CString& strPath);
     void OnFileDone(const CString& strPath);
-    void OnFileMissed(UINT nComplaint, const CString& strPath, varnoke::ETransferStep step);
-    void OnRunOver(UINT nText, varnoke::ETransferStep step);
+    void OnFileMissed(UINT nComplaint, const CString& strPath, varnoke::TransferStep step);
+    void OnRunOver(UINT nText, varnoke::TransferStep step);
 
-    const varnoke::STransferVariant& m_variant;
+    const varnoke::TransferVariant& m_variant;
     CTransferDisplay m_display;
-    SSignFileDUL* m_pFileList = nullptr; // weak
-    CString m_strWarnings;               // lines to be shown when the run is over
-    int m_nResultCode = varnoke::kTransferNone;
-    int m_nDone = 0;
-    int m_nCount = 0;
+    SSignFileDUL* m_fileList = nullptr; // weak
+    CString m_warnings;                 // lines to be shown when the run is over
+    int m_resultCode = varnoke::kTransferNone;
+    int m_done = 0;
+    int m_count = 0;
     CTransferWorker m_worker;
 };

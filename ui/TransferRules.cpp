@@ -3,7 +3,7 @@
 
 namespace varnoke {
 
-int ResultAfter(int result, ETransferStep step) {
+int ResultAfter(int result, TransferStep step) {
     if (step == kFileFailed) return kTransferFailed;
     if (result != kTransferNone) return result;
     switch (step) {
@@ -20,8 +20,8 @@ int ResultAfter(int result, ETransferStep step) {
 
 CString LogLine(const CString& text, const tm* time) {
     CString line;
-    line.Format(L"%.2d:%.2d:%.2d", time != nullptr ? time->tm_hour : -1, time != nullptr ? time->tm_min : -1,
-                time != nullptr ? time->tm_sec : -1);
+    line.Format(L"%.2d:%.2d:%.2d", time ? time->tm_hour : -1, time ? time->tm_min : -1,
+                time ? time->tm_sec : -1);
     return line + L" -> " + text + L"\r\n";
 }
 

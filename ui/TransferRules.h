@@ -8,7 +8,7 @@
 namespace varnoke {
 
 /// Result of a transfer dialog. A failure always wins; of the others the first one stays.
-enum ETransferResult : int {
+enum TransferResult : int {
     kTransferNone = 0,
     kTransferEnded = 1,
     kTransferInterrupted = 2,
@@ -17,7 +17,7 @@ enum ETransferResult : int {
 };
 
 /// The result after a step, given the result before it.
-int ResultAfter(int result, ETransferStep step);
+int ResultAfter(int result, TransferStep step);
 
 /// The line that is logged for a text at a local time, with its line end. Without a time each part is -1.
 CString LogLine(const CString& text, const tm* time);

@@ -6,7 +6,7 @@
 namespace varnoke {
 
 /// What the worker reports to the dialog, in the order of the private messages.
-enum ETransferStep : UINT {
+enum TransferStep : UINT {
     kRunStarted,
     kFileBegins, ///< with the file's local path, as are all steps of a file
     kFileDone,
@@ -17,32 +17,32 @@ enum ETransferStep : UINT {
     kTransferStepCount
 };
 
-struct STransferVariant {
-    UINT m_nTemplate;
-    UINT m_nFirstMessage; ///< message of kRunStarted; the others follow it
+struct TransferVariant {
+    UINT dialogId;
+    UINT firstMessage; ///< message of kRunStarted; the others follow it
     // Controls
-    int m_nFileLabel;
-    int m_nFileBar;
-    int m_nTotalLabel;
-    int m_nTotalBar;
-    int m_nLog;
+    int fileLabel;
+    int fileBar;
+    int totalLabel;
+    int totalBar;
+    int log;
     // Texts
-    UINT m_nTextCurrent;
-    UINT m_nTextDone;
-    UINT m_nTextCount;
-    UINT m_nTextNothing;
-    UINT m_nTextStarted;
-    UINT m_nTextEnded;
-    UINT m_nTextInterrupted;
-    UINT m_nTextSkipped; ///< what follows the path in a warning
-    UINT m_nTextFailed;
+    UINT textCurrent;
+    UINT textDone;
+    UINT textCount;
+    UINT textNothing;
+    UINT textStarted;
+    UINT textEnded;
+    UINT textInterrupted;
+    UINT textSkipped; ///< what follows the path in a warning
+    UINT textFailed;
     /// Whether a document without a local file is skipped.
-    bool m_bNeedsLocalFile;
+    bool needsLocalFile;
     /// Transfers one file (local path, remote name, 0, 0); 0 is success.
-    int (*m_pfnTransfer)(const wchar_t*, const wchar_t*, int, int);
+    int (*m_transfer)(const wchar_t*, const wchar_t*, int, int);
 };
 
-extern const STransferVariant kDownload;
-extern const STransferVariant kUpload;
+extern const TransferVariant kDownload;
+extern const TransferVariant kUpload;
 
 } // namespace varnoke

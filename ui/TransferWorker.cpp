@@ -13,12 +13,12 @@ const UINT kMessageTextRoom = 1024;
 const LONG kMostPosted = 128; // messages in the window's queue
 const DWORD kNoRoomWait = 2;  // ms
 
-class CExclusiveLock {
+class ExclusiveLock {
 public:
-    explicit CExclusiveLock(SRWLOCK& lock) : m_lock(lock) { ::AcquireSRWLockExclusive(&m_lock); }
-    ~CExclusiveLock() { ::ReleaseSRWLockExclusive(&m_lock); }
-    CExclusiveLock(const CExclusiveLock&) = delete;
-    CExclusiveLock& operator=(const CExclusiveLock&) = delete;
+    explicit ExclusiveLock(SRWLOCK& lock) : m_lock(lock) { ::AcquireSRWLockExclusive(&m_lock); }
+    ~ExclusiveLock() { ::ReleaseSRWLockExclusive(&m_lock); }
+    ExclusiveLock(const ExclusiveLock&) = delete;
+    ExclusiveLock& operator=(const ExclusiveLock&) = delete;
 
 private:
     SRWLOCK& m_lock;
@@ -29,7 +29,7 @@ OwnedBstr MessageText(const CString& strPath) {
     const UINT length = static_cast<UINT>(strPath.GetLength());
     const UINT room = length < kMessageTextRoom ? kMessageTextRoom : length;
     OwnedBstr text(::SysAllocStringLen(nullptr, room));
-    if (text == nullptr) return text;
+    if (!text) return text;
     memset(text.get(), 0, room * sizeof(wchar_t));
     memcpy(text.get(), strPath.GetString(), length * sizeof(wchar_t));
     return text;
@@ -37,7 +37,7 @@ OwnedBstr MessageText(const CString& strPath) {
 
 } // namespace
 
-CTransferWorker::CTransferWorker(const STransferVariant& variant) : m_variant(variant) {}
+CTransferWorker::CTransferWorker(const TransferVariant& variant) : m_variant(variant) {}
 
 CTransferWorker::~CTransferWorker() {
     Close();
@@ -45,31 +45,31 @@ CTransferWorker::~CTransferWorker() {
 }
 
 bool CTransferWorker::Start(SSignFileDUL* pList, HWND hWnd) {
-    m_pList = pList;
+    m_list = pList;
     m_hWnd = hWnd;
-    m_hClosedEvent.reset(::CreateEventW(nullptr, TRUE, FALSE, nullptr));
-    if (m_hClosedEvent == nullptr) return false;
-    m_hThread.reset(reinterpret_cast<HANDLE>(_beginthreadex(nullptr, 0, &ThreadMain, this, 0, &m_nThreadId)));
-    return m_hThread != nullptr;
+    m_closedEvent.reset(::CreateEventW(nullptr, TRUE, FALSE, nullptr));
+    if (!m_closedEvent) return false;
+    m_thread.reset(reinterpret_cast<HANDLE>(_beginthreadex(nullptr, 0, &ThreadMain, this, 0, &m_threadId)));
+    return m_thread != nullptr;
 }
 
 void CTransferWorker::ReportTaken() {
-    const CExclusiveLock lock(m_lock);
-    --m_nPosted;
+    const ExclusiveLock lock(m_lock);
+    --m_posted;
 }
 
 void CTransferWorker::Close() {
     {
-        const CExclusiveLock lock(m_lock);
-        if (m_bClosed) return;
-        m_bClosed = true;
+        const ExclusiveLock lock(m_lock);
+        if (m_closed) return;
+        m_closed = true;
     }
-    if (m_hClosedEvent != nullptr) ::SetEvent(m_hClosedEvent.get());
-    if (m_hWnd != nullptr) TakeBackMessages();
+    if (m_closedEvent) ::SetEvent(m_closedEvent.get());
+    if (m_hWnd) TakeBackMessages();
 }
 
 void CTransferWorker::TakeBackMessages() {
-    const UINT first = m_variant.m_nFirstMessage;
+    const UINT first = m_variant.firstMessage;
     const UINT last = first + kTransferStepCount - 1;
     bool quit = false;
     MSG msg = {};
@@ -88,13 +88,13 @@ void CTransferWorker::TakeBackMessages() {
 }
 
 void CTransferWorker::Wait() {
-    const HANDLE thread = m_hThread.get();
-    while (thread != nullptr &&
+    const HANDLE thread = m_thread.get();
+    while (thread &&
            ::MsgWaitForMultipleObjects(1, &thread, FALSE, INFINITE, QS_SENDMESSAGE) != WAIT_OBJECT_0) {
         MSG msg = {};
         ::PeekMessageW(&msg, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
     }
-    m_hThread.reset();
+    m_thread.reset();
 }
 
 unsigned __stdcall CTransferWorker::ThreadMain(void* pWorker) {
@@ -105,7 +105,7 @@ unsigned __stdcall CTransferWorker::ThreadMain(void* pWorker) {
 }
 
 unsigned CTransferWorker::Run() {
-    if (m_hWnd == nullptr || m_pList == nullptr || m_pList->m_lstItem.GetCount() < 1) return 0;
+    if (!m_hWnd || !m_list || m_list->m_lstItem.GetCount() < 1) return 0;
     try {
         TransferList();
         Post(kRunEnded, nullptr);
@@ -119,56 +119,56 @@ unsigned CTransferWorker::Run() {
 }
 
 void CTransferWorker::TransferList() {
-    CString folder = m_pList->m_strFolder;
+    CString folder = m_list->m_strFolder;
     if (!folder.IsEmpty() && folder.Right(1) != L"\\") folder += L"\\";
     Post(kRunStarted, nullptr);
-    for (POSITION pos = m_pList->m_lstItem.GetHeadPosition(); pos != nullptr && !IsClosed();) {
-        SSignFileDULItem* item = m_pList->m_lstItem.GetNext(pos);
-        if (item == nullptr || item->m_strRemoteName.IsEmpty() || item->m_strLocalName.IsEmpty()) continue;
+    for (POSITION pos = m_list->m_lstItem.GetHeadPosition(); pos && !IsClosed();) {
+        SSignFileDULItem* item = m_list->m_lstItem.GetNext(pos);
+        if (!item || item->m_strRemoteName.IsEmpty() || item->m_strLocalName.IsEmpty()) continue;
         if (!TransferItem(*item, folder + item->m_strLocalName)) break;
     }
 }
 
 // Returns false when the run cannot go on.
 bool CTransferWorker::TransferItem(SSignFileDULItem& item, const CString& strPath) {
-    if (m_variant.m_bNeedsLocalFile && !FileExists(strPath)) return PostFile(kFileSkipped, strPath);
+    if (m_variant.needsLocalFile && !FileExists(strPath)) return PostFile(kFileSkipped, strPath);
     if (!PostFile(kFileBegins, strPath)) return false;
-    const bool done = m_variant.m_pfnTransfer(strPath, item.m_strRemoteName, 0, 0) == 0;
+    const bool done = m_variant.m_transfer(strPath, item.m_strRemoteName, 0, 0) == 0;
     item.m_nState = done ? 1 : 2;
     return PostFile(done ? kFileDone : kFileFailed, strPath);
 }
 
 // Returns false when there is no memory for the text or nobody to receive it.
-bool CTransferWorker::PostFile(ETransferStep step, const CString& strPath) {
+bool CTransferWorker::PostFile(TransferStep step, const CString& strPath) {
     OwnedBstr text = MessageText(strPath);
-    if (text == nullptr || !Post(step, text.get())) return false;
+    if (!text || !Post(step, text.get())) return false;
     text.release(); // the dialog's now
     return true;
 }
 
 // Waits for a window that lags behind, and while its message queue is full: a slow dialog loses no report.
-bool CTransferWorker::Post(ETransferStep step, BSTR text) {
+bool CTransferWorker::Post(TransferStep step, BSTR text) {
     EPostResult result = TryPost(step, text);
     while (result == kNoRoom) {
-        ::WaitForSingleObject(m_hClosedEvent.get(), kNoRoomWait);
+        ::WaitForSingleObject(m_closedEvent.get(), kNoRoomWait);
         result = TryPost(step, text);
     }
     return result == kPosted;
 }
 
-CTransferWorker::EPostResult CTransferWorker::TryPost(ETransferStep step, BSTR text) {
-    const CExclusiveLock lock(m_lock);
-    if (m_bClosed) return kNobodyThere;
-    if (m_nPosted >= kMostPosted) return kNoRoom;
-    const UINT message = m_variant.m_nFirstMessage + step;
+CTransferWorker::EPostResult CTransferWorker::TryPost(TransferStep step, BSTR text) {
+    const ExclusiveLock lock(m_lock);
+    if (m_closed) return kNobodyThere;
+    if (m_posted >= kMostPosted) return kNoRoom;
+    const UINT message = m_variant.firstMessage + step;
     if (::PostMessageW(m_hWnd, message, reinterpret_cast<WPARAM>(text), 0)) {
-        ++m_nPosted;
+        ++m_posted;
         return kPosted;
     }
     return ::IsWindow(m_hWnd) ? kNoRoom : kNobodyThere;
 }
 
 bool CTransferWorker::IsClosed() {
-    const CExclusiveLock lock(m_lock);
-    return m_bClosed;
+    const ExclusiveLock lock(m_lock);
+    return m_closed;
 }

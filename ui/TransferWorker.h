@@ -2,8 +2,8 @@
 #pragma once
 
 #include <afxwin.h>
-#include "module/Owned.h"
-#include "module/SignRecords.h"
+#include "base/Owned.h"
+#include "varnoke/SignRecords.h"
 #include "ui/TransferVariant.h"
 
 /// Reports to its window by posted messages only. A message about a file carries its local path in wParam,
@@ -12,7 +12,7 @@
 /// still there, and nobody may free the list before Wait has returned.
 class CTransferWorker {
 public:
-    explicit CTransferWorker(const varnoke::STransferVariant& variant);
+    explicit CTransferWorker(const varnoke::TransferVariant& variant);
     ~CTransferWorker(); // closes and waits
     CTransferWorker(const CTransferWorker&) = delete;
     CTransferWorker& operator=(const CTransferWorker&) = delete;
@@ -33,20 +33,20 @@ private:
     unsigned Run();
     void TransferList();
     bool TransferItem(SSignFileDULItem& item, const CString& strPath);
-    bool PostFile(varnoke::ETransferStep step, const CString& strPath);
+    bool PostFile(varnoke::TransferStep step, const CString& strPath);
     enum EPostResult { kPosted, kNoRoom, kNobodyThere };
-    bool Post(varnoke::ETransferStep step, BSTR text);
-    EPostResult TryPost(varnoke::ETransferStep step, BSTR text);
+    bool Post(varnoke::TransferStep step, BSTR text);
+    EPostResult TryPost(varnoke::TransferStep step, BSTR text);
     bool IsClosed();
     void TakeBackMessages();
 
-    const varnoke::STransferVariant& m_variant;
-    SSignFileDUL* m_pList = nullptr; // weak
-    HWND m_hWnd = nullptr;           // weak; not touched once closed
-    varnoke::KernelHandle m_hThread;
-    unsigned m_nThreadId = 0;
-    SRWLOCK m_lock = SRWLOCK_INIT;        // a post and closing exclude each other
-    bool m_bClosed = false;               // under m_lock
-    LONG m_nPosted = 0;                   // under m_lock; messages not yet handled
-    varnoke::KernelHandle m_hClosedEvent; // ends a wait for the window
+    const varnoke::TransferVariant& m_variant;
+    SSignFileDUL* m_list = nullptr; // weak
+    HWND m_hWnd = nullptr;          // weak; not touched once closed
+    varnoke::KernelHandle m_thread;
+    unsigned m_threadId = 0;
+    SRWLOCK m_lock = SRWLOCK_INIT;       // a post and closing exclude each other
+    bool m_closed = false;               // under m_lock
+    LONG m_posted = 0;                   // under m_lock; messages not yet handled
+    varnoke::KernelHandle m_closedEvent; // ends a wait for the window
 };

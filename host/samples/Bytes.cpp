@@ -2,7 +2,7 @@
 #include <afxwin.h>
 
 #include "host/samples/Bytes.h"
-#include "module/Owned.h"
+#include "base/Owned.h"
 
 namespace samples {
 

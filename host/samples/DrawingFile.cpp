@@ -19,11 +19,11 @@ constexpr unsigned char kPreviewStart[16] = {0x1F, 0x25, 0x6D, 0x07, 0xD4, 0x36,
                                              0x9D, 0x57, 0xCA, 0x3F, 0x9D, 0x44, 0x10, 0x2B};
 
 /// What the preview section holds; each image has an entry of nine bytes.
-enum EImageCode : unsigned char { imageHeader = 1, imageBitmap = 2 };
+enum ImageCode : unsigned char { imageHeader = 1, imageBitmap = 2 };
 constexpr size_t kImageEntrySize = 9;
 constexpr unsigned char kImageCount = 2;
 
-void AppendImageEntry(Bytes& bytes, EImageCode code, size_t start, size_t size) {
+void AppendImageEntry(Bytes& bytes, ImageCode code, size_t start, size_t size) {
     bytes.push_back(code);
     AppendLong(bytes, static_cast<unsigned long>(start));
     AppendLong(bytes, static_cast<unsigned long>(size));

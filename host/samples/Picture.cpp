@@ -2,7 +2,7 @@
 #include <afxwin.h>
 
 #include "host/samples/Picture.h"
-#include "module/Owned.h"
+#include "base/Owned.h"
 
 namespace samples {
 
@@ -16,12 +16,12 @@ constexpr COLORREF kAxis = RGB(190, 60, 40);
 constexpr COLORREF kSeal = RGB(200, 20, 30);
 
 /// A memory context with a 24-bit bitmap of the preview's size selected into it.
-class CCanvas {
+class Canvas {
 public:
-    CCanvas();
-    ~CCanvas();
-    CCanvas(const CCanvas&) = delete;
-    CCanvas& operator=(const CCanvas&) = delete;
+    Canvas();
+    ~Canvas();
+    Canvas(const Canvas&) = delete;
+    Canvas& operator=(const Canvas&) = delete;
 
     void Line(int x1, int y1, int x2, int y2, COLORREF color, int width = 1);
     void Frame(int left, int top, int right, int bottom, COLORREF color, int width = 1);
@@ -36,21 +36,21 @@ private:
 
     HDC m_hDC;
     BITMAPINFOHEADER m_header = {};
-    varnoke::GdiObject<HBITMAP> m_pBitmap;
-    void* m_pPixels = nullptr;
-    HGDIOBJ m_hBefore;
+    varnoke::GdiObject<HBITMAP> m_bitmap;
+    void* m_pixels = nullptr;
+    HGDIOBJ m_before;
 };
 
-CCanvas::CCanvas() : m_hDC(::CreateCompatibleDC(nullptr)) {
+Canvas::Canvas() : m_hDC(::CreateCompatibleDC(nullptr)) {
     m_header.biSize = sizeof m_header;
     m_header.biWidth = kWidth;
     m_header.biHeight = kHeight;
     m_header.biPlanes = 1;
     m_header.biBitCount = 24;
     m_header.biSizeImage = (kWidth * 3 + 3) / 4 * 4 * kHeight;
-    m_pBitmap.reset(::CreateDIBSection(m_hDC, reinterpret_cast<const BITMAPINFO*>(&m_header), DIB_RGB_COLORS,
-                                       &m_pPixels, nullptr, 0));
-    m_hBefore = ::SelectObject(m_hDC, m_pBitmap.get());
+    m_bitmap.reset(::CreateDIBSection(m_hDC, reinterpret_cast<const BITMAPINFO*>(&m_header), DIB_RGB_COLORS,
+                                      &m_pixels, nullptr, 0));
+    m_before = ::SelectObject(m_hDC, m_bitmap.get());
     const varnoke::GdiObject<HBRUSH> paper(::CreateSolidBrush(kPaper));
     const RECT all = {0, 0, kWidth, kHeight};
     ::FillRect(m_hDC, &all, paper.get());
@@ -58,35 +58,35 @@ CCanvas::CCanvas() : m_hDC(::CreateCompatibleDC(nullptr)) {
     ::SetBkMode(m_hDC, TRANSPARENT);
 }
 
-CCanvas::~CCanvas() {
-    ::SelectObject(m_hDC, m_hBefore);
+Canvas::~Canvas() {
+    ::SelectObject(m_hDC, m_before);
     ::DeleteDC(m_hDC);
 }
 
 template <class Draw>
-void CCanvas::WithPen(COLORREF color, int width, Draw draw) {
+void Canvas::WithPen(COLORREF color, int width, Draw draw) {
     const varnoke::GdiObject<HPEN> pen(::CreatePen(PS_SOLID, width, color));
     const HGDIOBJ before = ::SelectObject(m_hDC, pen.get());
     draw();
     ::SelectObject(m_hDC, before);
 }
 
-void CCanvas::Line(int x1, int y1, int x2, int y2, COLORREF color, int width) {
+void Canvas::Line(int x1, int y1, int x2, int y2, COLORREF color, int width) {
     WithPen(color, width, [&] {
         ::MoveToEx(m_hDC, x1, y1, nullptr);
         ::LineTo(m_hDC, x2, y2);
     });
 }
 
-void CCanvas::Frame(int left, int top, int right, int bottom, COLORREF color, int width) {
+void Canvas::Frame(int left, int top, int right, int bottom, COLORREF color, int width) {
     WithPen(color, width, [&] { ::Rectangle(m_hDC, left, top, right, bottom); });
 }
 
-void CCanvas::Circle(int x, int y, int radius, COLORREF color, int width) {
+void Canvas::Circle(int x, int y, int radius, COLORREF color, int width) {
     WithPen(color, width, [&] { ::Ellipse(m_hDC, x - radius, y - radius, x + radius, y + radius); });
 }
 
-void CCanvas::Label(const CString& text, RECT area, int height, COLORREF color, const wchar_t* face) {
+void Canvas::Label(const CString& text, RECT area, int height, COLORREF color, const wchar_t* face) {
     // The character set makes the system choose a font with Chinese characters when the face is missing.
     const varnoke::GdiObject<HFONT> font(
         ::CreateFontW(-height, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, GB2312_CHARSET, OUT_DEFAULT_PRECIS,
@@ -98,15 +98,15 @@ void CCanvas::Label(const CString& text, RECT area, int height, COLORREF color, 
     ::SelectObject(m_hDC, before);
 }
 
-Bytes CCanvas::Dib() const {
+Bytes Canvas::Dib() const {
     ::GdiFlush();
     Bytes dib;
     Append(dib, &m_header, sizeof m_header);
-    if (m_pPixels) Append(dib, m_pPixels, m_header.biSizeImage);
+    if (m_pixels) Append(dib, m_pixels, m_header.biSizeImage);
     return dib;
 }
 
-void DrawTitleBlock(CCanvas& canvas, const CString& name, const CString& number) {
+void DrawTitleBlock(Canvas& canvas, const CString& name, const CString& number) {
     canvas.Frame(4, 4, kWidth - 4, kHeight - 4, kInk);
     canvas.Frame(14, 10, kWidth - 10, kHeight - 10, kInk, 2);
     canvas.Frame(170, 186, kWidth - 10, kHeight - 10, kInk);
@@ -117,7 +117,7 @@ void DrawTitleBlock(CCanvas& canvas, const CString& name, const CString& number)
     canvas.Label(L"1 : 2", {260, 216, kWidth - 12, kHeight - 12}, 12, kInk);
 }
 
-void DrawFlange(CCanvas& canvas) {
+void DrawFlange(Canvas& canvas) {
     canvas.Line(40, 100, 200, 100, kAxis);
     canvas.Line(120, 20, 120, 180, kAxis);
     for (int radius : {70, 52, 24}) {
@@ -131,7 +131,7 @@ void DrawFlange(CCanvas& canvas) {
     canvas.Line(230, 100, 290, 100, kAxis);
 }
 
-void DrawShaft(CCanvas& canvas) {
+void DrawShaft(Canvas& canvas) {
     canvas.Line(24, 100, 336, 100, kAxis);
     int left = 34;
     for (int half : {20, 32, 46, 32, 18}) {
@@ -140,7 +140,7 @@ void DrawShaft(CCanvas& canvas) {
     }
 }
 
-void DrawHousing(CCanvas& canvas) {
+void DrawHousing(Canvas& canvas) {
     canvas.Frame(40, 40, 200, 160, kInk, 2);
     canvas.Frame(28, 160, 212, 172, kInk, 2);
     canvas.Circle(90, 100, 32, kInk, 2);
@@ -153,15 +153,15 @@ void DrawHousing(CCanvas& canvas) {
 } // namespace
 
 Bytes DrawSheet(const CString& name, const CString& number, int variant) {
-    static constexpr void (*kParts[])(CCanvas&) = {DrawFlange, DrawShaft, DrawHousing};
-    CCanvas canvas;
+    static constexpr void (*kParts[])(Canvas&) = {DrawFlange, DrawShaft, DrawHousing};
+    Canvas canvas;
     DrawTitleBlock(canvas, name, number);
     kParts[variant % 3](canvas);
     return canvas.Dib();
 }
 
 Bytes DrawSignature(const CString& person) {
-    CCanvas canvas;
+    Canvas canvas;
     canvas.Frame(30, 40, kWidth - 30, kHeight - 40, kSeal, 4);
     canvas.Frame(38, 48, kWidth - 38, kHeight - 48, kSeal, 1);
     canvas.Label(person, {44, 54, kWidth - 44, kHeight - 54}, 84, kSeal, L"KaiTi");

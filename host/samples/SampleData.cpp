@@ -33,33 +33,31 @@ CString Document(const CString& groups) {
     return kDeclaration + (L"<root>\r\n  <objs>\r\n" + groups + L"  </objs>\r\n</root>\r\n");
 }
 
-CString DocumentObject(const SSampleDocument& document, const SSampleUser& signer) {
-    return Object(Property(L"ID", document.m_pszId) + Property(L"FNAME", document.m_pszFileName) +
-                  Property(L"LOCATION", document.m_pszRemoteName) +
-                  Property(L"DOCNAME", document.m_pszTitle) + Property(L"VERSION", document.m_pszVersion) +
-                  Property(L"USERNAME", signer.m_pszPerson) + Property(L"DOC_NAME", document.m_pszTitle) +
-                  Property(L"DOC_VERSION", document.m_pszVersion) +
-                  Property(L"SIGN_USER", signer.m_pszPerson) + Property(L"SIGN_ROLE", document.m_pszRole) +
+CString DocumentObject(const SampleDocument& document, const SampleUser& signer) {
+    return Object(Property(L"ID", document.id) + Property(L"FNAME", document.fileName) +
+                  Property(L"LOCATION", document.remoteName) + Property(L"DOCNAME", document.title) +
+                  Property(L"VERSION", document.version) + Property(L"USERNAME", signer.person) +
+                  Property(L"DOC_NAME", document.title) + Property(L"DOC_VERSION", document.version) +
+                  Property(L"SIGN_USER", signer.person) + Property(L"SIGN_ROLE", document.role) +
                   Property(L"SIGN_DATE", L""));
 }
 
 CString Message(size_t first, size_t count) {
-    const SSampleUser& signer = SampleUsers().front();
+    const SampleUser& signer = SampleUsers().front();
     CString documents;
     for (size_t i = first; i < first + count; ++i) {
         documents += DocumentObject(SampleDocuments()[i], signer);
     }
-    const CString login =
-        Object(Property(L"UserName", signer.m_pszName) + Property(L"Password", L"plm-2015") +
-               Property(L"PLMServer", L"plm.example.cn"));
+    const CString login = Object(Property(L"UserName", signer.name) + Property(L"Password", L"plm-2015") +
+                                 Property(L"PLMServer", L"plm.example.cn"));
     const CString step = Object(Property(L"STEPID", L"S01") + Property(L"STEPNAME", L"设计签署"));
     return Document(Group(L"LoginInfo", login) + Group(L"step", step) + Group(L"DRAWING", documents));
 }
 
 } // namespace
 
-const std::vector<SSampleUser>& SampleUsers() {
-    static const std::vector<SSampleUser> users = {
+const std::vector<SampleUser>& SampleUsers() {
+    static const std::vector<SampleUser> users = {
         {L"wang", L"王建国", L"signatures/wang.dwg", false},
         {L"li", L"李明", L"signatures/li.dwg", false},
         {L"wang", L"王旧", L"signatures/wang-old.dwg", true},
@@ -67,8 +65,8 @@ const std::vector<SSampleUser>& SampleUsers() {
     return users;
 }
 
-const std::vector<SSampleDocument>& SampleDocuments() {
-    static const std::vector<SSampleDocument> documents = {
+const std::vector<SampleDocument>& SampleDocuments() {
+    static const std::vector<SampleDocument> documents = {
         {L"D-1001", L"泵体装配图.dwg", L"泵体装配图.dwg", L"泵体装配图", L"A", L"设计", "AC1015"},
         {L"D-1002", L"PUMP-002 Shaft.dwg", L"PUMP-002 Shaft.dwg", L"Pump shaft", L"B", L"设计", "AC1018"},
         {L"D-1003", L"齿轮箱-总图.dwg", L"projects/gearbox/齿轮箱-总图.dwg", L"齿轮箱总图", L"A.1", L"校对",
@@ -88,16 +86,15 @@ CString FurtherMessage() {
 
 CString UserObjects() {
     CString users;
-    for (const SSampleUser& user : SampleUsers()) {
-        users += Object(Property(L"NAME", user.m_pszName) + Property(L"PERSON", user.m_pszPerson) +
-                        Property(L"DEL", user.m_bDeleted ? L"1" : L"0") +
-                        Property(L"LOCATION", user.m_pszSignature));
+    for (const SampleUser& user : SampleUsers()) {
+        users += Object(Property(L"NAME", user.name) + Property(L"PERSON", user.person) +
+                        Property(L"DEL", user.deleted ? L"1" : L"0") + Property(L"LOCATION", user.signature));
     }
     return Document(Group(L"USER", users));
 }
 
 CString SessionSettings() {
-    return CString(L"[Session]\r\nUserName=") + SampleUsers().front().m_pszName +
+    return CString(L"[Session]\r\nUserName=") + SampleUsers().front().name +
            L"\r\nPassword=plm-2015\r\nServer=plm.example.cn\r\n";
 }
 

@@ -7,28 +7,28 @@
 
 namespace samples {
 
-struct SSampleUser {
-    const wchar_t* m_pszName;
-    const wchar_t* m_pszPerson;
-    const wchar_t* m_pszSignature; ///< server's name of the signature drawing
-    bool m_bDeleted;
+struct SampleUser {
+    const wchar_t* name;
+    const wchar_t* person;
+    const wchar_t* signature; ///< server's name of the signature drawing
+    bool deleted;
 };
 
-struct SSampleDocument {
-    const wchar_t* m_pszId;
-    const wchar_t* m_pszFileName;
-    const wchar_t* m_pszRemoteName;
-    const wchar_t* m_pszTitle;
-    const wchar_t* m_pszVersion;
-    const wchar_t* m_pszRole;
-    const char* m_pszFileVersion; ///< of the .dwg format
+struct SampleDocument {
+    const wchar_t* id;
+    const wchar_t* fileName;
+    const wchar_t* remoteName;
+    const wchar_t* title;
+    const wchar_t* version;
+    const wchar_t* role;
+    const char* fileVersion; ///< of the .dwg format
 };
 
 /// The first one is the signer of the messages.
-const std::vector<SSampleUser>& SampleUsers();
+const std::vector<SampleUser>& SampleUsers();
 
 /// All documents; the start-sign message has all but the last one, the further message the last two.
-const std::vector<SSampleDocument>& SampleDocuments();
+const std::vector<SampleDocument>& SampleDocuments();
 
 /// The start-sign message and the further one, as XML with an UTF-8 declaration.
 CString StartMessage();

@@ -25,16 +25,15 @@ bool WriteServerFile(const CString& files, CString remoteName, const Bytes& byte
 
 bool WriteDrawings(const CString& files) {
     int variant = 0;
-    for (const SSampleDocument& document : SampleDocuments()) {
-        const Bytes picture = DrawSheet(document.m_pszTitle, document.m_pszId, variant++);
-        if (!WriteServerFile(files, document.m_pszRemoteName,
-                             MakeDrawing(document.m_pszFileVersion, picture))) {
+    for (const SampleDocument& document : SampleDocuments()) {
+        const Bytes picture = DrawSheet(document.title, document.id, variant++);
+        if (!WriteServerFile(files, document.remoteName, MakeDrawing(document.fileVersion, picture))) {
             return false;
         }
     }
-    for (const SSampleUser& user : SampleUsers()) {
-        const Bytes picture = DrawSignature(user.m_pszPerson);
-        if (!WriteServerFile(files, user.m_pszSignature, MakeDrawing("AC1015", picture))) return false;
+    for (const SampleUser& user : SampleUsers()) {
+        const Bytes picture = DrawSignature(user.person);
+        if (!WriteServerFile(files, user.signature, MakeDrawing("AC1015", picture))) return false;
     }
     return true;
 }

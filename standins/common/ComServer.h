@@ -10,7 +10,7 @@ namespace standins {
 
 // OLEMISC flags of a control: shown inside out, activated as soon as it is visible, given its site before its
 // state.
-constexpr DWORD controlMiscStatus =
+constexpr DWORD kControlMiscStatus =
     OLEMISC_RECOMPOSEONRESIZE | OLEMISC_INSIDEOUT | OLEMISC_ACTIVATEWHENVISIBLE | OLEMISC_SETCLIENTSITEFIRST;
 
 // One class of the server and what is registered for it.

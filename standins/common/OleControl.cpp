@@ -109,7 +109,7 @@ STDMETHODIMP OleControl::EnumAdvise(IEnumSTATDATA** connections) {
 
 STDMETHODIMP OleControl::GetMiscStatus(DWORD aspect, DWORD* status) {
     if (!status) return E_POINTER;
-    *status = aspect == DVASPECT_CONTENT ? controlMiscStatus : 0;
+    *status = aspect == DVASPECT_CONTENT ? kControlMiscStatus : 0;
     return S_OK;
 }
 

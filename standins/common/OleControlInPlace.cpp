@@ -4,7 +4,7 @@
 
 namespace standins {
 
-static const wchar_t* const g_windowClass = L"StandInControl";
+constexpr wchar_t kWindowClass[] = L"StandInControl";
 
 STDMETHODIMP OleControl::GetWindow(HWND* window) {
     if (!window) return E_POINTER;
@@ -85,9 +85,9 @@ bool OleControl::MakeWindow(HWND parent, const RECT& position) {
     windowClass.lpfnWndProc = &OleControl::WindowProc;
     windowClass.hInstance = ThisModule();
     windowClass.hCursor = ::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW));
-    windowClass.lpszClassName = g_windowClass;
+    windowClass.lpszClassName = kWindowClass;
     if (!::RegisterClassExW(&windowClass) && ::GetLastError() != ERROR_CLASS_ALREADY_EXISTS) return false;
-    return ::CreateWindowExW(WS_EX_CONTROLPARENT, g_windowClass, nullptr,
+    return ::CreateWindowExW(WS_EX_CONTROLPARENT, kWindowClass, nullptr,
                              WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS | WS_TABSTOP, position.left,
                              position.top, position.right - position.left, position.bottom - position.top,
                              parent, nullptr, ThisModule(), this) != nullptr;
@@ -101,7 +101,7 @@ void OleControl::DropWindow() {
         m_window = nullptr;
     }
     // Fails, as it should, while another control of this DLL has a window.
-    ::UnregisterClassW(g_windowClass, ThisModule());
+    ::UnregisterClassW(kWindowClass, ThisModule());
 }
 
 LRESULT CALLBACK OleControl::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

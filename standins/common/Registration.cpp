@@ -27,7 +27,7 @@ static bool WriteValue(const std::wstring& key, const wchar_t* name, const std::
 
 static bool WriteControlKeys(const std::wstring& key) {
     return WriteValue(key + L"\\Control", nullptr, L"") && WriteValue(key + L"\\MiscStatus", nullptr, L"0") &&
-           WriteValue(key + L"\\MiscStatus\\1", nullptr, std::to_wstring(controlMiscStatus));
+           WriteValue(key + L"\\MiscStatus\\1", nullptr, std::to_wstring(kControlMiscStatus));
 }
 
 bool RegisterServedClass(const ServedClass& served) {

@@ -9,9 +9,9 @@
 namespace standins {
 
 // The headers of some compilers do not say which identifier belongs to which of these interfaces.
-inline constexpr IID xmlDocumentId = {
+inline constexpr IID kXmlDocumentId = {
     0x2933bf95, 0x7b36, 0x11d2, {0xb2, 0x0e, 0x00, 0xc0, 0x4f, 0x98, 0x3e, 0x60}};
-using XmlDocumentPtr = _com_ptr_t<_com_IIID<IXMLDOMDocument2, &xmlDocumentId>>;
+using XmlDocumentPtr = _com_ptr_t<_com_IIID<IXMLDOMDocument2, &kXmlDocumentId>>;
 using XmlElementPtr = _com_ptr_t<_com_IIID<IXMLDOMElement, &IID_IXMLDOMElement>>;
 using XmlNodePtr = _com_ptr_t<_com_IIID<IXMLDOMNode, &IID_IXMLDOMNode>>;
 

@@ -1,6 +1,6 @@
 // The exported functions: each checks its arguments, asks the fault plan, does its work and journals the
 // call.
-#include "plm/durvell.h"
+#include "neighbours/durvell.h"
 
 #include <string>
 #include <vector>

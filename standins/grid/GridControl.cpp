@@ -3,7 +3,7 @@
 
 #include "standins/common/ClassFactory.h"
 #include "standins/common/ComServer.h"
-#include "ui/QORGridIds.h"
+#include "neighbours/QORGridIds.h"
 
 namespace grid {
 

@@ -1,15 +1,15 @@
 // The grid control's automation members.
 #include "standins/common/Text.h"
 #include "standins/grid/GridControl.h"
-#include "ui/QORGridIds.h"
+#include "neighbours/QORGridIds.h"
 
 using namespace standins;
 
 namespace grid {
 
 // More rows or columns than this are a caller's mistake.
-constexpr long mostRows = 1000000;
-constexpr long mostColumns = 1000;
+constexpr long kMostRows = 1000000;
+constexpr long kMostColumns = 1000;
 
 template <HRESULT (GridControl::*Method)(Arguments&, VARIANT&)>
 constexpr auto call = &Forward<GridControl, Method>;
@@ -48,7 +48,7 @@ HRESULT GridControl::GetRowCount(Arguments&, VARIANT& result) {
 }
 
 HRESULT GridControl::ResizeRows(long count) {
-    if (count < 0 || count > mostRows) return E_INVALIDARG;
+    if (count < 0 || count > kMostRows) return E_INVALIDARG;
     m_model.SetRowCount(count);
     m_view.ShowRows();
     return S_OK;
@@ -68,7 +68,7 @@ HRESULT GridControl::GetColumnCount(Arguments&, VARIANT& result) {
 
 HRESULT GridControl::PutColumnCount(Arguments& arguments, VARIANT&) {
     const long count = arguments[0].lVal;
-    if (count < 0 || count > mostColumns) return E_INVALIDARG;
+    if (count < 0 || count > kMostColumns) return E_INVALIDARG;
     m_model.SetColumnCount(count);
     m_view.ShowColumns();
     return S_OK;

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "config/qormodel.h"
+#include "neighbours/qormodel.h"
 #include "standins/qorparser/XmlTree.h"
 
 namespace qorparser {

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "config/qormodel.h"
+#include "neighbours/qormodel.h"
 #include "standins/qorparser/XmlTree.h"
 
 namespace qorparser {

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "config/qormodel.h"
+#include "neighbours/qormodel.h"
 #include "standins/qorparser/ModelCall.h"
 #include "standins/qorparser/XmlTree.h"
 

@@ -1,5 +1,5 @@
 // The exported parser classes.
-#include "config/qorparser.h"
+#include "neighbours/qorparser.h"
 
 #include "standins/qorparser/ConfigModel.h"
 #include "standins/qorparser/DataFile.h"
@@ -29,7 +29,7 @@ int CQORXmlConfigParser::parseDataFile(const wchar_t* pszFile, QORMODEL::IQORCon
     spModel = nullptr;
     return ParserResult([&] {
         if (pszFile) spModel = MakeConfigModel(LoadXmlFile(pszFile));
-        return spModel != nullptr;
+        return spModel;
     });
 }
 

@@ -1,5 +1,5 @@
 // The COM class of the library, and the functions with which tests look into it.
-#include "config/qormodel.h"
+#include "neighbours/qormodel.h"
 #include "standins/common/ClassFactory.h"
 #include "standins/common/ComServer.h"
 #include "standins/qorparser/DataModel.h"

@@ -34,16 +34,16 @@ private:
 };
 
 // Places of the fields, in bytes.
-constexpr DWORD seekerOffset = 0x0D;
-constexpr DWORD sentinelSize = 16;
-constexpr DWORD sectionHeadSize = sentinelSize + 4 + 1;
-constexpr DWORD entrySize = 1 + 4 + 4;
+constexpr DWORD kSeekerOffset = 0x0D;
+constexpr DWORD kSentinelSize = 16;
+constexpr DWORD kSectionHeadSize = kSentinelSize + 4 + 1;
+constexpr DWORD kEntrySize = 1 + 4 + 4;
 
-constexpr BYTE sentinel[sentinelSize] = {0x1F, 0x25, 0x6D, 0x07, 0xD4, 0x36, 0x28, 0x28,
-                                         0x9D, 0x57, 0xCA, 0x3F, 0x9D, 0x44, 0x10, 0x2B};
+constexpr BYTE sentinel[kSentinelSize] = {0x1F, 0x25, 0x6D, 0x07, 0xD4, 0x36, 0x28, 0x28,
+                                          0x9D, 0x57, 0xCA, 0x3F, 0x9D, 0x44, 0x10, 0x2B};
 
 // Larger images are taken for damaged entries.
-constexpr DWORD largestImage = 64 * 1024 * 1024;
+constexpr DWORD kLargestImage = 64 * 1024 * 1024;
 
 // The file's byte order is that of the machine.
 static DWORD NumberAt(const BYTE* bytes) {
@@ -59,16 +59,16 @@ static bool HasDrawingVersion(const FileReader& file) {
 }
 
 static std::vector<BYTE> ReadEntries(const FileReader& file) {
-    BYTE seeker[4] = {}, head[sectionHeadSize] = {};
-    if (!HasDrawingVersion(file) || !file.Read(seekerOffset, seeker, sizeof(seeker))) return {};
+    BYTE seeker[4] = {}, head[kSectionHeadSize] = {};
+    if (!HasDrawingVersion(file) || !file.Read(kSeekerOffset, seeker, sizeof(seeker))) return {};
     const DWORD section = NumberAt(seeker);
-    if (!file.Read(section, head, sizeof(head)) || std::memcmp(head, sentinel, sentinelSize) != 0) return {};
-    const DWORD length = NumberAt(head + sentinelSize);
-    const DWORD entriesSize = head[sectionHeadSize - 1] * entrySize;
+    if (!file.Read(section, head, sizeof(head)) || std::memcmp(head, sentinel, kSentinelSize) != 0) return {};
+    const DWORD length = NumberAt(head + kSentinelSize);
+    const DWORD entriesSize = head[kSectionHeadSize - 1] * kEntrySize;
     // Writers differ in whether the length counts the head, so only what holds for all of them is asked.
     if (length < 1 + entriesSize || !file.Holds(section, length)) return {};
     std::vector<BYTE> entries(entriesSize);
-    if (!file.Read(section + sectionHeadSize, entries.data(), entriesSize)) return {};
+    if (!file.Read(section + kSectionHeadSize, entries.data(), entriesSize)) return {};
     return entries;
 }
 
@@ -80,7 +80,7 @@ Preview ReadPreview(const std::wstring& path) {
     const FileReader file(path);
     const std::vector<BYTE> entries = ReadEntries(file);
     Preview preview;
-    for (size_t i = 0; i < entries.size(); i += entrySize) {
+    for (size_t i = 0; i < entries.size(); i += kEntrySize) {
         const PreviewKind kind = KindOf(entries[i]);
         const DWORD start = NumberAt(&entries[i + 1]);
         const DWORD size = NumberAt(&entries[i + 5]);
@@ -88,7 +88,7 @@ Preview ReadPreview(const std::wstring& path) {
         const bool wanted = kind == PreviewKind::Png
                                 ? preview.kind != PreviewKind::Png
                                 : kind != PreviewKind::None && preview.kind == PreviewKind::None;
-        if (!wanted || size == 0 || size > largestImage || !file.Holds(start, size)) continue;
+        if (!wanted || size == 0 || size > kLargestImage || !file.Holds(start, size)) continue;
         std::vector<BYTE> data(size);
         if (!file.Read(start, data.data(), size)) continue;
         preview.kind = kind;

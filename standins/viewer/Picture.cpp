@@ -17,7 +17,7 @@ using FramePtr = Pointer<IWICBitmapFrameDecode, &IID_IWICBitmapFrameDecode>;
 using ConverterPtr = Pointer<IWICFormatConverter, &IID_IWICFormatConverter>;
 
 // Larger previews are taken for damaged ones.
-constexpr UINT longestSide = 8192;
+constexpr UINT kLongestSide = 8192;
 
 // The DIB as the contents of a bitmap file; empty when its head is damaged.
 static std::vector<BYTE> BitmapFile(const std::vector<BYTE>& dib) {
@@ -77,7 +77,7 @@ bool Picture::Load(const Preview& preview) {
     const ConverterPtr source = Decode(file);
     UINT width = 0, height = 0;
     if (!source || FAILED(source->GetSize(&width, &height))) return false;
-    if (width == 0 || height == 0 || width > longestSide || height > longestSide) return false;
+    if (width == 0 || height == 0 || width > kLongestSide || height > kLongestSide) return false;
 
     BITMAPINFO info = {};
     info.bmiHeader.biSize = sizeof(info.bmiHeader);

@@ -3,7 +3,7 @@
 
 #include "standins/common/ClassFactory.h"
 #include "standins/common/ComServer.h"
-#include "ui/DwgViewerIds.h"
+#include "neighbours/DwgViewerIds.h"
 
 namespace viewer {
 

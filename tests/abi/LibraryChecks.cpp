@@ -2,8 +2,8 @@
 // the library; CString by value; exceptions that must not come out.
 #include <afxwin.h>
 #include <malloc.h>
-#include "plm/PLMInteract.h"
-#include "sign/SignOpt.h"
+#include "varnoke/PLMInteract.h"
+#include "varnoke/SignOpt.h"
 #include "tests/abi/Checks.h"
 #include "tests/support/Message.h"
 
@@ -99,7 +99,7 @@ struct Throwing {
     static HRESULT STDMETHODCALLTYPE ThrowFrameworkException() { AfxThrowMemoryException(); }
 
     explicit Throwing(HRESULT(STDMETHODCALLTYPE* function)()) {
-        for (auto& entry : m_functions)
+        for (auto& entry : functions)
             entry = function;
     }
     template <typename Interface>
@@ -107,8 +107,8 @@ struct Throwing {
         return reinterpret_cast<Interface*>(this);
     }
 
-    HRESULT(STDMETHODCALLTYPE** m_table)() = m_functions;
-    HRESULT(STDMETHODCALLTYPE* m_functions[128])();
+    HRESULT(STDMETHODCALLTYPE** m_table)() = functions;
+    HRESULT(STDMETHODCALLTYPE* functions[128])();
 };
 
 void ExceptionsStayInside(CPLMInteract& plm) {

@@ -16,7 +16,7 @@ Function* Find(HMODULE module, const char* name) {
 
 void ProbeRound() {
     HMODULE probe = LoadLibraryW(L"abi-probe.dll");
-    CHECK(probe != nullptr);
+    CHECK(probe);
     if (probe == nullptr) return;
     g_destroyed = 0;
     CHECK(Find<int(void (*)(int))>(probe, "ProbeOrder")(NoteDestruction) == 123);

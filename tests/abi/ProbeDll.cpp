@@ -8,11 +8,11 @@ void (*g_onDestruction)(int) = nullptr;
 thread_local int t_value = 7;
 
 struct Noted {
-    explicit Noted(int digit) : m_digit(digit) { g_order = g_order * 10 + digit; }
+    explicit Noted(int digit) : digit(digit) { g_order = g_order * 10 + digit; }
     ~Noted() {
-        if (g_onDestruction != nullptr) g_onDestruction(m_digit);
+        if (g_onDestruction) g_onDestruction(digit);
     }
-    int m_digit;
+    int digit;
 };
 Noted g_first(1);
 Noted g_second(2);

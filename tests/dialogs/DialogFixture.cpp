@@ -26,10 +26,10 @@ void DialogFixture::ExpectBoxes(const wchar_t* owner, const std::vector<std::wst
     ASSERT_EQ(m_driver.Boxes().size(), texts.size());
     for (size_t i = 0; i < texts.size(); ++i) {
         const SeenBox& box = m_driver.Boxes()[i];
-        EXPECT_EQ(ToUtf8(box.m_text), ToUtf8(texts[i]));
-        EXPECT_EQ(ToUtf8(box.m_caption), ToUtf8(L"提示"));
-        EXPECT_EQ(ToUtf8(box.m_ownerCaption), ToUtf8(owner)) << ToUtf8(texts[i]);
-        EXPECT_TRUE(box.m_information) << ToUtf8(texts[i]);
+        EXPECT_EQ(ToUtf8(box.text), ToUtf8(texts[i]));
+        EXPECT_EQ(ToUtf8(box.caption), ToUtf8(L"提示"));
+        EXPECT_EQ(ToUtf8(box.ownerCaption), ToUtf8(owner)) << ToUtf8(texts[i]);
+        EXPECT_TRUE(box.information) << ToUtf8(texts[i]);
     }
 }
 

@@ -2,8 +2,8 @@
 #pragma once
 #include <afxwin.h>
 #include <gtest/gtest.h>
-#include "plm/PLMInteract.h"
-#include "sign/SignOpt.h"
+#include "varnoke/PLMInteract.h"
+#include "varnoke/SignOpt.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/HostWindow.h"
 #include "tests/support/ObjectCounts.h"

@@ -4,7 +4,7 @@
 #include "tests/model/ModelFixture.h"
 #include "tests/plm/PlmFixture.h"
 #include "ui/QORGrid.h"
-#include "ui/QORGridIds.h"
+#include "neighbours/QORGridIds.h"
 
 namespace {
 
@@ -21,7 +21,7 @@ const std::wstring kMessage = Message(L"LoginInfo:UserName=wang,Password=p,PLMSe
 class ServerDocuments : public DialogFixture {
 protected:
     void Configure(const wchar_t* model) {
-        WriteBytes(m_services.m_configFile, ToUtf8(model));
+        WriteBytes(m_services.configFile, ToUtf8(model));
         m_plm.Initialize(m_host);
     }
     long StartSign(Results&& results = {}) {

@@ -2,7 +2,7 @@
 #include "tests/dialogs/DialogFixture.h"
 #include <commctrl.h>
 #include "tests/dialogs/BrokenClass.h"
-#include "ui/DwgViewerIds.h"
+#include "neighbours/DwgViewerIds.h"
 
 namespace {
 

@@ -48,8 +48,8 @@ protected:
         const Variant& variant, DialogDriver::Script script = [](HWND) {}) {
         m_driver.Next(std::move(script));
         m_driver.AtEnd([&](HWND dialog) {
-            m_fileLabel = TextOf(dialog, variant.fileLabel);
-            m_totalLabel = TextOf(dialog, variant.totalLabel);
+            fileLabel = TextOf(dialog, variant.fileLabel);
+            totalLabel = TextOf(dialog, variant.totalLabel);
             m_filePosition = SendDlgItemMessageW(dialog, variant.fileBar, PBM_GETPOS, 0, 0);
             m_totalPosition = SendDlgItemMessageW(dialog, variant.totalBar, PBM_GETPOS, 0, 0);
             m_log = TextOf(dialog, variant.log);
@@ -80,7 +80,7 @@ protected:
     std::vector<std::pair<UINT, std::wstring>> Steps(const Variant& variant) const {
         std::vector<std::pair<UINT, std::wstring>> steps;
         for (const SeenMessage& message : m_driver.Messages())
-            steps.emplace_back(message.m_message - variant.firstMessage, message.m_text);
+            steps.emplace_back(message.message - variant.firstMessage, message.text);
         return steps;
     }
     size_t ServerCalls() const {
@@ -89,7 +89,7 @@ protected:
     }
 
     SSignFileDUL m_list;
-    std::wstring m_fileLabel, m_totalLabel, m_log;
+    std::wstring fileLabel, totalLabel, m_log;
     LRESULT m_filePosition = -1, m_totalPosition = -1;
 };
 
@@ -127,8 +127,8 @@ TEST_P(TransferDlg, AFailureInTheMiddle_IsToldAtTheEnd) {
                                          begins + c, done + c, L"文档" + verb + L"结束。"}),
               Log());
     ExpectBoxes(variant.title, {L"文档：" + b + L" " + verb + L"失败。\r\n"});
-    EXPECT_EQ(done + c, m_fileLabel);
-    EXPECT_EQ(verb + L"进度：\t2 / 3", m_totalLabel);
+    EXPECT_EQ(done + c, fileLabel);
+    EXPECT_EQ(verb + L"进度：\t2 / 3", totalLabel);
     EXPECT_EQ(100, m_filePosition);
     EXPECT_EQ(0, m_totalPosition) << "the overall bar stays at its start";
 }
@@ -209,7 +209,7 @@ TEST_P(TransferDlg, LongList_LogsEveryLine) {
         AddFile((std::to_wstring(i) + L" of a list that is long.dwg").c_str());
     EXPECT_EQ(1, Transfer(variant));
     EXPECT_EQ(2u * count + 2, Log().size());
-    EXPECT_EQ(variant.verb + std::wstring(L"进度：\t200 / 200"), m_totalLabel);
+    EXPECT_EQ(variant.verb + std::wstring(L"进度：\t200 / 200"), totalLabel);
 }
 
 INSTANTIATE_TEST_SUITE_P(Both, TransferDlg, testing::Values(&kDownload, &kUpload),
@@ -248,8 +248,8 @@ TEST_F(Upload, Runs_LeaveNothingBehind) {
     for (int round = 1; round < 7; ++round)
         run(round);
     const ObjectCounts after = CountObjects();
-    EXPECT_EQ(before.m_windows, after.m_windows);
-    EXPECT_EQ(before.m_kernel, after.m_kernel) << "threads and events of runs that were closed early";
+    EXPECT_EQ(before.windows, after.windows);
+    EXPECT_EQ(before.kernel, after.kernel) << "threads and events of runs that were closed early";
 }
 
 } // namespace

@@ -110,7 +110,7 @@ TEST(ObjectCounts, SeeWhatIsThere) {
     const tests::ObjectCounts after = tests::CountObjects();
     ::CloseHandle(hEvent);
     ::DeleteObject(hPen);
-    EXPECT_GT(after.m_windows, before.m_windows);
-    EXPECT_GT(after.m_gdi, before.m_gdi);
-    EXPECT_GT(after.m_kernel, before.m_kernel);
+    EXPECT_GT(after.windows, before.windows);
+    EXPECT_GT(after.gdi, before.gdi);
+    EXPECT_GT(after.kernel, before.kernel);
 }

@@ -2,7 +2,7 @@
 #include <afxwin.h>
 #include <memory>
 #include <gtest/gtest.h>
-#include "config/ModelConfig.h"
+#include "varnoke/ModelConfig.h"
 #include "tests/model/ModelFixture.h"
 
 using namespace QORMODEL;
@@ -120,10 +120,10 @@ TEST_F(ModelConfigTest, Load_ReplacesTheModel) {
     EXPECT_EQ(m_config->Uninitialize(), 1);
     EXPECT_EQ(Captions(), kSampleCaptions) << "the model outlives the settings";
 
-    WriteBytes(services.m_configFile, "<modelconfig><objconfig id='SIGN' caption='new'/></modelconfig>");
+    WriteBytes(services.configFile, "<modelconfig><objconfig id='SIGN' caption='new'/></modelconfig>");
     ASSERT_EQ(m_config->Load(), 1);
     EXPECT_EQ(Captions(), L"<null>|new|<null>");
-    std::filesystem::remove(services.m_configFile);
+    std::filesystem::remove(services.configFile);
     EXPECT_EQ(m_config->Load(), 0);
     EXPECT_EQ(Captions(), kNothing);
     EXPECT_EQ(Caption(kept), L"签名到服务器") << "a configuration handed out stays usable";

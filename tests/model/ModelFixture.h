@@ -18,16 +18,16 @@ inline std::filesystem::path Built(const wchar_t* name) {
 // Local services in a folder of their own, loaded into this process, with a ModelConfig.Xml beside them.
 struct LocalServices {
     explicit LocalServices(std::string_view modelConfig = ReadBytes(Built(L"samples\\ModelConfig.Xml"))) {
-        std::filesystem::copy_file(Built(L"QORLocal.dll"), m_folder / L"QORLocal.dll");
-        WriteBytes(m_configFile, modelConfig);
-        m_module = LoadLibraryW((m_folder / L"QORLocal.dll").c_str());
+        std::filesystem::copy_file(Built(L"QORLocal.dll"), folder / L"QORLocal.dll");
+        WriteBytes(configFile, modelConfig);
+        module = LoadLibraryW((folder / L"QORLocal.dll").c_str());
     }
-    ~LocalServices() { FreeLibrary(m_module); }
+    ~LocalServices() { FreeLibrary(module); }
     LocalServices(const LocalServices&) = delete;
 
-    const TempFolder m_folder;
-    const std::filesystem::path m_configFile = m_folder / L"ModelConfig.Xml";
-    HMODULE m_module;
+    const TempFolder folder;
+    const std::filesystem::path configFile = folder / L"ModelConfig.Xml";
+    HMODULE module;
 };
 
 template <class Function>

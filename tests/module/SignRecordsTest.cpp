@@ -1,7 +1,7 @@
 // Tests of the records' release through the library.
 #include <afxwin.h>
 #include <gtest/gtest.h>
-#include "module/SignRecords.h"
+#include "varnoke/SignRecords.h"
 #include "tests/support/MemoryUse.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include <vector>
 #include <gtest/gtest.h>
 #include "module/OwnedRecord.h"
-#include "plm/PLMInteract.h"
+#include "varnoke/PLMInteract.h"
 #include "tests/support/Message.h"
 #include "tests/support/TempFolder.h"
 #include "tests/support/Text.h"

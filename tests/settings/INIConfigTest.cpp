@@ -1,7 +1,7 @@
 // Tests of the settings reader on real files.
 #include <afxwin.h>
 #include <gtest/gtest.h>
-#include "config/INIConfig.h"
+#include "varnoke/INIConfig.h"
 #include "module/ModulePaths.h"
 #include "tests/support/TempFolder.h"
 

@@ -1,6 +1,6 @@
 // Tests of the automation bridge itself, where the signing operations do not reach.
 #include <afxwin.h>
-#include "sign/COMAPInvokeHelper.h"
+#include "varnoke/COMAPInvokeHelper.h"
 #include "tests/sign/FakeServer.h"
 #include "tests/support/TempFolder.h"
 

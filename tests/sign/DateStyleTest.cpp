@@ -1,7 +1,7 @@
 // Tests of the rendering of dates.
 #include <afxwin.h>
 #include <gtest/gtest.h>
-#include "sign/DateStyle.h"
+#include "config/DateStyle.h"
 #include "tests/support/TempFolder.h"
 
 namespace {

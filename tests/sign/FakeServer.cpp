@@ -10,19 +10,19 @@ static std::wstring Written(const VARIANT& argument) {
 }
 
 struct FakeObject final : IDispatch {
-    FakeServer& m_server;
-    ULONG m_references = 1;
+    FakeServer& server;
+    ULONG references = 1;
 
-    explicit FakeObject(FakeServer& server) : m_server(server) { ++m_server.m_objects; }
+    explicit FakeObject(FakeServer& server) : server(server) { ++server.m_objects; }
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
-        const bool known = iid == IID_IUnknown || (iid == IID_IDispatch && m_server.m_automation);
+        const bool known = iid == IID_IUnknown || (iid == IID_IDispatch && server.m_automation);
         *object = known ? this : nullptr;
         return known ? AddRef(), S_OK : E_NOINTERFACE;
     }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
     ULONG STDMETHODCALLTYPE Release() override {
-        if (--m_references > 0) return m_references;
-        --m_server.m_objects;
+        if (--references > 0) return references;
+        --server.m_objects;
         delete this;
         return 0;
     }
@@ -31,9 +31,9 @@ struct FakeObject final : IDispatch {
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID locale,
                                             DISPID* ids) override {
         EXPECT_TRUE(iid == IID_NULL && count == 1 && locale == GetUserDefaultLCID());
-        m_server.m_seen.push_back(std::wstring(L"? ") + names[0]);
-        const auto method = m_server.m_methods.find(names[0]);
-        if (method == m_server.m_methods.end()) return DISP_E_UNKNOWNNAME;
+        server.m_seen.push_back(std::wstring(L"? ") + names[0]);
+        const auto method = server.m_methods.find(names[0]);
+        if (method == server.m_methods.end()) return DISP_E_UNKNOWNNAME;
         *ids = method->second;
         return S_OK;
     }
@@ -44,8 +44,8 @@ struct FakeObject final : IDispatch {
         std::wstring call = std::to_wstring(id) + L"(";
         for (UINT left = parameters->cArgs; left > 0; --left)
             call += Written(parameters->rgvarg[left - 1]) + (left > 1 ? L"|" : L"");
-        m_server.m_seen.push_back(call + L")");
-        if (m_server.m_answer) return m_server.m_answer(*result, *exception);
+        server.m_seen.push_back(call + L")");
+        if (server.m_answer) return server.m_answer(*result, *exception);
         _variant_t one(1L);
         return VariantCopy(result, &one);
     }

@@ -1,7 +1,7 @@
 // Tests of the signing operations through the library's interface, against a server in this process.
 #include <afxwin.h>
-#include "sign/DateStyle.h"
-#include "sign/SignOpt.h"
+#include "config/DateStyle.h"
+#include "varnoke/SignOpt.h"
 #include "tests/sign/FakeServer.h"
 #include "tests/support/MemoryUse.h"
 #include "tests/support/SettingsFile.h"

@@ -7,8 +7,8 @@
 #include <sstream>
 #include <stdexcept>
 #include <vector>
-#include "config/qorparser.h"
-#include "plm/PLMInteract.h"
+#include "neighbours/qorparser.h"
+#include "varnoke/PLMInteract.h"
 #include "tests/model/ModelFixture.h"
 
 namespace tests {

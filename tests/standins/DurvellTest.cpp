@@ -3,7 +3,7 @@
 #include <windows.h>
 #include <gtest/gtest.h>
 
-#include "plm/durvell.h"
+#include "neighbours/durvell.h"
 #include "standins/durvell/ResultCodes.h"
 #include "tests/support/TempFolder.h"
 

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/standins/HostedControl.h"
-#include "ui/QORGridIds.h"
+#include "neighbours/QORGridIds.h"
 
 using namespace varnoke;
 using namespace tests;

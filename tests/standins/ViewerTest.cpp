@@ -5,7 +5,7 @@
 
 #include "tests/standins/HostedControl.h"
 #include "tests/support/TempFolder.h"
-#include "ui/DwgViewerIds.h"
+#include "neighbours/DwgViewerIds.h"
 
 namespace {
 

@@ -119,8 +119,8 @@ void DialogDriver::Taken(const MSG& message) {
     const auto text = reinterpret_cast<const wchar_t*>(message.wParam);
     m_messages.push_back({message.message, text ? text : L""});
     for (auto trigger = m_triggers.begin(); trigger != m_triggers.end();) {
-        if (trigger->m_message == message.message && --trigger->m_count == 0) {
-            Post(m_current, std::move(trigger->m_script));
+        if (trigger->message == message.message && --trigger->count == 0) {
+            Post(m_current, std::move(trigger->script));
             trigger = m_triggers.erase(trigger);
         } else {
             ++trigger;

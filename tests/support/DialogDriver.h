@@ -11,17 +11,17 @@ namespace tests {
 
 // A message box that was shown; it has been answered with OK.
 struct SeenBox {
-    std::wstring m_caption;
-    std::wstring m_text;
-    bool m_information = false; // shown with the information icon
-    HWND m_owner = nullptr;
-    std::wstring m_ownerCaption;
+    std::wstring caption;
+    std::wstring text;
+    bool information = false; // shown with the information icon
+    HWND owner = nullptr;
+    std::wstring ownerCaption;
 };
 
 // A private message of a transfer dialog, as the dialog took it from the queue.
 struct SeenMessage {
-    UINT m_message;
-    std::wstring m_text; // of the string that wParam carried
+    UINT message;
+    std::wstring text; // of the string that wParam carried
 };
 
 // Each dialog gets the next script, which runs in its modal loop once it is active; a dialog without a
@@ -51,9 +51,9 @@ public:
 
 private:
     struct Trigger {
-        UINT m_message;
-        int m_count;
-        Script m_script;
+        UINT message;
+        int count;
+        Script script;
     };
 
     static LRESULT CALLBACK CbtHook(int code, WPARAM wParam, LPARAM lParam);

@@ -7,9 +7,9 @@
 namespace tests {
 
 struct ObjectCounts {
-    int m_windows = 0; // of this thread
-    int m_gdi = 0;
-    int m_kernel = 0;
+    int windows = 0; // of this thread
+    int gdi = 0;
+    int kernel = 0;
 };
 
 inline BOOL CALLBACK CountWindow(HWND, LPARAM count) {
@@ -25,19 +25,19 @@ inline BOOL CALLBACK CountTree(HWND window, LPARAM count) {
 // Asks for each possible handle, since Wine does not keep the counts that the system offers.
 inline ObjectCounts CountObjects() {
     ObjectCounts counts;
-    EnumThreadWindows(GetCurrentThreadId(), &CountTree, reinterpret_cast<LPARAM>(&counts.m_windows));
-    counts.m_gdi = static_cast<int>(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS));
-    const bool uncounted = counts.m_gdi == 0;
+    EnumThreadWindows(GetCurrentThreadId(), &CountTree, reinterpret_cast<LPARAM>(&counts.windows));
+    counts.gdi = static_cast<int>(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS));
+    const bool uncounted = counts.gdi == 0;
     for (UINT_PTR index = 1; uncounted && index <= 0xffff; ++index)
-        counts.m_gdi += GetObjectType(reinterpret_cast<HGDIOBJ>(index)) != 0;
+        counts.gdi += GetObjectType(reinterpret_cast<HGDIOBJ>(index)) != 0;
     DWORD flags = 0;
     for (UINT_PTR handle = 4; handle < 0x8000; handle += 4)
-        counts.m_kernel += GetHandleInformation(reinterpret_cast<HANDLE>(handle), &flags) != 0;
+        counts.kernel += GetHandleInformation(reinterpret_cast<HANDLE>(handle), &flags) != 0;
     return counts;
 }
 
 inline bool operator<=(const ObjectCounts& a, const ObjectCounts& b) {
-    return a.m_windows <= b.m_windows && a.m_gdi <= b.m_gdi && a.m_kernel <= b.m_kernel;
+    return a.windows <= b.windows && a.gdi <= b.gdi && a.kernel <= b.kernel;
 }
 
 // Runs a dialog often and expects neither objects nor memory to remain. The system takes a handle or a page
@@ -55,9 +55,9 @@ void ExpectNothingLeft(Body run, int rounds = 200) {
         after = CountObjects();
         if (after <= before && growth < allowed) return;
     }
-    EXPECT_EQ(before.m_windows, after.m_windows);
-    EXPECT_EQ(before.m_gdi, after.m_gdi);
-    EXPECT_EQ(before.m_kernel, after.m_kernel);
+    EXPECT_EQ(before.windows, after.windows);
+    EXPECT_EQ(before.gdi, after.gdi);
+    EXPECT_EQ(before.kernel, after.kernel);
     EXPECT_LT(growth, allowed);
 }
 

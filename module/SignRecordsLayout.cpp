@@ -1,5 +1,5 @@
 // Holds the memory layout of the exported records as 64-bit hosts read it.
-#pragma once
+#include "varnoke/SignRecords.h"
 
 #include <cstddef>
 

@@ -1,11 +1,11 @@
 // Records that cross the exported interface. The host reads them field by field, so the order of the fields
-// is part of the interface; SignRecordsLayout.h holds it.
+// is part of the interface.
 #pragma once
 
 #include <afxwin.h>
 #include <afxtempl.h>
 
-#include "module/Export.h"
+#include "varnoke/Export.h"
 
 /// The PLM login carried by a start-sign message. Texts are empty when unset.
 struct SLoginInfo {
@@ -102,5 +102,3 @@ VARNOKE_API long Cmn_ReleaseSignType(SSignType* record);
 VARNOKE_API long Cmn_ReleaseSignFileDUL(SSignFileDUL* record);
 VARNOKE_API long Cmn_ReleaseSignInfo(SSignInfo* record);
 }
-
-#include "module/SignRecordsLayout.h"

@@ -1,5 +1,5 @@
 // Rendering of dates in a date style.
-#include "sign/DateStyle.h"
+#include "config/DateStyle.h"
 
 #include <time.h>
 
@@ -15,22 +15,22 @@ const wchar_t* const kDateStyles[kDateStyleCount] = {
 namespace {
 
 struct Token {
-    const wchar_t* m_pszText;
-    int m_nLength;
-    const wchar_t* m_pszFormat;
-    int CalendarDate::*m_pnPart;
+    const wchar_t* text;
+    int length;
+    const wchar_t* format;
+    int CalendarDate::*part;
 };
 
 // Longer tokens come before those that they begin with.
 constexpr Token kTokens[] = {
-    {L"YYYY", 4, L"%.4d", &CalendarDate::m_nYear}, {L"MM", 2, L"%.2d", &CalendarDate::m_nMonth},
-    {L"M", 1, L"%d", &CalendarDate::m_nMonth},     {L"DD", 2, L"%.2d", &CalendarDate::m_nDay},
-    {L"D", 1, L"%d", &CalendarDate::m_nDay},
+    {L"YYYY", 4, L"%.4d", &CalendarDate::year}, {L"MM", 2, L"%.2d", &CalendarDate::month},
+    {L"M", 1, L"%d", &CalendarDate::month},     {L"DD", 2, L"%.2d", &CalendarDate::day},
+    {L"D", 1, L"%d", &CalendarDate::day},
 };
 
 const Token* TokenAt(const wchar_t* text) {
     for (const Token& token : kTokens) {
-        if (wcsncmp(text, token.m_pszText, token.m_nLength) == 0) {
+        if (wcsncmp(text, token.text, token.length) == 0) {
             return &token;
         }
     }
@@ -66,8 +66,8 @@ CString RenderDate(const CString& style, const CalendarDate& date) {
     CString text;
     for (const wchar_t* rest = style; *rest != L'\0';) {
         if (const Token* token = TokenAt(rest)) {
-            text.AppendFormat(token->m_pszFormat, date.*token->m_pnPart);
-            rest += token->m_nLength;
+            text.AppendFormat(token->format, date.*token->part);
+            rest += token->length;
         } else {
             text.AppendChar(*rest++);
         }

@@ -64,6 +64,6 @@ private:
     CINIConfig(const CINIConfig&) = delete;
     CINIConfig& operator=(const CINIConfig&) = delete;
 
-    CString m_strPath;
-    CWnd* m_pParentWnd = nullptr; // weak
+    CString m_path;
+    CWnd* m_parentWnd = nullptr; // weak
 };

@@ -1,25 +1,25 @@
 // Lists may hold null elements; those are passed over.
-#include "ui/DocumentCopy.h"
+#include "module/DocumentCopy.h"
 
 namespace varnoke {
 
 CString PropertyValue(const SSignObj& object, const CString& name) {
-    for (POSITION pos = object.GetHeadPosition(); pos != nullptr;) {
+    for (POSITION pos = object.GetHeadPosition(); pos;) {
         const SSignPro* property = object.GetNext(pos);
-        if (property != nullptr && property->m_strName == name) return property->m_strValue;
+        if (property && property->m_strName == name) return property->m_strValue;
     }
     return CString();
 }
 
 bool HasProperties(const SSignObj* object) {
-    return object != nullptr && !object->IsEmpty();
+    return object && !object->IsEmpty();
 }
 
 OwnedRecord<SSignObj> CopyObject(const SSignObj& object) {
     OwnedRecord<SSignObj> copy(new SSignObj);
-    for (POSITION pos = object.GetHeadPosition(); pos != nullptr;) {
+    for (POSITION pos = object.GetHeadPosition(); pos;) {
         const SSignPro* property = object.GetNext(pos);
-        if (property == nullptr) continue;
+        if (!property) continue;
         std::unique_ptr<SSignPro> newProperty(new SSignPro(*property));
         copy->AddTail(newProperty.get());
         newProperty.release();
@@ -28,7 +28,7 @@ OwnedRecord<SSignObj> CopyObject(const SSignObj& object) {
 }
 
 OwnedRecord<SSignType> CopyFirstWithProperties(const SSignType& type) {
-    for (POSITION pos = type.m_lstObj.GetHeadPosition(); pos != nullptr;) {
+    for (POSITION pos = type.m_lstObj.GetHeadPosition(); pos;) {
         const SSignObj* object = type.m_lstObj.GetNext(pos);
         if (!HasProperties(object)) continue;
         OwnedRecord<SSignType> copy(new SSignType);

@@ -12,9 +12,9 @@ constexpr int kDateStyleCount = 6;
 extern const wchar_t* const kDateStyles[kDateStyleCount];
 
 struct CalendarDate {
-    int m_nYear = 0;
-    int m_nMonth = 0; ///< from 1
-    int m_nDay = 0;   ///< from 1
+    int year = 0;
+    int month = 0; ///< from 1
+    int day = 0;   ///< from 1
 };
 
 /// Today in local time; zeros when the clock cannot be converted.

@@ -3,10 +3,10 @@
 
 #include <afxwin.h>
 
-#include "config/INIConfig.h"
-#include "module/Export.h"
-#include "module/SignRecords.h"
-#include "sign/COMAPInvokeHelper.h"
+#include "varnoke/INIConfig.h"
+#include "varnoke/Export.h"
+#include "varnoke/SignRecords.h"
+#include "varnoke/COMAPInvokeHelper.h"
 
 /// Signs through the signing automation server. Operations give 0 on failure, otherwise 1 or, where the
 /// server is called, the integer that its method returned. Nothing is thrown and no message is shown for a
@@ -69,10 +69,10 @@ public:
 
 private:
     CINIConfig m_config;
-    CWnd* m_pParentWnd = nullptr; // weak
-    CString m_strPLMUser;
-    CString m_strSignUser;
-    CString m_strPassword;
-    CString m_strServerAddress;
-    CString m_strServerPort;
+    CWnd* m_parentWnd = nullptr; // weak
+    CString m_plmUser;
+    CString m_signUser;
+    CString m_password;
+    CString m_serverAddress;
+    CString m_serverPort;
 };

@@ -1,7 +1,7 @@
 // The file readers and writers of QORParser.dll, imported as C++ classes.
 #pragma once
 
-#include "config/qormodel.h"
+#include "neighbours/qormodel.h"
 
 #ifdef QORPARSER_IMPLEMENTATION
 #define QORPARSER_API __declspec(dllexport)

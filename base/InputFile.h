@@ -1,9 +1,9 @@
 // A file that is read as a whole.
 #pragma once
 
-#include <afxwin.h>
+#include <windows.h>
 
-#include "module/Owned.h"
+#include "base/Owned.h"
 
 namespace varnoke {
 

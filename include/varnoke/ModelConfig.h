@@ -2,9 +2,9 @@
 #pragma once
 
 #include <afxwin.h>
-#include "module/Export.h"
-#include "config/INIConfig.h"
-#include "config/qormodel.h"
+#include "varnoke/Export.h"
+#include "varnoke/INIConfig.h"
+#include "neighbours/qormodel.h"
 
 /// For the host's user-interface thread, with COM initialised; catches all exceptions. Which
 /// configurations are meant is read from the settings at every call.
@@ -31,8 +31,8 @@ public:
     QORMODEL::IQORObjMapConfigPtr GetMapObjectConfig();
 
 private:
-    CString m_strConfigPath; // full path, empty until initialised
-    QORMODEL::IQORConfigModelPtr m_spModel;
+    CString m_configPath; // full path, empty until initialised
+    QORMODEL::IQORConfigModelPtr m_model;
     CINIConfig m_iniConfig;
-    CWnd* m_pParentWnd; // weak
+    CWnd* m_parentWnd; // weak
 };

@@ -1,5 +1,5 @@
 // The module state in force must be the library's, as it is inside every exported operation.
-#include "ui/ResourceText.h"
+#include "module/ResourceText.h"
 
 namespace varnoke {
 

@@ -1,5 +1,5 @@
 // A file that is read as a whole.
-#include "module/InputFile.h"
+#include "base/InputFile.h"
 
 namespace varnoke {
 

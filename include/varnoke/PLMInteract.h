@@ -4,9 +4,9 @@
 
 #include <afxwin.h>
 #include <afxcoll.h>
-#include "module/Export.h"
-#include "module/SignRecords.h"
-#include "config/ModelConfig.h"
+#include "varnoke/Export.h"
+#include "varnoke/SignRecords.h"
+#include "varnoke/ModelConfig.h"
 
 struct IXMLDOMDocument;
 struct IXMLDOMNamedNodeMap;
@@ -116,5 +116,5 @@ public:
 
 private:
     CModelConfig m_modelConfig;
-    CWnd* m_pParentWnd; // weak
+    CWnd* m_parentWnd; // weak
 };

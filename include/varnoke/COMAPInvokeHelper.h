@@ -36,8 +36,8 @@ protected:
               std::initializer_list<double> numbers = {});
 
 private:
-    _com_ptr_t<_com_IIID<IDispatch, &IID_IDispatch>> m_spServer;
-    DISPID m_nMethod = 0; ///< 0: none selected
+    _com_ptr_t<_com_IIID<IDispatch, &IID_IDispatch>> m_server;
+    DISPID m_method = 0; ///< 0: none selected
 };
 
 static_assert(sizeof(CCOMAPInvokeHelper) == 3 * sizeof(void*), "the vtable, the server and the method");

@@ -1,7 +1,7 @@
 // Owners of the system's resources: the one place where they are given back.
 #pragma once
 
-#include <afxwin.h>
+#include <windows.h>
 #include <objbase.h>
 #include <oleauto.h>
 
