@@ -28,9 +28,9 @@ private:
 
     DWORD m_delay;
     HWND m_window; // this thread's, destroyed by Stop
-    varnoke::KernelHandle m_answered;
-    varnoke::KernelHandle m_stop;
-    varnoke::KernelHandle m_thread;
+    base::KernelHandle m_answered;
+    base::KernelHandle m_stop;
+    base::KernelHandle m_thread;
     double m_slowest = 0;
     int m_answers = 0;
 };

@@ -16,8 +16,8 @@ std::wstring Workspace::CreateDrawings(int count) const {
     ::CreateDirectoryW(folder.c_str(), nullptr);
     for (int number = 0; number < count; ++number) {
         const std::wstring path = folder + L"\\" + DrawingName(number);
-        varnoke::OwnFile(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                       FILE_ATTRIBUTE_NORMAL, nullptr));
+        base::OwnFile(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr));
     }
     return folder;
 }

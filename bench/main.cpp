@@ -5,7 +5,8 @@
 
 #include "bench/BareParser.h"
 #include "bench/Measures.h"
-#include "host/Owned.h"
+#include "base/ComApartment.h"
+#include "base/Owned.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -72,20 +73,16 @@ bool ReportAll(const Comparison& times) {
 } // namespace
 
 int wmain(int argc, wchar_t** argv) {
-    if (FAILED(::CoInitialize(nullptr)) ||
+    const base::ComApartment apartment;
+    if (FAILED(apartment.Result()) ||
         !AfxWinInit(::GetModuleHandleW(nullptr), nullptr, ::GetCommandLineW(), 0)) {
         return 2;
     }
     const int rounds = argc > 1 ? _wtoi(argv[1]) : 5;
-    bool kept = false;
-    {
-        const Workspace workspace;
-        // Its folder is where the model configuration lies.
-        const host::LibraryHandle services(::LoadLibraryW(L"QORLocal.dll"));
-        CPLMInteract interact;
-        Require(interact.Initialize(nullptr) == 1, "loading the model configuration");
-        kept = ReportAll(Comparison(workspace, interact, rounds));
-    }
-    ::CoUninitialize();
-    return kept ? 0 : 1;
+    const Workspace workspace;
+    // Its folder is where the model configuration lies.
+    const base::LibraryHandle services(::LoadLibraryW(L"QORLocal.dll"));
+    CPLMInteract interact;
+    Require(interact.Initialize(nullptr) == 1, "loading the model configuration");
+    return ReportAll(Comparison(workspace, interact, rounds)) ? 0 : 1;
 }

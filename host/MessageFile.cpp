@@ -26,8 +26,8 @@ constexpr EncodingName kEncodingNames[] = {
 };
 
 bool ReadBytes(const CString& path, std::string& bytes, CString& error) {
-    const varnoke::FileHandle file = varnoke::OwnFile(::CreateFileW(
-        path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    const base::FileHandle file = base::OwnFile(::CreateFileW(path, GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                                              OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     LARGE_INTEGER size;
     if (!file || !::GetFileSizeEx(file.get(), &size)) {
         error = Text(TextId::FileUnreadable, {path});

@@ -1,7 +1,7 @@
 // Paths and folders of a run.
 #include <afxwin.h>
 
-#include "host/Owned.h"
+#include "base/Owned.h"
 #include "host/Paths.h"
 
 namespace host {
@@ -13,7 +13,7 @@ constexpr int kMaxPath = 32768;
 template <class Visit>
 void ForEachEntry(const CString& folder, Visit visit) {
     WIN32_FIND_DATAW entry;
-    const FindHandle search = OwnFind(::FindFirstFileW(JoinPath(folder, L"*"), &entry));
+    const base::FindHandle search = base::OwnFind(::FindFirstFileW(JoinPath(folder, L"*"), &entry));
     if (!search) return;
     do {
         const CString name = entry.cFileName;

@@ -16,7 +16,7 @@ _COM_SMARTPTR_TYPEDEF(IWICBitmapFrameEncode, __uuidof(IWICBitmapFrameEncode));
 _COM_SMARTPTR_TYPEDEF(IWICBitmap, __uuidof(IWICBitmap));
 _COM_SMARTPTR_TYPEDEF(IWICStream, __uuidof(IWICStream));
 
-using BitmapHandle = varnoke::GdiObject<HBITMAP>;
+using BitmapHandle = base::GdiObject<HBITMAP>;
 
 /// Empty when the screen can't be read.
 BitmapHandle CopyOfScreen(const CRect& area) {

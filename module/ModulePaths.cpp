@@ -1,9 +1,8 @@
 // Folders and files that the whole library refers to.
 #include "module/ModulePaths.h"
 
-#include <vector>
-
-#include "base/InputFile.h"
+#include "base/Paths.h"
+#include "base/WholeFile.h"
 #include "module/Text.h"
 #include "module/VarnokeApp.h"
 
@@ -38,41 +37,27 @@ CString ModelConfigPath() {
 }
 
 CString TemporaryFolder() {
-    constexpr DWORD kSize = 2047;
-    wchar_t folder[kSize] = {};
-    const DWORD length = ::GetTempPathW(kSize, folder);
-    return length < kSize ? CString(folder, static_cast<int>(length)) : CString();
+    return CString(base::TemporaryFolderPrefix().c_str());
 }
 
 bool FileExists(const wchar_t* path) {
-    return HasText(path) && InputFile(path).IsOpen();
+    return HasText(path) && base::OpenForReading(path);
 }
 
 CString JoinPath(const CString& folder, const CString& name) {
-    return folder.Right(1) == L"\\" ? folder + name : folder + L"\\" + name;
+    return CString(base::JoinPath(folder, name).c_str());
 }
 
 CString FullPath(const CString& path) {
-    const DWORD size = ::GetFullPathNameW(path, 0, nullptr, nullptr);
-    std::vector<wchar_t> full(size + 1);
-    const DWORD length = ::GetFullPathNameW(path, size, full.data(), nullptr);
-    return length < size ? CString(full.data(), static_cast<int>(length)) : CString();
+    return CString(base::FullPath(path).c_str());
 }
 
 CString ModuleFilePath(HMODULE module) {
-    constexpr DWORD kLongestPath = 0x8000;
-    for (DWORD size = MAX_PATH; size < 2 * kLongestPath; size *= 2) {
-        std::vector<wchar_t> path(size);
-        const DWORD length = ::GetModuleFileNameW(module, path.data(), size);
-        if (length < size) {
-            return CString(path.data(), static_cast<int>(length));
-        }
-    }
-    return CString();
+    return CString(base::ModulePath(module).c_str());
 }
 
 CString FolderOfPath(const CString& path) {
-    return path.Left(path.ReverseFind(L'\\') + 1);
+    return CString(base::FolderPrefix(path).c_str());
 }
 
 } // namespace varnoke

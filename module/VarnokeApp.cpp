@@ -2,23 +2,23 @@
 #include "module/VarnokeApp.h"
 
 #include <afxdisp.h>
-#include <objbase.h>
+#include <optional>
 
+#include "base/ComApartment.h"
 #include "module/Guarded.h"
 #include "module/ModulePaths.h"
 
 CVarnokeApp theApp;
 
 namespace {
-// The framework calls ExitInstance after a failed InitInstance too; an apartment that was refused to us (the
-// host's thread is in another kind of apartment) must not be left on the host's account.
-bool comInitialized = false;
+// The framework calls ExitInstance after a failed InitInstance too.
+std::optional<base::ComApartment> apartment;
 } // namespace
 
 BOOL CVarnokeApp::InitInstance() {
     return varnoke::Guarded(FALSE, [this] {
         CWinApp::InitInstance();
-        comInitialized = SUCCEEDED(::CoInitialize(nullptr));
+        apartment.emplace();
         AfxEnableControlContainer();
         FindModuleFolder();
         return TRUE;
@@ -27,10 +27,7 @@ BOOL CVarnokeApp::InitInstance() {
 
 int CVarnokeApp::ExitInstance() {
     return varnoke::Guarded(1, [this] {
-        if (comInitialized) {
-            comInitialized = false;
-            ::CoUninitialize();
-        }
+        apartment.reset();
         return CWinApp::ExitInstance();
     });
 }

@@ -2,7 +2,7 @@
 #include <afxwin.h>
 
 #include "plm/TagFile.h"
-#include "base/InputFile.h"
+#include "base/WholeFile.h"
 #include "module/ModulePaths.h"
 #include "base/Owned.h"
 #include "plm/NoCase.h"
@@ -16,9 +16,8 @@ namespace {
 
 /// Empty for a missing file.
 std::string ReadWholeFile(const CString& path) {
-    const InputFile file(path);
-    std::string bytes(static_cast<size_t>(file.Size()), '\0');
-    file.Read(&bytes[0], static_cast<DWORD>(bytes.size()));
+    std::string bytes;
+    base::ReadWholeFile(path, bytes);
     return bytes;
 }
 

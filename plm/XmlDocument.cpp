@@ -3,12 +3,12 @@
 #include <afxwin.h>
 
 #include "plm/XmlDocument.h"
-#include "base/InputFile.h"
+#include "base/WholeFile.h"
 #include "module/ModulePaths.h"
 #include "plm/SignDataFolder.h"
 #include "plm/TemporaryFile.h"
 
-#include <climits>
+#include <cstring>
 #include <cwchar>
 #include <cwctype>
 
@@ -25,16 +25,15 @@ bool HasDocumentType(DomDocument& document) {
     return found;
 }
 
-/// Makes `bytes` an array of the file's bytes; false when there are none.
-bool ReadBytes(const CString& path, _variant_t& bytes) {
-    const InputFile file(path);
-    const LONGLONG size = file.Size();
-    if (size <= 0 || size > INT_MAX) return false;
-    SAFEARRAY* array = ::SafeArrayCreateVector(VT_UI1, 0, static_cast<ULONG>(size));
-    if (!array) return false;
-    bytes.vt = VT_ARRAY | VT_UI1; // owns the array from here on
-    bytes.parray = array;
-    return file.Read(array->pvData, static_cast<DWORD>(size));
+/// Makes `array` an array of the file's bytes; false when there are none.
+bool ReadBytes(const CString& path, _variant_t& array) {
+    std::string bytes;
+    if (base::ReadWholeFile(path, bytes) != base::ReadResult::Done || bytes.empty()) return false;
+    array.parray = ::SafeArrayCreateVector(VT_UI1, 0, static_cast<ULONG>(bytes.size()));
+    if (!array.parray) return false;
+    array.vt = VT_ARRAY | VT_UI1; // owns the array from here on
+    memcpy(array.parray->pvData, bytes.data(), bytes.size());
+    return true;
 }
 
 /// The text behind its XML declaration: an encoding named there is that of a file, while these are

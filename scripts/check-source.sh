@@ -24,8 +24,8 @@ if grep -nE '#include <[a-zA-Z/_]*[A-Z][a-zA-Z/_]*\.h>' "${code[@]}"; then
 fi
 
 # Owned resources go back in their owners only.
-owners='^(base/Owned\.h|mfc/|standins/|abi/|tests/|host/Owned\.h|bench/)'
-naked='(SysFreeString|VariantClear|CloseHandle|DeleteObject|CoTaskMemFree|GlobalFree|FreeLibrary|FindClose)\('
+owners='^(base/(Owned|ComApartment)\.h|mfc/|abi/|tests/)'
+naked='(SysFreeString|VariantClear|CloseHandle|DeleteObject|CoTaskMemFree|GlobalFree|FreeLibrary|FindClose|DeleteDC|RegCloseKey|CoUninitialize|OleUninitialize)\('
 if printf '%s\n' "${code[@]}" | grep -vE "$owners" | xargs grep -nE "$naked"; then
     complain "resources are released by their owner types only"
 fi

@@ -1,8 +1,9 @@
 // The worker never touches a control, nor its window once that is closed.
 #include "ui/TransferWorker.h"
 
-#include <objbase.h>
 #include <process.h>
+#include "base/ComApartment.h"
+#include "base/ExclusiveLock.h"
 #include "module/ModulePaths.h"
 
 using namespace varnoke;
@@ -12,17 +13,6 @@ namespace {
 const UINT kMessageTextRoom = 1024;
 const LONG kMostPosted = 128; // messages in the window's queue
 const DWORD kNoRoomWait = 2;  // ms
-
-class ExclusiveLock {
-public:
-    explicit ExclusiveLock(SRWLOCK& lock) : m_lock(lock) { ::AcquireSRWLockExclusive(&m_lock); }
-    ~ExclusiveLock() { ::ReleaseSRWLockExclusive(&m_lock); }
-    ExclusiveLock(const ExclusiveLock&) = delete;
-    ExclusiveLock& operator=(const ExclusiveLock&) = delete;
-
-private:
-    SRWLOCK& m_lock;
-};
 
 // Null when there is no memory for the text.
 OwnedBstr MessageText(const CString& strPath) {
@@ -98,10 +88,8 @@ void CTransferWorker::Wait() {
 }
 
 unsigned __stdcall CTransferWorker::ThreadMain(void* pWorker) {
-    const HRESULT apartment = ::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-    const unsigned result = apartment == S_OK ? static_cast<CTransferWorker*>(pWorker)->Run() : 0;
-    ::CoUninitialize();
-    return result;
+    const base::ComApartment apartment;
+    return apartment.Result() == S_OK ? static_cast<CTransferWorker*>(pWorker)->Run() : 0;
 }
 
 unsigned CTransferWorker::Run() {

@@ -32,7 +32,7 @@ Bytes Utf16Of(const CString& text) {
 }
 
 bool WriteFileBytes(const CString& path, const Bytes& bytes) {
-    const varnoke::FileHandle file = varnoke::OwnFile(
+    const base::FileHandle file = base::OwnFile(
         ::CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
     DWORD written = 0;
     return file &&

@@ -34,14 +34,15 @@ private:
     template <class Draw>
     void WithPen(COLORREF color, int width, Draw draw);
 
+    base::MemoryDc m_dc;
     HDC m_hDC;
     BITMAPINFOHEADER m_header = {};
-    varnoke::GdiObject<HBITMAP> m_bitmap;
+    base::GdiObject<HBITMAP> m_bitmap;
     void* m_pixels = nullptr;
     HGDIOBJ m_before;
 };
 
-Canvas::Canvas() : m_hDC(::CreateCompatibleDC(nullptr)) {
+Canvas::Canvas() : m_dc(::CreateCompatibleDC(nullptr)), m_hDC(m_dc.get()) {
     m_header.biSize = sizeof m_header;
     m_header.biWidth = kWidth;
     m_header.biHeight = kHeight;
@@ -51,7 +52,7 @@ Canvas::Canvas() : m_hDC(::CreateCompatibleDC(nullptr)) {
     m_bitmap.reset(::CreateDIBSection(m_hDC, reinterpret_cast<const BITMAPINFO*>(&m_header), DIB_RGB_COLORS,
                                       &m_pixels, nullptr, 0));
     m_before = ::SelectObject(m_hDC, m_bitmap.get());
-    const varnoke::GdiObject<HBRUSH> paper(::CreateSolidBrush(kPaper));
+    const base::GdiObject<HBRUSH> paper(::CreateSolidBrush(kPaper));
     const RECT all = {0, 0, kWidth, kHeight};
     ::FillRect(m_hDC, &all, paper.get());
     ::SelectObject(m_hDC, ::GetStockObject(NULL_BRUSH));
@@ -60,12 +61,11 @@ Canvas::Canvas() : m_hDC(::CreateCompatibleDC(nullptr)) {
 
 Canvas::~Canvas() {
     ::SelectObject(m_hDC, m_before);
-    ::DeleteDC(m_hDC);
 }
 
 template <class Draw>
 void Canvas::WithPen(COLORREF color, int width, Draw draw) {
-    const varnoke::GdiObject<HPEN> pen(::CreatePen(PS_SOLID, width, color));
+    const base::GdiObject<HPEN> pen(::CreatePen(PS_SOLID, width, color));
     const HGDIOBJ before = ::SelectObject(m_hDC, pen.get());
     draw();
     ::SelectObject(m_hDC, before);
@@ -88,9 +88,9 @@ void Canvas::Circle(int x, int y, int radius, COLORREF color, int width) {
 
 void Canvas::Label(const CString& text, RECT area, int height, COLORREF color, const wchar_t* face) {
     // The character set makes the system choose a font with Chinese characters when the face is missing.
-    const varnoke::GdiObject<HFONT> font(
-        ::CreateFontW(-height, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, GB2312_CHARSET, OUT_DEFAULT_PRECIS,
-                      CLIP_DEFAULT_PRECIS, ANTIALIASED_QUALITY, DEFAULT_PITCH, face));
+    const base::GdiObject<HFONT> font(::CreateFontW(-height, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE,
+                                                    GB2312_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS,
+                                                    ANTIALIASED_QUALITY, DEFAULT_PITCH, face));
     const HGDIOBJ before = ::SelectObject(m_hDC, font.get());
     ::SetTextColor(m_hDC, color);
     ::DrawTextW(m_hDC, text, text.GetLength(), &area,

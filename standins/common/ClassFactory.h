@@ -1,18 +1,18 @@
 // Class factory for an object class with a default constructor.
 #pragma once
 
-#include "standins/common/ComObject.h"
+#include "base/ComObject.h"
 
 namespace standins {
 
 template <class Object>
-class ClassFactory final : public ComObject<IClassFactory> {
+class ClassFactory final : public base::ComObject<IClassFactory> {
 public:
     STDMETHODIMP CreateInstance(IUnknown* outer, REFIID iid, void** result) override {
         if (!result) return E_POINTER;
         *result = nullptr;
         if (outer) return CLASS_E_NOAGGREGATION;
-        return GuardedCall([&] {
+        return base::GuardedCall([&] {
             Object* object = new Object();
             const HRESULT found = object->QueryInterface(iid, result);
             object->Release();
@@ -21,9 +21,9 @@ public:
     }
     STDMETHODIMP LockServer(BOOL lock) override {
         if (lock)
-            ::InterlockedIncrement(&g_liveCount);
+            ::InterlockedIncrement(&base::g_liveCount);
         else
-            ::InterlockedDecrement(&g_liveCount);
+            ::InterlockedDecrement(&base::g_liveCount);
         return S_OK;
     }
 };
@@ -31,7 +31,7 @@ public:
 // Makes the factory and hands out one of its interfaces; used as ServedClass::makeFactory.
 template <class Object>
 HRESULT MakeFactory(REFIID iid, void** result) {
-    return GuardedCall([&] {
+    return base::GuardedCall([&] {
         auto* factory = new ClassFactory<Object>();
         const HRESULT found = factory->QueryInterface(iid, result);
         factory->Release();

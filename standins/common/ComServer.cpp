@@ -3,9 +3,10 @@
 
 #include <olectl.h>
 
-#include "standins/common/ComObject.h"
+#include "base/ComObject.h"
 #include "standins/common/Registration.h"
 
+using namespace base;
 using namespace standins;
 
 STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, void** object) {

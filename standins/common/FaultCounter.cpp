@@ -3,14 +3,14 @@
 
 #include <algorithm>
 
-#include "standins/common/Owned.h"
+#include "base/ExclusiveLock.h"
 #include "standins/common/Text.h"
 
 namespace standins {
 
 bool FaultCounter::CountAndTest(std::wstring_view plan, std::wstring_view operation,
                                 std::wstring_view calls) {
-    const ExclusiveLock lock(m_lock);
+    const base::ExclusiveLock lock(m_lock);
     if (m_plan != plan) {
         m_plan = plan;
         m_counts.clear();

@@ -4,7 +4,7 @@
 #include <windows.h>
 #include <cstdio>
 
-#include "standins/common/Owned.h"
+#include "base/Owned.h"
 #include "standins/common/Text.h"
 
 namespace standins {
@@ -30,10 +30,10 @@ void AppendJournal(const std::wstring& file, std::wstring_view call,
     line.append(L"\t=> ").append(std::to_wstring(result)).append(L"\r\n");
 
     constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    const UniqueFile journal = OpenedFile(::CreateFileW(file.c_str(), FILE_APPEND_DATA, shareAll, nullptr,
-                                                        OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+    const base::FileHandle journal = base::OwnFile(::CreateFileW(
+        file.c_str(), FILE_APPEND_DATA, shareAll, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!journal) return;
-    const std::string utf8 = ToUtf8(line);
+    const std::string utf8 = base::ToUtf8(line);
     DWORD written = 0;
     ::WriteFile(journal.get(), utf8.data(), static_cast<DWORD>(utf8.size()), &written, nullptr);
 }

@@ -6,15 +6,15 @@
 #include <ocidl.h>
 #include <olectl.h>
 
-#include "standins/common/Dispatch.h"
-#include "standins/common/Owned.h"
+#include "base/Dispatch.h"
+#include "base/Owned.h"
 
 namespace standins {
 
 // A derived class supplies its members, its class identifier, the messages of its window and its picture. The
 // window exists only while the control is active in its container, so members must not depend on it.
-class OleControl : public DispatchObject<IOleObject, IOleInPlaceObject, IOleInPlaceActiveObject, IOleControl,
-                                         IViewObject2, IPersistStreamInit> {
+class OleControl : public base::DispatchObject<IOleObject, IOleInPlaceObject, IOleInPlaceActiveObject,
+                                               IOleControl, IViewObject2, IPersistStreamInit> {
 public:
     // IOleObject
     STDMETHODIMP SetClientSite(IOleClientSite* site) override;

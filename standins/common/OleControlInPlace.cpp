@@ -1,6 +1,6 @@
 // Base of the ActiveX controls: activation in the container's window.
 #include "standins/common/OleControl.h"
-#include "standins/common/ThisModule.h"
+#include "base/Paths.h"
 
 namespace standins {
 
@@ -83,14 +83,14 @@ bool OleControl::MakeWindow(HWND parent, const RECT& position) {
     windowClass.cbSize = sizeof(windowClass);
     windowClass.style = CS_HREDRAW | CS_VREDRAW;
     windowClass.lpfnWndProc = &OleControl::WindowProc;
-    windowClass.hInstance = ThisModule();
+    windowClass.hInstance = base::ThisModule();
     windowClass.hCursor = ::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW));
     windowClass.lpszClassName = kWindowClass;
     if (!::RegisterClassExW(&windowClass) && ::GetLastError() != ERROR_CLASS_ALREADY_EXISTS) return false;
     return ::CreateWindowExW(WS_EX_CONTROLPARENT, kWindowClass, nullptr,
                              WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS | WS_TABSTOP, position.left,
                              position.top, position.right - position.left, position.bottom - position.top,
-                             parent, nullptr, ThisModule(), this) != nullptr;
+                             parent, nullptr, base::ThisModule(), this) != nullptr;
 }
 
 void OleControl::DropWindow() {
@@ -101,7 +101,7 @@ void OleControl::DropWindow() {
         m_window = nullptr;
     }
     // Fails, as it should, while another control of this DLL has a window.
-    ::UnregisterClassW(kWindowClass, ThisModule());
+    ::UnregisterClassW(kWindowClass, base::ThisModule());
 }
 
 LRESULT CALLBACK OleControl::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -7,7 +7,7 @@ STDMETHODIMP OleControl::Draw(DWORD aspect, LONG, void*, DVTARGETDEVICE*, HDC, H
                               LPCRECTL, BOOL(CALLBACK*)(ULONG_PTR), ULONG_PTR) {
     if (aspect != DVASPECT_CONTENT) return DV_E_DVASPECT;
     if (!dc || !bounds) return E_INVALIDARG;
-    return GuardedCall([&] {
+    return base::GuardedCall([&] {
         DrawContent(dc, {bounds->left, bounds->top, bounds->right, bounds->bottom});
         return S_OK;
     });

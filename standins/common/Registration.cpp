@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "standins/common/Owned.h"
+#include "base/Owned.h"
 #include "standins/common/Text.h"
 
 namespace standins {
@@ -19,7 +19,7 @@ static bool WriteValue(const std::wstring& key, const wchar_t* name, const std::
     if (::RegCreateKeyExW(HKEY_CLASSES_ROOT, key.c_str(), 0, nullptr, 0, KEY_WRITE, nullptr, &created,
                           nullptr))
         return false;
-    const UniqueRegKey opened(created);
+    const base::RegistryKey opened(created);
     const DWORD size = static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t));
     return ::RegSetValueExW(created, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(value.c_str()), size) ==
            ERROR_SUCCESS;

@@ -3,24 +3,10 @@
 
 #include <windows.h>
 
-#include "standins/common/Owned.h"
-#include "standins/common/ThisModule.h"
+#include "base/Owned.h"
+#include "base/Paths.h"
 
 namespace standins {
-
-std::string ToUtf8(std::wstring_view text) {
-    const int length = static_cast<int>(text.size());
-    const int size = ::WideCharToMultiByte(CP_UTF8, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
-    std::string utf8(static_cast<size_t>(size), '\0');
-    ::WideCharToMultiByte(CP_UTF8, 0, text.data(), length, &utf8[0], size, nullptr, nullptr);
-    return utf8;
-}
-
-bool SameText(std::wstring_view a, std::wstring_view b) {
-    return a.size() == b.size() &&
-           (a.empty() || ::CompareStringOrdinal(a.data(), static_cast<int>(a.size()), b.data(),
-                                                static_cast<int>(b.size()), TRUE) == CSTR_EQUAL);
-}
 
 std::vector<std::wstring> Split(std::wstring_view text, wchar_t separator) {
     std::vector<std::wstring> parts;
@@ -53,9 +39,9 @@ bool FileExists(const std::wstring& path) {
 }
 
 bool WriteTextFile(const std::wstring& path, std::wstring_view text) {
-    const UniqueFile file = OpenedFile(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                                     FILE_ATTRIBUTE_NORMAL, nullptr));
-    const std::string utf8 = ToUtf8(text);
+    const base::FileHandle file = base::OwnFile(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr,
+                                                              CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+    const std::string utf8 = base::ToUtf8(std::wstring(text));
     DWORD written = 0;
     return file && ::WriteFile(file.get(), utf8.data(), static_cast<DWORD>(utf8.size()), &written, nullptr) &&
            written == utf8.size() && ::FlushFileBuffers(file.get());
@@ -64,7 +50,8 @@ bool WriteTextFile(const std::wstring& path, std::wstring_view text) {
 std::wstring ModulePath() {
     std::wstring path(MAX_PATH, L'\0');
     for (;;) {
-        const DWORD length = ::GetModuleFileNameW(ThisModule(), &path[0], static_cast<DWORD>(path.size()));
+        const DWORD length =
+            ::GetModuleFileNameW(base::ThisModule(), &path[0], static_cast<DWORD>(path.size()));
         if (length < path.size()) {
             path.resize(length);
             return path;

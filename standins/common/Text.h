@@ -5,12 +5,9 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Text.h"
+
 namespace standins {
-
-std::string ToUtf8(std::wstring_view text);
-
-// Ordinal comparison without regard to case.
-bool SameText(std::wstring_view a, std::wstring_view b);
 
 // The parts between separators; an empty text has no parts.
 std::vector<std::wstring> Split(std::wstring_view text, wchar_t separator);

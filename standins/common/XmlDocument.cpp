@@ -3,7 +3,7 @@
 
 #include <new>
 
-#include "standins/common/Owned.h"
+#include "base/Owned.h"
 
 namespace standins {
 
@@ -29,9 +29,9 @@ static bool HasDocumentType(const XmlDocumentPtr& document) {
 // which some characters have a meaning. Empty when the file can't be read.
 static _variant_t ReadBytes(const std::wstring& path) {
     _variant_t bytes;
-    const UniqueFile file = OpenedFile(::CreateFileW(path.c_str(), GENERIC_READ,
-                                                     FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                                                     nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    const base::FileHandle file = base::OwnFile(
+        ::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                      nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     LARGE_INTEGER size = {};
     if (!file || !::GetFileSizeEx(file.get(), &size) || size.QuadPart == 0 || size.QuadPart > MAXLONG)
         return bytes;

@@ -36,7 +36,7 @@ bool FaultPlan::TransferFails(const wchar_t* operation, const std::wstring& remo
     ::Sleep(std::min(std::wcstoul(Value(L"DelayMs").c_str(), nullptr, 10), longestDelay));
     if (Fails(operation)) return true;
     for (const std::wstring& name : Split(Value(std::wstring(operation) + L"FailNames"), L'|'))
-        if (SameText(name, remoteName)) return true;
+        if (base::SameText(name, remoteName)) return true;
     return false;
 }
 

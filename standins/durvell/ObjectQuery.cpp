@@ -1,7 +1,7 @@
 // Selection of objects from an object file.
 #include "standins/durvell/ObjectQuery.h"
 
-#include "standins/common/Owned.h"
+#include "base/ComApartment.h"
 #include "standins/common/Text.h"
 #include "standins/durvell/SearchFilter.h"
 #include "standins/durvell/TemporaryFile.h"
@@ -42,7 +42,7 @@ static XmlDocumentPtr NewResult(const std::wstring& objectType, XmlElementPtr& t
 
 Result QueryObjects(const std::wstring& objectFile, const std::wstring& objectType,
                     const std::wstring& filterXml, const std::wstring& resultFile) {
-    const ComApartment apartment;
+    const base::ComApartment apartment;
     SearchFilter filter;
     if (!filter.Parse(filterXml)) return ResultBadFilter;
     const XmlDocumentPtr objects = LoadXmlFile(objectFile);

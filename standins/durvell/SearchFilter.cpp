@@ -12,7 +12,7 @@ bool SearchFilter::Parse(const std::wstring& xml) {
     for (const XmlNodePtr& filter : Select(document, L"/searchfilter/archivefilter/filter")) {
         Condition condition;
         std::wstring logic, comparison;
-        if (!ReadAttribute(filter, L"logiccode", &logic) || !standins::SameText(logic, L"and")) return false;
+        if (!ReadAttribute(filter, L"logiccode", &logic) || !base::SameText(logic, L"and")) return false;
         if (!ReadAttribute(filter, L"comparetype", &comparison) || comparison != L"=") return false;
         if (!ReadAttribute(filter, L"field", &condition.field) ||
             !ReadAttribute(filter, L"value", &condition.value))
@@ -27,7 +27,7 @@ static bool HasValue(const std::vector<XmlNodePtr>& properties, const std::wstri
     for (const XmlNodePtr& property : properties) {
         std::wstring name, text;
         if (ReadAttribute(property, L"name", &name) && name == field)
-            return ReadAttribute(property, L"value", &text) && standins::SameText(text, value);
+            return ReadAttribute(property, L"value", &text) && base::SameText(text, value);
     }
     return false;
 }

@@ -13,13 +13,13 @@ public:
     GridControl() : m_view(m_model, m_look) {}
 
 protected:
-    const standins::DispatchTable& Members() const override;
+    const base::DispatchTable& Members() const override;
     const CLSID& ClassId() const override;
     LRESULT OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
     void DrawContent(HDC dc, const RECT& bounds) override;
 
 private:
-    using Arguments = standins::Arguments;
+    using Arguments = base::Arguments;
 
     HRESULT GetRowCount(Arguments& arguments, VARIANT& result);
     HRESULT PutRowCount(Arguments& arguments, VARIANT& result);

@@ -3,6 +3,7 @@
 #include "standins/grid/GridControl.h"
 #include "neighbours/QORGridIds.h"
 
+using namespace base;
 using namespace standins;
 
 namespace grid {
@@ -141,7 +142,7 @@ HRESULT GridControl::SetColumnWidth(Arguments& arguments, VARIANT&) {
 HRESULT GridControl::SetColumnEditor(Arguments& arguments, VARIANT&) {
     if (!m_model.HasColumn(arguments[0].lVal)) return DISP_E_BADINDEX;
     const std::wstring plugIn = BstrText(arguments[1]);
-    const bool isCheckEditor = SameText(plugIn, L"QORCheckBoxEdit.dll");
+    const bool isCheckEditor = base::SameText(plugIn, L"QORCheckBoxEdit.dll");
     if (!plugIn.empty() && !isCheckEditor) return E_INVALIDARG;
     m_model.ColumnAt(arguments[0].lVal).hasCheckEditor = isCheckEditor;
     m_view.ShowRows();

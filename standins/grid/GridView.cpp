@@ -1,7 +1,7 @@
 // The system's list view showing a grid model.
 #include "standins/grid/GridView.h"
 
-#include "standins/common/ThisModule.h"
+#include "base/Paths.h"
 
 namespace grid {
 
@@ -12,7 +12,7 @@ void GridView::Create(HWND parent) {
     ::GetClientRect(parent, &client);
     const DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_OWNERDATA | LVS_SHOWSELALWAYS;
     m_list = ::CreateWindowExW(WS_EX_CLIENTEDGE, WC_LISTVIEWW, nullptr, style, 0, 0, client.right,
-                               client.bottom, parent, nullptr, standins::ThisModule(), nullptr);
+                               client.bottom, parent, nullptr, base::ThisModule(), nullptr);
     NONCLIENTMETRICSW metrics = {};
     metrics.cbSize = sizeof(metrics);
     if (::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0))

@@ -4,7 +4,7 @@
 #include <windows.h>
 #include <commctrl.h>
 
-#include "standins/common/Owned.h"
+#include "base/Owned.h"
 #include "standins/grid/GridModel.h"
 
 namespace grid {
@@ -52,7 +52,7 @@ private:
     GridModel& m_model;     // outlives the view
     const GridLook& m_look; // the same
     HWND m_list = nullptr;  // ends with its parent
-    standins::UniqueFont m_font;
+    base::GdiObject<HFONT> m_font;
 };
 
 } // namespace grid

@@ -35,7 +35,7 @@ HRESULT GiveObject(Interface** result, const SharedElement& element) {
 // What object configurations and object maps have in common: attributes, and entries with attributes, which
 // are the child elements of one name.
 template <class Interface>
-class AttributedConfig : public standins::ComObject<Interface> {
+class AttributedConfig : public base::ComObject<Interface> {
 public:
     AttributedConfig(const SharedElement& element, std::wstring_view entryName) : m_element(element) {
         for (const XmlElement& child : element->children)
@@ -79,7 +79,7 @@ public:
     }
 };
 
-class ObjMapConfigs final : public standins::ComObject<IQORObjMapConfigs> {
+class ObjMapConfigs final : public base::ComObject<IQORObjMapConfigs> {
 public:
     explicit ObjMapConfigs(std::vector<SharedElement> maps) : m_maps(std::move(maps)) {}
 
@@ -100,7 +100,7 @@ private:
     const std::vector<SharedElement> m_maps;
 };
 
-class DomainConfig final : public standins::ComObject<IQORDomainConfig> {
+class DomainConfig final : public base::ComObject<IQORDomainConfig> {
 public:
     explicit DomainConfig(const SharedElement& element) : m_element(element) {}
 
@@ -119,7 +119,7 @@ private:
     const SharedElement m_element;
 };
 
-class ConfigModel final : public standins::ComObject<IQORConfigModel> {
+class ConfigModel final : public base::ComObject<IQORConfigModel> {
 public:
     explicit ConfigModel(const SharedElement& document) : m_document(document) {}
 

@@ -18,7 +18,7 @@ HRESULT GiveReference(Interface** result, Object* object) {
     return S_OK;
 }
 
-class DataEntries final : public standins::ComObject<IQORDataEntries> {
+class DataEntries final : public base::ComObject<IQORDataEntries> {
 public:
     explicit DataEntries(std::vector<IQORDataEntryPtr> entries) : m_entries(std::move(entries)) {}
 

@@ -7,7 +7,7 @@
 
 namespace qorparser {
 
-class DataModel final : public standins::ComObject<QORMODEL::IQORDataModel> {
+class DataModel final : public base::ComObject<QORMODEL::IQORDataModel> {
 public:
     STDMETHODIMP CreateEntry(BSTR type, QORMODEL::IQORDataEntry** entry) override;
     STDMETHODIMP AddEntry(QORMODEL::IQORDataEntry* entry) override;

@@ -12,7 +12,7 @@
 namespace qorparser {
 
 template <class Interface>
-class DataObject : public standins::ComObject<Interface> {
+class DataObject : public base::ComObject<Interface> {
 public:
     STDMETHODIMP GetProperty(BSTR name, BSTR* value) override {
         return ModelCall(value, [&] {

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "standins/common/ComObject.h"
+#include "base/ComObject.h"
 
 namespace qorparser {
 
@@ -19,7 +19,7 @@ bool FaultDue();
 // Runs the body of an operation without a result.
 template <class Body>
 HRESULT ModelCall(Body body) {
-    return FaultDue() ? E_FAIL : standins::GuardedCall(body);
+    return FaultDue() ? E_FAIL : base::GuardedCall(body);
 }
 
 // Runs the body of an operation with a result, which is null or zero unless the body sets it.

@@ -11,7 +11,7 @@ std::vector<standins::ServedClass> standins::ServedClasses() {
 
 // The number of model objects that exist in this process.
 extern "C" __declspec(dllexport) long qor_LiveObjects() {
-    return standins::g_liveCount;
+    return base::g_liveCount;
 }
 
 // Makes the n-th model operation from now on fail; 0 for none.

@@ -6,6 +6,7 @@
 #include "standins/common/Text.h"
 #include "standins/signserver/SignatureBook.h"
 
+using namespace base;
 using namespace standins;
 
 namespace signserver {
@@ -17,7 +18,7 @@ static bool IsFaultDue(std::wstring_view method) {
     std::wstring calls;
     for (const std::wstring& fault : Split(plan, L';')) {
         const size_t colon = fault.find(L':');
-        if (!SameText(std::wstring_view(fault).substr(0, colon), method)) continue;
+        if (!base::SameText(std::wstring_view(fault).substr(0, colon), method)) continue;
         if (colon == std::wstring::npos)
             calls = L"*";
         else if (calls != L"*")

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "standins/common/Dispatch.h"
+#include "base/Dispatch.h"
 
 namespace signserver {
 
@@ -22,12 +22,12 @@ namespace signserver {
 //
 // SIGNSERVER_FAULT makes calls fail: "Sign:2" the second call of Sign, "Login" every Login; several with ";"
 // between them. Calls are counted per process, from 1 again when the variable's text changes.
-class SignServer final : public standins::DispatchObject<> {
+class SignServer final : public base::DispatchObject<> {
 protected:
-    const standins::DispatchTable& Members() const override;
+    const base::DispatchTable& Members() const override;
 
 private:
-    using Arguments = standins::Arguments;
+    using Arguments = base::Arguments;
 
     HRESULT Login(Arguments& arguments, VARIANT& result);
     HRESULT Sign(Arguments& arguments, VARIANT& result);

@@ -7,7 +7,7 @@
 
 namespace signserver {
 
-using standins::SameText;
+using base::SameText;
 
 SignatureBook& SignatureBook::OfProcess() {
     static SignatureBook book;

@@ -3,7 +3,7 @@
 
 #include <cstring>
 
-#include "standins/common/Owned.h"
+#include "base/Owned.h"
 
 namespace viewer {
 
@@ -11,9 +11,8 @@ namespace viewer {
 class FileReader {
 public:
     explicit FileReader(const std::wstring& path)
-        : m_file(standins::OpenedFile(::CreateFileW(path.c_str(), GENERIC_READ,
-                                                    FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr))) {
+        : m_file(base::OwnFile(::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                             nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr))) {
         LARGE_INTEGER size = {};
         if (m_file && ::GetFileSizeEx(m_file.get(), &size)) m_size = static_cast<ULONGLONG>(size.QuadPart);
     }
@@ -29,7 +28,7 @@ public:
     bool Holds(DWORD offset, DWORD size) const { return static_cast<ULONGLONG>(offset) + size <= m_size; }
 
 private:
-    standins::UniqueFile m_file;
+    base::FileHandle m_file;
     ULONGLONG m_size = 0;
 };
 

@@ -86,7 +86,7 @@ bool Picture::Load(const Preview& preview) {
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
     void* pixels = nullptr;
-    standins::UniqueBitmap bitmap(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
+    base::GdiObject<HBITMAP> bitmap(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
     if (!bitmap) return false;
     if (FAILED(source->CopyPixels(nullptr, width * 4, width * height * 4, static_cast<BYTE*>(pixels))))
         return false;
@@ -111,7 +111,7 @@ void Picture::Draw(HDC dc, const RECT& bounds) const {
     const int width = std::max(1, static_cast<int>(m_width * scale));
     const int height = std::max(1, static_cast<int>(m_height * scale));
 
-    const standins::UniqueMemoryDc memory(::CreateCompatibleDC(dc));
+    const base::MemoryDc memory(::CreateCompatibleDC(dc));
     if (!memory) return;
     const HGDIOBJ previous = ::SelectObject(memory.get(), m_bitmap.get());
     const int previousMode = ::SetStretchBltMode(dc, HALFTONE);

@@ -1,7 +1,7 @@
 // A decoded preview picture.
 #pragma once
 
-#include "standins/common/Owned.h"
+#include "base/Owned.h"
 #include "standins/viewer/DwgPreview.h"
 
 namespace viewer {
@@ -18,7 +18,7 @@ public:
     void Draw(HDC dc, const RECT& bounds) const;
 
 private:
-    standins::UniqueBitmap m_bitmap;
+    base::GdiObject<HBITMAP> m_bitmap;
     int m_width = 0;
     int m_height = 0;
 };

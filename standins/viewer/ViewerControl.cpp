@@ -11,19 +11,19 @@ const CLSID& ViewerControl::ClassId() const {
     return varnoke::kDwgViewerClass;
 }
 
-const standins::DispatchTable& ViewerControl::Members() const {
-    static const standins::DispatchTable members = {
+const base::DispatchTable& ViewerControl::Members() const {
+    static const base::DispatchTable members = {
         {varnoke::kDwgViewerOpen, L"Open", DISPATCH_METHOD, "S",
-         &standins::Forward<ViewerControl, &ViewerControl::Open>},
+         &base::Forward<ViewerControl, &ViewerControl::Open>},
     };
     return members;
 }
 
-HRESULT ViewerControl::Open(standins::Arguments& arguments, VARIANT& result) {
+HRESULT ViewerControl::Open(base::Arguments& arguments, VARIANT& result) {
     m_picture.Clear();
-    const bool shown = m_picture.Load(ReadPreview(standins::BstrText(arguments[0])));
+    const bool shown = m_picture.Load(ReadPreview(base::BstrText(arguments[0])));
     ViewChanged();
-    return standins::GiveLong(result, shown ? 1 : 0);
+    return base::GiveLong(result, shown ? 1 : 0);
 }
 
 LRESULT ViewerControl::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -10,13 +10,13 @@ namespace viewer {
 // is no drawing or missing, gives 0 and leaves an empty white frame.
 class ViewerControl final : public standins::OleControl {
 protected:
-    const standins::DispatchTable& Members() const override;
+    const base::DispatchTable& Members() const override;
     const CLSID& ClassId() const override;
     LRESULT OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
     void DrawContent(HDC dc, const RECT& bounds) override;
 
 private:
-    HRESULT Open(standins::Arguments& arguments, VARIANT& result);
+    HRESULT Open(base::Arguments& arguments, VARIANT& result);
 
     Picture m_picture;
 };

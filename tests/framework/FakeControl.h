@@ -14,7 +14,7 @@ class FakeControl : public standins::OleControl {
 public:
     STDMETHODIMP Invoke(DISPID member, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO* info,
                         UINT*) override {
-        if (member == FakeName) return standins::GiveText(*result, L"名");
+        if (member == FakeName) return base::GiveText(*result, L"名");
         if (member != FakeFail) return DISP_E_MEMBERNOTFOUND;
         info->wCode = 1001;
         info->bstrDescription = SysAllocString(L"描述");
@@ -24,8 +24,8 @@ public:
 
 protected:
     const CLSID& ClassId() const override { return kFakeControl; }
-    const standins::DispatchTable& Members() const override {
-        static const standins::DispatchTable none;
+    const base::DispatchTable& Members() const override {
+        static const base::DispatchTable none;
         return none;
     }
     LRESULT OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override {
@@ -44,7 +44,7 @@ public:
     }
     ~FakeControlClass() { CoRevokeClassObject(m_dwCookie); }
 
-    static long LiveObjects() { return standins::g_liveCount - 1; } // without the factory
+    static long LiveObjects() { return base::g_liveCount - 1; } // without the factory
 
 private:
     DWORD m_dwCookie = 0;

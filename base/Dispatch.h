@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "standins/common/ComObject.h"
+#include "base/ComObject.h"
 
-namespace standins {
+namespace base {
 
 // A call's arguments in the member's own order, already of the types that the member wants.
 using Arguments = std::vector<_variant_t>;
@@ -73,4 +73,4 @@ protected:
     virtual const DispatchTable& Members() const = 0;
 };
 
-} // namespace standins
+} // namespace base

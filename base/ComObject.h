@@ -1,11 +1,11 @@
-// Reference counting and interface lookup for the COM objects of a stand-in.
+// Reference counting and interface lookup for COM objects.
 #pragma once
 
 #include <windows.h>
 #include <unknwn.h>
 #include <new>
 
-namespace standins {
+namespace base {
 
 // Objects and server locks that keep this DLL loaded.
 inline LONG g_liveCount = 0;
@@ -74,4 +74,4 @@ private:
     LONG m_references = 1;
 };
 
-} // namespace standins
+} // namespace base

@@ -1,26 +1,15 @@
 // IDispatch over a table of members, without a type library.
-#include "standins/common/Dispatch.h"
+#include "base/Dispatch.h"
 
 #include <cstring>
-#include <string>
 
-#include "standins/common/Text.h"
+#include "base/Text.h"
 
-namespace standins {
+namespace base {
 
-HRESULT FindDispatchId(const DispatchTable& table, REFIID iid, LPOLESTR* names, UINT count, DISPID* ids) {
-    if (iid != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
-    if (!names || !ids || count == 0) return E_INVALIDARG;
-    // Names after the first would be argument names, and the members' arguments have none.
-    for (UINT i = 0; i < count; ++i)
-        ids[i] = DISPID_UNKNOWN;
-    if (!names[0]) return E_INVALIDARG;
-    for (const DispatchMember& member : table)
-        if (SameText(member.name, names[0])) ids[0] = member.id;
-    return ids[0] == DISPID_UNKNOWN || count > 1 ? DISP_E_UNKNOWNNAME : S_OK;
-}
+namespace {
 
-static HRESULT CheckNamedArguments(const DISPPARAMS& parameters, WORD flags) {
+HRESULT CheckNamedArguments(const DISPPARAMS& parameters, WORD flags) {
     if (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) {
         const bool valueNamed =
             parameters.cNamedArgs == 1 && parameters.rgdispidNamedArgs[0] == DISPID_PROPERTYPUT;
@@ -29,8 +18,8 @@ static HRESULT CheckNamedArguments(const DISPPARAMS& parameters, WORD flags) {
     return parameters.cNamedArgs == 0 ? S_OK : DISP_E_NONAMEDARGS;
 }
 
-static HRESULT FindMember(const DispatchTable& table, DISPID id, WORD flags, UINT count,
-                          const DispatchMember** found) {
+HRESULT FindMember(const DispatchTable& table, DISPID id, WORD flags, UINT count,
+                   const DispatchMember** found) {
     HRESULT failure = DISP_E_MEMBERNOTFOUND;
     for (const DispatchMember& member : table) {
         if (member.id != id || !(member.flags & flags)) continue;
@@ -43,12 +32,12 @@ static HRESULT FindMember(const DispatchTable& table, DISPID id, WORD flags, UIN
     return failure;
 }
 
-static VARTYPE TypeOf(char letter) {
+VARTYPE TypeOf(char letter) {
     return letter == 'S' ? VT_BSTR : letter == 'D' ? VT_R8 : VT_I4;
 }
 
-static HRESULT ConvertArguments(const DispatchMember& member, const DISPPARAMS& parameters,
-                                Arguments& arguments, UINT* badArgument) {
+HRESULT ConvertArguments(const DispatchMember& member, const DISPPARAMS& parameters, Arguments& arguments,
+                         UINT* badArgument) {
     for (UINT i = 0; i < parameters.cArgs; ++i) {
         // Callers pass the last argument first.
         const UINT place = parameters.cArgs - 1 - i;
@@ -64,6 +53,20 @@ static HRESULT ConvertArguments(const DispatchMember& member, const DISPPARAMS& 
         }
     }
     return S_OK;
+}
+
+} // namespace
+
+HRESULT FindDispatchId(const DispatchTable& table, REFIID iid, LPOLESTR* names, UINT count, DISPID* ids) {
+    if (iid != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
+    if (!names || !ids || count == 0) return E_INVALIDARG;
+    // Names after the first would be argument names, and the members' arguments have none.
+    for (UINT i = 0; i < count; ++i)
+        ids[i] = DISPID_UNKNOWN;
+    if (!names[0]) return E_INVALIDARG;
+    for (const DispatchMember& member : table)
+        if (SameText(member.name, names[0])) ids[0] = member.id;
+    return ids[0] == DISPID_UNKNOWN || count > 1 ? DISP_E_UNKNOWNNAME : S_OK;
 }
 
 HRESULT CallMember(const DispatchTable& table, IDispatch* self, DISPID id, REFIID iid, WORD flags,
@@ -102,4 +105,4 @@ HRESULT GiveText(VARIANT& result, const std::wstring& text) {
     return S_OK;
 }
 
-} // namespace standins
+} // namespace base

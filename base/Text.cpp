@@ -1,0 +1,29 @@
+#include "base/Text.h"
+
+#include <windows.h>
+
+#include <cwchar>
+
+namespace base {
+
+bool SameText(std::wstring_view a, std::wstring_view b) {
+    return a.size() == b.size() && ::CompareStringOrdinal(a.data(), static_cast<int>(a.size()), b.data(),
+                                                          static_cast<int>(b.size()), TRUE) == CSTR_EQUAL;
+}
+
+std::string ToUtf8(TextRef text) {
+    const int length = static_cast<int>(wcslen(text));
+    std::string bytes(::WideCharToMultiByte(CP_UTF8, 0, text, length, nullptr, 0, nullptr, nullptr), '\0');
+    ::WideCharToMultiByte(CP_UTF8, 0, text, length, &bytes[0], static_cast<int>(bytes.size()), nullptr,
+                          nullptr);
+    return bytes;
+}
+
+bool FromUtf8(std::string_view bytes, std::wstring& text) {
+    const int size = static_cast<int>(bytes.size());
+    text.resize(::MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, bytes.data(), size, nullptr, 0));
+    return size == 0 || ::MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, bytes.data(), size, &text[0],
+                                              static_cast<int>(text.size())) > 0;
+}
+
+} // namespace base
