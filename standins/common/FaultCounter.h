@@ -13,8 +13,7 @@ namespace standins {
 class FaultCounter {
 public:
     // Counts a call of the operation and says whether the plan wants it to fail. `calls` is empty (none
-    // fails),
-    // "*" (all fail) or call numbers with "|" between them ("2|5").
+    // fails), "*" (all fail) or call numbers with "|" between them ("2|5").
     bool CountAndTest(std::wstring_view plan, std::wstring_view operation, std::wstring_view calls);
 
 private:

@@ -5,11 +5,13 @@
 #include <cstdio>
 
 #include "base/Owned.h"
-#include "standins/common/Text.h"
+#include "base/Text.h"
 
 namespace standins {
 
-static std::wstring TimeText() {
+namespace {
+
+std::wstring TimeText() {
     SYSTEMTIME now;
     ::GetLocalTime(&now);
     wchar_t text[32];
@@ -17,6 +19,8 @@ static std::wstring TimeText() {
                now.wMinute, now.wSecond, now.wMilliseconds);
     return text;
 }
+
+} // namespace
 
 void AppendJournal(const std::wstring& file, std::wstring_view call,
                    const std::vector<std::wstring>& arguments, long result) {

@@ -12,13 +12,15 @@
 
 using namespace durvell;
 
-static std::wstring TextOf(const wchar_t* text) {
+namespace {
+
+std::wstring TextOf(const wchar_t* text) {
     return text ? text : L"";
 }
 
 // Runs one call against the current vault. No exception leaves the DLL.
 template <class Work>
-static int RunCall(const wchar_t* function, const std::vector<const wchar_t*>& given, Work work) noexcept {
+int RunCall(const wchar_t* function, const std::vector<const wchar_t*>& given, Work work) noexcept {
     try {
         std::vector<std::wstring> arguments;
         for (const wchar_t* argument : given)
@@ -38,19 +40,21 @@ static int RunCall(const wchar_t* function, const std::vector<const wchar_t*>& g
     }
 }
 
-static bool HasText(const wchar_t* text) {
+bool HasText(const wchar_t* text) {
     return text && *text;
 }
 
-static int RunTransfer(const wchar_t* function, const wchar_t* operation, const wchar_t* localPath,
-                       const wchar_t* remoteName,
-                       Result (Vault::*transfer)(const std::wstring&, const std::wstring&) const) {
+int RunTransfer(const wchar_t* function, const wchar_t* operation, const wchar_t* localPath,
+                const wchar_t* remoteName,
+                Result (Vault::*transfer)(const std::wstring&, const std::wstring&) const) {
     return RunCall(function, {localPath, remoteName}, [&](const Vault& vault, const FaultPlan& faults) {
         if (faults.TransferFails(operation, TextOf(remoteName))) return ResultFault;
         if (!HasText(localPath)) return ResultBadArgument;
         return (vault.*transfer)(localPath, TextOf(remoteName));
     });
 }
+
+} // namespace
 
 extern "C" int dvl_DownloadFile(const wchar_t* localPath, const wchar_t* remoteName, int, int) {
     return RunTransfer(L"dvl_DownloadFile", L"Download", localPath, remoteName, &Vault::Download);

@@ -5,26 +5,29 @@
 #include <algorithm>
 #include <cwchar>
 
+#include "base/Paths.h"
 #include "standins/common/FaultCounter.h"
 #include "standins/common/Text.h"
 
-using namespace standins;
-
 namespace durvell {
 
-static FaultCounter g_calls;
+namespace {
+
+standins::FaultCounter g_calls;
+
+} // namespace
 
 std::wstring ModuleIni() {
-    return ModuleFolder() + L"Durvell.ini";
+    return standins::FileBesideModule(L"Durvell.ini");
 }
 
-FaultPlan::FaultPlan(const std::wstring& vaultFolder) : m_file(EnvironmentText(L"DURVELL_FAULT")) {
-    if (m_file.empty()) m_file = JoinPath(vaultFolder, L"Durvell.ini");
-    if (!FileExists(m_file)) m_file = ModuleIni();
+FaultPlan::FaultPlan(const std::wstring& vaultFolder) : m_file(standins::EnvironmentText(L"DURVELL_FAULT")) {
+    if (m_file.empty()) m_file = base::JoinPath(vaultFolder, L"Durvell.ini");
+    if (!base::FileExists(m_file)) m_file = ModuleIni();
 }
 
 std::wstring FaultPlan::Value(const std::wstring& key) const {
-    return IniText(m_file, L"Fault", key.c_str());
+    return standins::IniText(m_file, L"Fault", key.c_str());
 }
 
 bool FaultPlan::Fails(const wchar_t* operation) const {
@@ -32,10 +35,10 @@ bool FaultPlan::Fails(const wchar_t* operation) const {
 }
 
 bool FaultPlan::TransferFails(const wchar_t* operation, const std::wstring& remoteName) const {
-    constexpr unsigned long longestDelay = 60000;
-    ::Sleep(std::min(std::wcstoul(Value(L"DelayMs").c_str(), nullptr, 10), longestDelay));
+    constexpr unsigned long kLongestDelay = 60000;
+    ::Sleep(std::min(std::wcstoul(Value(L"DelayMs").c_str(), nullptr, 10), kLongestDelay));
     if (Fails(operation)) return true;
-    for (const std::wstring& name : Split(Value(std::wstring(operation) + L"FailNames"), L'|'))
+    for (const std::wstring& name : standins::Split(Value(std::wstring(operation) + L"FailNames"), L'|'))
         if (base::SameText(name, remoteName)) return true;
     return false;
 }

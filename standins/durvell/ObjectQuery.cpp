@@ -1,62 +1,111 @@
 // Selection of objects from an object file.
 #include "standins/durvell/ObjectQuery.h"
 
-#include "base/ComApartment.h"
-#include "standins/common/Text.h"
-#include "standins/durvell/SearchFilter.h"
-#include "standins/durvell/TemporaryFile.h"
-#include "standins/durvell/Xml.h"
+#include <vector>
 
-using namespace standins;
+#include "base/ComApartment.h"
+#include "base/Xml.h"
 
 namespace durvell {
 
-using InstructionPtr = _com_ptr_t<_com_IIID<IXMLDOMProcessingInstruction, &IID_IXMLDOMProcessingInstruction>>;
+namespace {
 
-static XmlElementPtr AddElement(const XmlDocumentPtr& document, IXMLDOMNode* parent, const wchar_t* name) {
-    XmlElementPtr element;
-    XmlNodePtr added;
-    if (SUCCEEDED(document->createElement(_bstr_t(name), &element))) parent->appendChild(element, &added);
-    return added ? element : XmlElementPtr();
+using base::XmlDocumentPtr;
+using base::XmlElementPtr;
+using base::XmlNodePtr;
+
+// The nodes that an XPath below the context selects; none on failure.
+std::vector<XmlNodePtr> Select(IXMLDOMNode* context, const wchar_t* xpath) {
+    std::vector<XmlNodePtr> nodes;
+    base::XmlNodeListPtr list;
+    if (FAILED(context->selectNodes(_bstr_t(xpath), &list)) || !list) return nodes;
+    // One after the other: the list finds a node by its number from the first one on.
+    for (XmlNodePtr node; list->nextNode(&node) == S_OK;)
+        nodes.push_back(node);
+    return nodes;
 }
 
-static bool AddCopy(const XmlElementPtr& parent, IXMLDOMNode* object) {
+// An attribute's text; false when the node has no such attribute.
+bool ReadAttribute(IXMLDOMNode* node, const wchar_t* name, std::wstring* value) {
+    const XmlElementPtr element(node);
+    _variant_t text;
+    if (!element || element->getAttribute(_bstr_t(name), &text) != S_OK || text.vt != VT_BSTR) return false;
+    value->assign(text.bstrVal, ::SysStringLen(text.bstrVal));
+    return true;
+}
+
+// <searchfilter><archivefilter><filter logiccode="and" field="NAME" comparetype="=" value="wang"/>...
+// An object matches when every filter does. A filter compares the object's property whose name is the field,
+// exactly as written, with the value, without regard to case; an object without the property does not match.
+// The codes "and" and "=" are the only ones known, "and" in any case.
+class SearchFilter {
+public:
+    // False when the text is not such a document or holds no filter.
+    bool Parse(const std::wstring& xml) {
+        const XmlDocumentPtr document = base::LoadXmlText(xml);
+        if (!document) return false;
+        for (const XmlNodePtr& filter : Select(document, L"/searchfilter/archivefilter/filter")) {
+            Condition condition;
+            std::wstring logic, comparison;
+            const bool known = ReadAttribute(filter, L"logiccode", &logic) && base::SameText(logic, L"and") &&
+                               ReadAttribute(filter, L"comparetype", &comparison) && comparison == L"=" &&
+                               ReadAttribute(filter, L"field", &condition.field) &&
+                               ReadAttribute(filter, L"value", &condition.value);
+            if (!known) return false;
+            m_conditions.push_back(std::move(condition));
+        }
+        return !m_conditions.empty();
+    }
+
+    // For an "obj" element with "pro" children.
+    bool Matches(IXMLDOMNode* object) const {
+        const std::vector<XmlNodePtr> properties = Select(object, L"pro");
+        for (const Condition& condition : m_conditions)
+            if (!condition.HoldsFor(properties)) return false;
+        return true;
+    }
+
+private:
+    struct Condition {
+        std::wstring field;
+        std::wstring value;
+
+        bool HoldsFor(const std::vector<XmlNodePtr>& properties) const {
+            for (const XmlNodePtr& property : properties) {
+                std::wstring name, text;
+                if (ReadAttribute(property, L"name", &name) && name == field)
+                    return ReadAttribute(property, L"value", &text) && base::SameText(text, value);
+            }
+            return false;
+        }
+    };
+
+    std::vector<Condition> m_conditions;
+};
+
+bool Append(const XmlElementPtr& parent, IXMLDOMNode* object) {
     XmlNodePtr copy, added;
     return SUCCEEDED(object->cloneNode(VARIANT_TRUE, &copy)) && SUCCEEDED(parent->appendChild(copy, &added));
 }
 
-// An empty result document; its type element, which takes the objects, is handed out.
-static XmlDocumentPtr NewResult(const std::wstring& objectType, XmlElementPtr& type) {
-    const XmlDocumentPtr document = NewXmlDocument();
-    InstructionPtr declaration;
-    XmlNodePtr added;
-    if (SUCCEEDED(document->createProcessingInstruction(
-            _bstr_t(L"xml"), _bstr_t(L"version=\"1.0\" encoding=\"UTF-8\""), &declaration)))
-        document->appendChild(declaration, &added);
-    const XmlElementPtr root = AddElement(document, document, L"root");
-    const XmlElementPtr objs = root ? AddElement(document, root, L"objs") : nullptr;
-    type = objs ? AddElement(document, objs, L"type") : nullptr;
-    if (!type || FAILED(type->setAttribute(_bstr_t(L"id"), _variant_t(objectType.c_str())))) return nullptr;
-    return document;
-}
+} // namespace
 
 Result QueryObjects(const std::wstring& objectFile, const std::wstring& objectType,
                     const std::wstring& filterXml, const std::wstring& resultFile) {
     const base::ComApartment apartment;
     SearchFilter filter;
     if (!filter.Parse(filterXml)) return ResultBadFilter;
-    const XmlDocumentPtr objects = LoadXmlFile(objectFile);
+    const XmlDocumentPtr objects = base::LoadXmlFile(objectFile);
     if (!objects) return ResultBadObjectFile;
 
-    XmlElementPtr type;
-    const XmlDocumentPtr result = NewResult(objectType, type);
-    if (!result) return ResultInternal;
+    const XmlDocumentPtr result = base::LoadXmlText(L"<root><objs><type/></objs></root>");
+    const std::vector<XmlNodePtr> types = Select(result, L"/root/objs/type");
+    const XmlElementPtr type(types.at(0));
+    if (FAILED(type->setAttribute(_bstr_t(L"id"), _variant_t(objectType.c_str())))) return ResultInternal;
     for (const XmlNodePtr& object : Select(objects, L"/root/objs/type/obj")) {
-        if (filter.Matches(object) && !AddCopy(type, object)) return ResultInternal;
+        if (filter.Matches(object) && !Append(type, object)) return ResultInternal;
     }
-    TemporaryFile temporary(ParentFolder(resultFile));
-    const bool placed = temporary.FillFrom(result) && temporary.MoveTo(resultFile, MOVEFILE_REPLACE_EXISTING);
-    return placed ? ResultOk : ResultFileError;
+    return base::SaveXml(result, resultFile) ? ResultOk : ResultFileError;
 }
 
 } // namespace durvell

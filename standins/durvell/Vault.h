@@ -8,7 +8,6 @@
 namespace durvell {
 
 // files\          server files by remote name
-// incoming\       uploads under way; a file gets its place in files\ or signlog\ when it is complete
 // objects\X.xml   objects of the type X
 // signlog\        sign records named by time and number (20261122-101500-0001.xml): sorted by arrival
 // session.ini     [Session] UserName=, Password=, Server=: the login that is shared with the library

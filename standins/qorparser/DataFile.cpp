@@ -1,8 +1,6 @@
 // Reading and writing of data files.
 #include "standins/qorparser/DataFile.h"
 
-#include "standins/common/Text.h"
-
 namespace qorparser {
 namespace {
 
@@ -111,15 +109,6 @@ std::wstring WriteEntries(IQORDataModel* model) {
         WriteEntry(xml, entry);
     }
     return xml.append(L"</qordata>\r\n");
-}
-
-bool ReplaceTextFile(const std::wstring& path, const std::wstring& text) {
-    const std::wstring work = path + L".tmp";
-    if (standins::WriteTextFile(work, text) &&
-        ::MoveFileExW(work.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-        return true;
-    ::DeleteFileW(work.c_str());
-    return false;
 }
 
 } // namespace qorparser

@@ -17,7 +17,4 @@ void ReadEntries(const XmlElement& document, QORMODEL::IQORDataModel* model);
 // The model as the text of a data file. Throws _com_error when the model fails.
 std::wstring WriteEntries(QORMODEL::IQORDataModel* model);
 
-// Replaces the file by one with that text in UTF-8, as a whole or not at all; false on failure.
-bool ReplaceTextFile(const std::wstring& path, const std::wstring& text);
-
 } // namespace qorparser

@@ -1,6 +1,7 @@
 // The exported parser classes.
 #include "neighbours/qorparser.h"
 
+#include "base/WholeFile.h"
 #include "standins/qorparser/ConfigModel.h"
 #include "standins/qorparser/DataFile.h"
 
@@ -46,5 +47,7 @@ int CQORXmlDataParser::parseDataFile(const wchar_t* pszFile, QORMODEL::IQORDataM
 }
 
 int CQORXmlDataParser::saveToFile(QORMODEL::IQORDataModel* pModel, const wchar_t* pszFile) {
-    return ParserResult([&] { return pszFile && pModel && ReplaceTextFile(pszFile, WriteEntries(pModel)); });
+    return ParserResult([&] {
+        return pszFile && pModel && base::WriteWholeFile(pszFile, base::ToUtf8(WriteEntries(pModel)));
+    });
 }

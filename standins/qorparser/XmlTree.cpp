@@ -1,7 +1,7 @@
 // Loading of XML files through the system's DOM, and the rules for XML text.
 #include "standins/qorparser/XmlTree.h"
 
-#include "standins/common/XmlDocument.h"
+#include "base/Xml.h"
 
 namespace qorparser {
 namespace {
@@ -11,8 +11,8 @@ constexpr int kMaxDepth = 64;
 using AttributesPtr = _com_ptr_t<_com_IIID<IXMLDOMNamedNodeMap, &IID_IXMLDOMNamedNodeMap>>;
 
 using _com_util::CheckError;
-using standins::XmlElementPtr;
-using standins::XmlNodePtr;
+using base::XmlElementPtr;
+using base::XmlNodePtr;
 
 std::wstring TextOf(const _bstr_t& text) {
     return text.length() ? std::wstring(static_cast<const wchar_t*>(text), text.length()) : std::wstring();
@@ -86,7 +86,7 @@ const XmlElement* XmlElement::Child(std::wstring_view child) const {
 }
 
 std::shared_ptr<const XmlElement> LoadXmlFile(const wchar_t* file) {
-    const standins::XmlDocumentPtr document = standins::LoadXmlFile(file);
+    const base::XmlDocumentPtr document = base::LoadXmlFile(file);
     if (!document) return nullptr;
     XmlElementPtr root;
     CheckError(document->get_documentElement(&root));
@@ -109,31 +109,10 @@ bool IsXmlText(std::wstring_view text) {
 
 void AppendEscaped(std::wstring& xml, std::wstring_view text) {
     for (const wchar_t c : text) {
-        switch (c) {
-        case L'&':
-            xml += L"&amp;";
-            break;
-        case L'<':
-            xml += L"&lt;";
-            break;
-        case L'>':
-            xml += L"&gt;";
-            break;
-        case L'"':
-            xml += L"&quot;";
-            break;
-        case L'\t':
-            xml += L"&#9;";
-            break;
-        case L'\n':
-            xml += L"&#10;";
-            break;
-        case L'\r':
-            xml += L"&#13;";
-            break;
-        default:
+        if (std::wstring_view(L"&<>\"\t\n\r").find(c) == std::wstring_view::npos)
             xml += c;
-        }
+        else
+            xml.append(L"&#").append(std::to_wstring(static_cast<int>(c))).append(L";");
     }
 }
 

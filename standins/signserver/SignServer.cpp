@@ -1,24 +1,76 @@
 // The signing automation server, without a drawing.
-#include "standins/signserver/SignServer.h"
+#include <algorithm>
+#include <cstdio>
+#include <string>
 
+#include "base/Dispatch.h"
+#include "base/Text.h"
+#include "standins/common/ClassFactory.h"
+#include "standins/common/ComServer.h"
 #include "standins/common/FaultCounter.h"
 #include "standins/common/Journal.h"
 #include "standins/common/Text.h"
-#include "standins/signserver/SignatureBook.h"
 
 using namespace base;
 using namespace standins;
 
 namespace signserver {
 
-static FaultCounter g_calls;
+namespace {
 
-static bool IsFaultDue(std::wstring_view method) {
+// One signature: the sign text that names what was signed, and who signed it in which role.
+struct Signature {
+    std::wstring signText;
+    std::wstring userName;
+    std::wstring role;
+};
+
+// All signatures of the process, whichever server object placed them, kept in memory in place of a drawing.
+// Texts are compared without regard to case. Used on one thread, that of the apartment which made the server.
+class SignatureBook {
+public:
+    // A second signature with the same three texts replaces the first.
+    void Place(Signature signature) {
+        Remove(signature);
+        m_signatures.push_back(std::move(signature));
+    }
+    // False when there is no such signature.
+    bool Remove(const Signature& wanted) {
+        return RemoveIf([&wanted](const Signature& signature) {
+            return SameText(signature.signText, wanted.signText) &&
+                   SameText(signature.userName, wanted.userName) && SameText(signature.role, wanted.role);
+        });
+    }
+    void RemoveAll(const std::wstring& signText) {
+        RemoveIf([&signText](const Signature& signature) { return SameText(signature.signText, signText); });
+    }
+    bool Contains(const std::wstring& signText) const {
+        return std::any_of(m_signatures.begin(), m_signatures.end(), [&signText](const Signature& signature) {
+            return SameText(signature.signText, signText);
+        });
+    }
+
+private:
+    template <class Condition>
+    bool RemoveIf(Condition condition) {
+        const auto first = std::remove_if(m_signatures.begin(), m_signatures.end(), condition);
+        const bool found = first != m_signatures.end();
+        m_signatures.erase(first, m_signatures.end());
+        return found;
+    }
+
+    std::vector<Signature> m_signatures;
+};
+
+FaultCounter g_calls;
+SignatureBook g_signatures;
+
+bool IsFaultDue(std::wstring_view method) {
     const std::wstring plan = EnvironmentText(L"SIGNSERVER_FAULT");
     std::wstring calls;
     for (const std::wstring& fault : Split(plan, L';')) {
         const size_t colon = fault.find(L':');
-        if (!base::SameText(std::wstring_view(fault).substr(0, colon), method)) continue;
+        if (!SameText(std::wstring_view(fault).substr(0, colon), method)) continue;
         if (colon == std::wstring::npos)
             calls = L"*";
         else if (calls != L"*")
@@ -27,24 +79,61 @@ static bool IsFaultDue(std::wstring_view method) {
     return g_calls.CountAndTest(plan, method, calls);
 }
 
-static std::wstring JournalFile() {
+std::wstring JournalFile() {
     const std::wstring file = EnvironmentText(L"SIGNSERVER_JOURNAL");
-    return file.empty() ? ModuleFolder() + L"SignServer.log" : file;
+    return file.empty() ? FileBesideModule(L"SignServer.log") : file;
 }
 
-static std::wstring JournalText(const _variant_t& argument) {
+std::wstring JournalText(const _variant_t& argument) {
     if (argument.vt == VT_BSTR) return BstrText(argument);
     wchar_t number[32];
     _snwprintf(number, 32, L"%.10g", argument.dblVal);
     return number;
 }
 
-static std::vector<std::wstring> JournalTexts(const Arguments& arguments) {
+std::vector<std::wstring> JournalTexts(const Arguments& arguments) {
     std::vector<std::wstring> texts;
     for (const _variant_t& argument : arguments)
         texts.push_back(JournalText(argument));
     return texts;
 }
+
+} // namespace
+
+// Methods by name through IDispatch only; each returns VT_I4, 1 for success and 0 for failure:
+//   Login(userName, password, serverAddress, serverPort)  fails without a user name
+//   Sign(five texts, eight numbers)  places a signature: sign text, user and role are texts 1, 4 and 5
+//   SignatureDelete(signText, userName, role)  fails when there is no such signature
+//   DeleteAllSign(signText)  afterwards nothing carries that sign text
+//   SignatureValidate(signText)  1 when a signature carries it
+//   SignatureInvalidDelete(signText)  no signature here ever turns invalid, so none is deleted
+//   Test(text)
+// All but Login and Test fail before a successful Login of the same object.
+//
+// Each call is journaled to the file that SIGNSERVER_JOURNAL names, else to SignServer.log beside the DLL,
+// with "***" in place of a password.
+//
+// SIGNSERVER_FAULT makes calls fail: "Sign:2" the second call of Sign, "Login" every Login; several with ";"
+// between them. Calls are counted per process, from 1 again when the variable's text changes.
+class SignServer final : public DispatchObject<> {
+protected:
+    const DispatchTable& Members() const override;
+
+private:
+    HRESULT Login(Arguments& arguments, VARIANT& result);
+    HRESULT Sign(Arguments& arguments, VARIANT& result);
+    HRESULT SignatureDelete(Arguments& arguments, VARIANT& result);
+    HRESULT DeleteAllSign(Arguments& arguments, VARIANT& result);
+    HRESULT SignatureInvalidDelete(Arguments& arguments, VARIANT& result);
+    HRESULT SignatureValidate(Arguments& arguments, VARIANT& result);
+    HRESULT Test(Arguments& arguments, VARIANT& result);
+
+    // Runs a method's work unless a fault is due, journals the call and gives its answer.
+    template <class Work>
+    HRESULT Run(const wchar_t* method, std::vector<std::wstring> journaled, VARIANT& result, Work work);
+
+    bool m_loggedIn = false;
+};
 
 const DispatchTable& SignServer::Members() const {
     static const DispatchTable members = {
@@ -79,22 +168,21 @@ HRESULT SignServer::Login(Arguments& arguments, VARIANT& result) {
 HRESULT SignServer::Sign(Arguments& arguments, VARIANT& result) {
     return Run(L"Sign", JournalTexts(arguments), result, [&] {
         if (m_loggedIn)
-            SignatureBook::OfProcess().Place(
-                {BstrText(arguments[0]), BstrText(arguments[3]), BstrText(arguments[4])});
+            g_signatures.Place({BstrText(arguments[0]), BstrText(arguments[3]), BstrText(arguments[4])});
         return m_loggedIn;
     });
 }
 
 HRESULT SignServer::SignatureDelete(Arguments& arguments, VARIANT& result) {
     return Run(L"SignatureDelete", JournalTexts(arguments), result, [&] {
-        return m_loggedIn && SignatureBook::OfProcess().Remove(
-                                 {BstrText(arguments[0]), BstrText(arguments[1]), BstrText(arguments[2])});
+        return m_loggedIn &&
+               g_signatures.Remove({BstrText(arguments[0]), BstrText(arguments[1]), BstrText(arguments[2])});
     });
 }
 
 HRESULT SignServer::DeleteAllSign(Arguments& arguments, VARIANT& result) {
     return Run(L"DeleteAllSign", JournalTexts(arguments), result, [&] {
-        if (m_loggedIn) SignatureBook::OfProcess().RemoveAll(BstrText(arguments[0]));
+        if (m_loggedIn) g_signatures.RemoveAll(BstrText(arguments[0]));
         return m_loggedIn;
     });
 }
@@ -105,7 +193,7 @@ HRESULT SignServer::SignatureInvalidDelete(Arguments& arguments, VARIANT& result
 
 HRESULT SignServer::SignatureValidate(Arguments& arguments, VARIANT& result) {
     return Run(L"SignatureValidate", JournalTexts(arguments), result,
-               [&] { return m_loggedIn && SignatureBook::OfProcess().Contains(BstrText(arguments[0])); });
+               [&] { return m_loggedIn && g_signatures.Contains(BstrText(arguments[0])); });
 }
 
 HRESULT SignServer::Test(Arguments& arguments, VARIANT& result) {
@@ -113,3 +201,11 @@ HRESULT SignServer::Test(Arguments& arguments, VARIANT& result) {
 }
 
 } // namespace signserver
+
+std::vector<standins::ServedClass> standins::ServedClasses() {
+    // {851F7888-998A-482B-8AFB-92E9867B0372}
+    constexpr CLSID signServer = {
+        0x851f7888, 0x998a, 0x482b, {0x8a, 0xfb, 0x92, 0xe9, 0x86, 0x7b, 0x03, 0x72}};
+    return {{signServer, L"Brevanix.Brevanix0", L"Signing automation server", false,
+             &MakeFactory<signserver::SignServer>}};
+}
