@@ -11,7 +11,6 @@ OleControl::~OleControl() {
 
 void* OleControl::FindParent(REFIID iid) {
     if (iid == IID_IOleWindow) return static_cast<IOleInPlaceObject*>(this);
-    if (iid == IID_IViewObject) return static_cast<IViewObject2*>(this);
     if (iid == IID_IPersist) return static_cast<IPersistStreamInit*>(this);
     return nullptr;
 }
@@ -30,18 +29,7 @@ STDMETHODIMP OleControl::GetClientSite(IOleClientSite** site) {
 
 STDMETHODIMP OleControl::Close(DWORD) {
     InPlaceDeactivate();
-    if (m_adviseHolder) m_adviseHolder->SendOnClose();
     return S_OK;
-}
-
-STDMETHODIMP OleControl::GetMoniker(DWORD, DWORD, IMoniker** moniker) {
-    if (moniker) *moniker = nullptr;
-    return E_NOTIMPL;
-}
-
-STDMETHODIMP OleControl::GetClipboardData(DWORD, IDataObject** data) {
-    if (data) *data = nullptr;
-    return E_NOTIMPL;
 }
 
 STDMETHODIMP OleControl::DoVerb(LONG verb, LPMSG, IOleClientSite*, LONG, HWND, LPCRECT) {
@@ -61,18 +49,6 @@ STDMETHODIMP OleControl::DoVerb(LONG verb, LPMSG, IOleClientSite*, LONG, HWND, L
     }
 }
 
-STDMETHODIMP OleControl::EnumVerbs(IEnumOLEVERB** verbs) {
-    if (!verbs) return E_POINTER;
-    *verbs = nullptr;
-    return ::OleRegEnumVerbs(ClassId(), verbs);
-}
-
-STDMETHODIMP OleControl::GetUserType(DWORD form, LPOLESTR* type) {
-    if (!type) return E_POINTER;
-    *type = nullptr;
-    return ::OleRegGetUserType(ClassId(), form, type);
-}
-
 STDMETHODIMP OleControl::SetExtent(DWORD aspect, SIZEL* size) {
     if (aspect != DVASPECT_CONTENT) return DV_E_DVASPECT;
     if (!size) return E_POINTER;
@@ -87,49 +63,15 @@ STDMETHODIMP OleControl::GetExtent(DWORD aspect, SIZEL* size) {
     return S_OK;
 }
 
-STDMETHODIMP OleControl::Advise(IAdviseSink* sink, DWORD* connection) {
-    if (!connection) return E_POINTER;
-    *connection = 0;
-    if (!m_adviseHolder) {
-        const HRESULT made = ::CreateOleAdviseHolder(&m_adviseHolder);
-        if (FAILED(made)) return made;
-    }
-    return m_adviseHolder->Advise(sink, connection);
-}
-
-STDMETHODIMP OleControl::Unadvise(DWORD connection) {
-    return m_adviseHolder ? m_adviseHolder->Unadvise(connection) : OLE_E_NOCONNECTION;
-}
-
-STDMETHODIMP OleControl::EnumAdvise(IEnumSTATDATA** connections) {
-    if (!connections) return E_POINTER;
-    *connections = nullptr;
-    return m_adviseHolder ? m_adviseHolder->EnumAdvise(connections) : S_OK;
-}
-
 STDMETHODIMP OleControl::GetMiscStatus(DWORD aspect, DWORD* status) {
     if (!status) return E_POINTER;
     *status = aspect == DVASPECT_CONTENT ? kControlMiscStatus : 0;
     return S_OK;
 }
 
-STDMETHODIMP OleControl::GetControlInfo(CONTROLINFO* info) {
-    if (!info) return E_POINTER;
-    info->hAccel = nullptr;
-    info->cAccel = 0;
-    info->dwFlags = 0;
-    return S_OK;
-}
-
 STDMETHODIMP OleControl::GetClassID(CLSID* clsid) {
     if (!clsid) return E_POINTER;
     *clsid = ClassId();
-    return S_OK;
-}
-
-STDMETHODIMP OleControl::GetSizeMax(ULARGE_INTEGER* size) {
-    if (!size) return E_POINTER;
-    size->QuadPart = 0;
     return S_OK;
 }
 

@@ -32,25 +32,6 @@ LRESULT GridControl::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM 
     }
 }
 
-// For a container that shows no window: the cells' texts in their columns.
-void GridControl::DrawContent(HDC dc, const RECT& bounds) {
-    ::FillRect(dc, &bounds, ::GetSysColorBrush(COLOR_WINDOW));
-    TEXTMETRICW metrics = {};
-    ::GetTextMetricsW(dc, &metrics);
-    RECT line = bounds;
-    for (int row = -1; row < m_model.RowCount() && line.top < bounds.bottom;
-         ++row, line.top += metrics.tmHeight) {
-        line.left = bounds.left;
-        for (int column = 0; column < m_model.ColumnCount(); ++column) {
-            const Column& shown = m_model.ColumnAt(column);
-            const std::wstring& text = row < 0 ? shown.header : m_model.CellText(row, column);
-            line.right = line.left + shown.width;
-            ::DrawTextW(dc, text.c_str(), -1, &line, DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
-            line.left = line.right;
-        }
-    }
-}
-
 } // namespace grid
 
 std::vector<standins::ServedClass> standins::ServedClasses() {

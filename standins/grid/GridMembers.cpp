@@ -1,5 +1,5 @@
 // The grid control's automation members.
-#include "standins/common/Text.h"
+#include "base/Text.h"
 #include "standins/grid/GridControl.h"
 #include "neighbours/QORGridIds.h"
 
@@ -20,12 +20,8 @@ const DispatchTable& GridControl::Members() const {
     constexpr WORD method = DISPATCH_METHOD, get = DISPATCH_PROPERTYGET, put = DISPATCH_PROPERTYPUT;
     static const DispatchTable members = {
         {kGridRowCount, L"RowCount", get, "", call<&GridControl::GetRowCount>},
-        {kGridRowCount, L"RowCount", put, "I", call<&GridControl::PutRowCount>},
-        {kGridColumnCount, L"ColumnCount", get, "", call<&GridControl::GetColumnCount>},
         {kGridColumnCount, L"ColumnCount", put, "I", call<&GridControl::PutColumnCount>},
-        {kGridSortable, L"Sortable", get, "", call<&GridControl::GetSortable>},
-        {kGridSortable, L"Sortable", put, "I", call<&GridControl::PutSortable>},
-        {kGridShowHeader, L"ShowHeader", get, "", call<&GridControl::GetShowHeader>},
+        {kGridSortable, L"Sortable", put, "I", call<&GridControl::TakeZero>},
         {kGridShowHeader, L"ShowHeader", put, "I", call<&GridControl::PutShowHeader>},
         {kGridSetCellText, L"SetCellText", method, "IIS", call<&GridControl::SetCellText>},
         {kGridGetCellText, L"GetCellText", method, "II", call<&GridControl::GetCellText>},
@@ -33,8 +29,8 @@ const DispatchTable& GridControl::Members() const {
         {kGridSetColumnWidth, L"SetColumnWidth", method, "II", call<&GridControl::SetColumnWidth>},
         {kGridSetColumnEditor, L"SetColumnEditor", method, "IS", call<&GridControl::SetColumnEditor>},
         {kGridSetSelectionMode, L"SetSelectionMode", method, "I", call<&GridControl::SetSelectionMode>},
-        {kGridSetFixedColumns, L"SetFixedColumns", method, "I", call<&GridControl::SetFixedCount>},
-        {kGridSetFixedRows, L"SetFixedRows", method, "I", call<&GridControl::SetFixedCount>},
+        {kGridSetFixedColumns, L"SetFixedColumns", method, "I", call<&GridControl::TakeZero>},
+        {kGridSetFixedRows, L"SetFixedRows", method, "I", call<&GridControl::TakeZero>},
         {kGridAppendRow, L"AppendRow", method, "", call<&GridControl::AppendRow>},
         {kGridRowValue, L"RowValue", method, "I", call<&GridControl::GetRowValue>},
         {kGridRowValue, L"RowValue", method, "II", call<&GridControl::SetRowValue>},
@@ -48,23 +44,11 @@ HRESULT GridControl::GetRowCount(Arguments&, VARIANT& result) {
     return GiveLong(result, m_model.RowCount());
 }
 
-HRESULT GridControl::ResizeRows(long count) {
-    if (count < 0 || count > kMostRows) return E_INVALIDARG;
-    m_model.SetRowCount(count);
+HRESULT GridControl::AppendRow(Arguments&, VARIANT&) {
+    if (m_model.RowCount() >= kMostRows) return E_INVALIDARG;
+    m_model.AppendRow();
     m_view.ShowRows();
     return S_OK;
-}
-
-HRESULT GridControl::PutRowCount(Arguments& arguments, VARIANT&) {
-    return ResizeRows(arguments[0].lVal);
-}
-
-HRESULT GridControl::AppendRow(Arguments&, VARIANT&) {
-    return ResizeRows(m_model.RowCount() + 1L);
-}
-
-HRESULT GridControl::GetColumnCount(Arguments&, VARIANT& result) {
-    return GiveLong(result, m_model.ColumnCount());
 }
 
 HRESULT GridControl::PutColumnCount(Arguments& arguments, VARIANT&) {
@@ -73,19 +57,6 @@ HRESULT GridControl::PutColumnCount(Arguments& arguments, VARIANT&) {
     m_model.SetColumnCount(count);
     m_view.ShowColumns();
     return S_OK;
-}
-
-HRESULT GridControl::GetSortable(Arguments&, VARIANT& result) {
-    return GiveLong(result, m_look.sortable);
-}
-
-HRESULT GridControl::PutSortable(Arguments& arguments, VARIANT&) {
-    m_look.sortable = arguments[0].lVal != 0;
-    return S_OK;
-}
-
-HRESULT GridControl::GetShowHeader(Arguments&, VARIANT& result) {
-    return GiveLong(result, m_look.showHeader);
 }
 
 HRESULT GridControl::PutShowHeader(Arguments& arguments, VARIANT&) {
@@ -107,7 +78,7 @@ HRESULT GridControl::SetGridLines(Arguments& arguments, VARIANT&) {
     return S_OK;
 }
 
-HRESULT GridControl::SetFixedCount(Arguments& arguments, VARIANT&) {
+HRESULT GridControl::TakeZero(Arguments& arguments, VARIANT&) {
     return arguments[0].lVal == 0 ? S_OK : E_NOTIMPL;
 }
 

@@ -26,8 +26,8 @@ public:
     bool HasColumn(long column) const { return column >= 0 && column < ColumnCount(); }
     bool HasCell(long row, long column) const { return HasRow(row) && HasColumn(column); }
 
-    // New rows and columns are empty; surplus ones at the end are dropped.
-    void SetRowCount(long count) { m_rows.resize(static_cast<size_t>(count)); }
+    // New rows and columns are empty; surplus columns at the end are dropped.
+    void AppendRow() { m_rows.emplace_back(); }
     void SetColumnCount(long count);
 
     // The row or column must exist.
@@ -40,9 +40,6 @@ public:
 
     bool IsChecked(long row, long column) const { return CellText(row, column) == L"1"; }
     void Toggle(long row, long column) { SetCellText(row, column, IsChecked(row, column) ? L"0" : L"1"); }
-
-    // Orders the rows by a column's texts as the user's language does; equal ones keep their order.
-    void SortBy(long column);
 
 private:
     struct Row {

@@ -80,9 +80,6 @@ LRESULT GridView::OnNotify(NMHDR* header) {
     case LVN_KEYDOWN:
         if (reinterpret_cast<NMLVKEYDOWN*>(header)->wVKey == VK_SPACE) OnSpace();
         return 0;
-    case LVN_COLUMNCLICK:
-        OnColumnClick(reinterpret_cast<NMLISTVIEW*>(header)->iSubItem);
-        return 0;
     default:
         return 0;
     }
@@ -141,12 +138,6 @@ void GridView::OnSpace() {
     const int row = ListView_GetNextItem(m_list, -1, LVNI_FOCUSED);
     for (int column = 0; column < m_model.ColumnCount(); ++column)
         Toggle(row, column);
-}
-
-void GridView::OnColumnClick(int column) {
-    if (!m_look.sortable || !m_model.HasColumn(column)) return;
-    m_model.SortBy(column);
-    ShowRows();
 }
 
 void GridView::Toggle(int row, int column) {

@@ -12,7 +12,6 @@ namespace grid {
 // How the grid looks; kept apart from the window, which comes and goes.
 struct GridLook {
     bool showHeader = true;
-    bool sortable = false;
     bool selectRows = false;
     bool showLines = false;
 };
@@ -46,7 +45,6 @@ private:
     void DrawCheckBox(const NMLVCUSTOMDRAW& draw) const;
     void OnClick(const NMITEMACTIVATE& click);
     void OnSpace();
-    void OnColumnClick(int column);
     void Toggle(int row, int column);
 
     GridModel& m_model;     // outlives the view

@@ -108,11 +108,15 @@ bool IsXmlText(std::wstring_view text) {
 }
 
 void AppendEscaped(std::wstring& xml, std::wstring_view text) {
+    constexpr std::wstring_view kSpecial = L"&<>\"\t\n\r";
+    constexpr const wchar_t* kReferences[] = {L"&amp;", L"&lt;",  L"&gt;", L"&quot;",
+                                              L"&#9;",  L"&#10;", L"&#13;"};
     for (const wchar_t c : text) {
-        if (std::wstring_view(L"&<>\"\t\n\r").find(c) == std::wstring_view::npos)
+        const size_t special = kSpecial.find(c);
+        if (special == std::wstring_view::npos)
             xml += c;
         else
-            xml.append(L"&#").append(std::to_wstring(static_cast<int>(c))).append(L";");
+            xml += kReferences[special];
     }
 }
 

@@ -1,11 +1,26 @@
 // The DWG viewer control and what DwgViewer.dll serves.
-#include "standins/viewer/ViewerControl.h"
-
 #include "standins/common/ClassFactory.h"
 #include "standins/common/ComServer.h"
+#include "standins/common/OleControl.h"
+#include "standins/viewer/Picture.h"
 #include "neighbours/DwgViewerIds.h"
 
 namespace viewer {
+
+// Its one member is kDwgViewerOpen of neighbours/DwgViewerIds.h. A drawing that has no picture that can be
+// shown, or is no drawing or missing, gives 0 and leaves an empty white frame.
+class ViewerControl final : public standins::OleControl {
+protected:
+    const base::DispatchTable& Members() const override;
+    const CLSID& ClassId() const override;
+    LRESULT OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
+
+private:
+    void Draw(HDC dc, const RECT& bounds) const;
+    HRESULT Open(base::Arguments& arguments, VARIANT& result);
+
+    Picture m_picture;
+};
 
 const CLSID& ViewerControl::ClassId() const {
     return varnoke::kDwgViewerClass;
@@ -22,7 +37,7 @@ const base::DispatchTable& ViewerControl::Members() const {
 HRESULT ViewerControl::Open(base::Arguments& arguments, VARIANT& result) {
     m_picture.Clear();
     const bool shown = m_picture.Load(ReadPreview(base::BstrText(arguments[0])));
-    ViewChanged();
+    if (Window()) ::InvalidateRect(Window(), nullptr, TRUE);
     return base::GiveLong(result, shown ? 1 : 0);
 }
 
@@ -34,14 +49,14 @@ LRESULT ViewerControl::OnMessage(HWND window, UINT message, WPARAM wParam, LPARA
         PAINTSTRUCT paint = {};
         RECT client = {};
         ::GetClientRect(window, &client);
-        DrawContent(::BeginPaint(window, &paint), client);
+        Draw(::BeginPaint(window, &paint), client);
         ::EndPaint(window, &paint);
         return 0;
     }
     case WM_PRINTCLIENT: {
         RECT client = {};
         ::GetClientRect(window, &client);
-        DrawContent(reinterpret_cast<HDC>(wParam), client);
+        Draw(reinterpret_cast<HDC>(wParam), client);
         return 0;
     }
     default:
@@ -49,7 +64,7 @@ LRESULT ViewerControl::OnMessage(HWND window, UINT message, WPARAM wParam, LPARA
     }
 }
 
-void ViewerControl::DrawContent(HDC dc, const RECT& bounds) {
+void ViewerControl::Draw(HDC dc, const RECT& bounds) const {
     RECT inside = bounds;
     ::FrameRect(dc, &bounds, ::GetSysColorBrush(COLOR_3DSHADOW));
     ::InflateRect(&inside, -1, -1);

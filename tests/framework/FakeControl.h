@@ -31,7 +31,6 @@ protected:
     LRESULT OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override {
         return DefWindowProcW(window, message, wParam, lParam);
     }
-    void DrawContent(HDC, const RECT&) override {}
 };
 
 // Controls of this class can be created from construction to destruction.
