@@ -20,8 +20,8 @@ TempFolder::TempFolder() {
 
 TempFolder::~TempFolder() {
     std::error_code ignored;
-    for (const auto& entry : fs::recursive_directory_iterator(m_path, ignored))
-        SetFileAttributesW(entry.path().c_str(), FILE_ATTRIBUTE_NORMAL);
+    for (fs::recursive_directory_iterator entry(m_path, ignored), end; entry != end; entry.increment(ignored))
+        SetFileAttributesW(entry->path().c_str(), FILE_ATTRIBUTE_NORMAL);
     fs::remove_all(m_path, ignored);
 }
 
