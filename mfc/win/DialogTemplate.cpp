@@ -1,7 +1,12 @@
 // Copies a dialog template word by word; both the plain and the extended format.
 #include "win/DialogTemplate.h"
 
+#include <algorithm>
+
 namespace {
+
+// Type of the resource that says how a dialog's ActiveX controls begin.
+const LPCTSTR RT_DLGINIT = MAKEINTRESOURCE(240);
 
 constexpr wchar_t hostClass[] = L"AtlAxWin";
 
@@ -22,10 +27,34 @@ bool CDialogTemplate::Load(LPCTSTR lpszTemplateName) {
     if (hTemplate == nullptr) return false;
     m_pSourceStart = m_pSource = static_cast<const WORD*>(::LockResource(hTemplate));
     m_words.reserve(::SizeofResource(hInstance, hResource) / sizeof(WORD));
+    ReadInitEntries(lpszTemplateName);
     ReadHeader();
     for (WORD nItem = 0; nItem < m_nItems; ++nItem)
         ReadItem();
     return true;
+}
+
+// Entries of an id, a message, the length of the data and the data; an id of 0 ends them. Controls start new
+// here, whatever data there is.
+void CDialogTemplate::ReadInitEntries(LPCTSTR lpszTemplateName) {
+    const HINSTANCE hInstance = AfxGetResourceHandle();
+    const HRSRC hResource = ::FindResource(hInstance, lpszTemplateName, RT_DLGINIT);
+    const HGLOBAL hEntries = hResource != nullptr ? ::LoadResource(hInstance, hResource) : nullptr;
+    if (hEntries == nullptr) return;
+    constexpr WORD loadFromStream = 0x376, startNew = 0x378;
+    const auto* pEntry = static_cast<const BYTE*>(::LockResource(hEntries));
+    for (WORD nID; memcpy(&nID, pEntry, sizeof(nID)), nID != 0;) {
+        WORD nMessage = 0;
+        DWORD nLength = 0;
+        memcpy(&nMessage, pEntry + 2, sizeof(nMessage));
+        memcpy(&nLength, pEntry + 4, sizeof(nLength));
+        if (nMessage >= loadFromStream && nMessage <= startNew) m_listed.push_back(nID);
+        pEntry += 8 + nLength;
+    }
+}
+
+bool CDialogTemplate::IsListed(int nID) const {
+    return std::find(m_listed.begin(), m_listed.end(), static_cast<WORD>(nID)) != m_listed.end();
 }
 
 DWORD CDialogTemplate::ReadDword(size_t nOffset) const {
@@ -62,6 +91,7 @@ void CDialogTemplate::ReadHeader() {
     m_nItems = m_pSource[nItems];
     m_bFreePlace = !(dwStyle & (DS_ABSALIGN | DS_CENTER | DS_CENTERMOUSE)) && m_pSource[nItems + 1] == 0 &&
                    m_pSource[nItems + 2] == 0;
+    m_nItemCountAt = nItems;
     Copy(headerWords[m_bExtended]);
     // The modal loop shows the dialog, unless it has ended by then.
     m_words[nStyle + 1] &= static_cast<WORD>(~HIWORD(WS_VISIBLE));
@@ -76,13 +106,15 @@ void CDialogTemplate::ReadHeader() {
 
 void CDialogTemplate::ReadItem() {
     Align();
+    const size_t nStart = m_words.size();
     const size_t nId = idInItem[m_bExtended];
     const int nID = m_bExtended ? static_cast<int>(ReadDword(nId)) : static_cast<short>(m_pSource[nId]);
     Copy(itemWords[m_bExtended]);
     const bool bOleControl = *m_pSource == L'{';
+    const bool bLeftOut = bOleControl && !IsListed(nID);
     if (bOleControl) {
         const auto* pszClass = reinterpret_cast<const wchar_t*>(m_pSource);
-        m_oleControls.push_back(OleControl{nID, pszClass});
+        if (!bLeftOut) m_oleControls.push_back(OleControl{nID, pszClass});
         m_pSource += wcslen(pszClass) + 1;
         m_words.insert(m_words.end(), hostClass, hostClass + _countof(hostClass));
     } else {
@@ -97,4 +129,8 @@ void CDialogTemplate::ReadItem() {
     }
     // Creation data: its size in bytes, then the data.
     Copy(1 + (*m_pSource + 1u) / sizeof(WORD));
+    if (bLeftOut) {
+        m_words.resize(nStart);
+        --m_words[m_nItemCountAt];
+    }
 }

@@ -14,7 +14,8 @@ public:
     };
 
     // Loads the template and turns each control whose window class is a class identifier into an empty
-    // host window with the same id, place and style. False when there is no such template.
+    // host window with the same id, place and style; those that the dialog's initialisation resource doesn't
+    // list are left out. False when there is no such template.
     bool Load(LPCTSTR lpszTemplateName);
 
     LPCDLGTEMPLATE Get() const { return reinterpret_cast<LPCDLGTEMPLATE>(m_words.data()); }
@@ -23,6 +24,8 @@ public:
     bool HasFreePlace() const { return m_bFreePlace; }
 
 private:
+    void ReadInitEntries(LPCTSTR lpszTemplateName);
+    bool IsListed(int nID) const;
     void ReadHeader();
     void ReadItem();
     void Copy(size_t nWords);
@@ -38,4 +41,6 @@ private:
     bool m_bExtended = false;
     bool m_bFreePlace = false;
     WORD m_nItems = 0;
+    size_t m_nItemCountAt = 0;  // where the copy holds its number of items
+    std::vector<WORD> m_listed; // ids in the initialisation resource
 };

@@ -40,9 +40,16 @@ bool OleContainer::CreateControl(HWND hWndHost, LPCWSTR pszClass) {
     // would look for a server program when there is no such control.
     CLSID clsid;
     IUnknownPtr factory;
-    return SUCCEEDED(::CLSIDFromString(pszClass, &clsid)) &&
-           SUCCEEDED(::CoGetClassObject(clsid, CLSCTX_INPROC_SERVER, nullptr, IID_PPV_ARGS(&factory))) &&
-           SUCCEEDED(AtlAxCreateControl(pszClass, hWndHost, nullptr, nullptr));
+    const bool bCreated =
+        SUCCEEDED(::CLSIDFromString(pszClass, &clsid)) &&
+        SUCCEEDED(::CoGetClassObject(clsid, CLSCTX_INPROC_SERVER, nullptr, IID_PPV_ARGS(&factory))) &&
+        SUCCEEDED(AtlAxCreateControl(pszClass, hWndHost, nullptr, nullptr));
+    // The control stands for the host window among the dialog's other controls: which of them cover it is for
+    // the control to say.
+    const HWND hWndControl = ::GetWindow(hWndHost, GW_CHILD);
+    if (hWndControl != nullptr && (::GetWindowLongPtr(hWndControl, GWL_STYLE) & WS_CLIPSIBLINGS))
+        ::SetWindowLongPtr(hWndHost, GWL_STYLE, ::GetWindowLongPtr(hWndHost, GWL_STYLE) | WS_CLIPSIBLINGS);
+    return bCreated;
 }
 
 IUnknown* OleContainer::GetControl(HWND hWndHost) {

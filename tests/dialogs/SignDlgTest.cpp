@@ -2,13 +2,23 @@
 #include "tests/dialogs/DialogFixture.h"
 #include <commctrl.h>
 #include "tests/dialogs/BrokenClass.h"
+#include "tests/support/Visible.h"
 #include "neighbours/DwgViewerIds.h"
 
 namespace {
 
 using namespace tests;
 
-enum { User = 4023, Role = 4025, Seal = 4027, Time = 4031, Format = 4033, Location = 4035, Size = 4037 };
+enum {
+    User = 4023,
+    Role = 4025,
+    Seal = 4027,
+    Time = 4031,
+    Format = 4033,
+    Location = 4035,
+    Size = 4037,
+    Preview = 4045
+};
 enum { Color = 4039, Current = 4042, Opened = 4043, All = 4044, Confirm = 4001, Dismiss = 4002 };
 
 class SignDlg : public DialogFixture {
@@ -60,6 +70,7 @@ TEST_F(SignDlg, Open_WithoutSettingsShowsTheDefaults) {
                   EXPECT_EQ(0, Selection(dialog, Color))
                       << "white is stored by default, but finishing the list selects black";
                   EXPECT_EQ("ccc", Scope(dialog));
+                  EXPECT_TRUE(CanBeSeen(GetDlgItem(dialog, Preview)));
                   for (const int hidden : {4026, static_cast<int>(Seal), 4034, static_cast<int>(Location),
                                            4036, static_cast<int>(Size)})
                       EXPECT_FALSE(Visible(dialog, hidden)) << hidden;

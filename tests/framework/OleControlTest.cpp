@@ -7,6 +7,7 @@
 #include "tests/framework/FakeControl.h"
 #include "tests/support/HostWindow.h"
 #include "tests/support/ObjectCounts.h"
+#include "tests/support/Visible.h"
 
 namespace {
 
@@ -58,6 +59,20 @@ TEST_F(OleControl, Unregistered_LeavesAnEmptyPlace) {
         EXPECT_EQ(OLE_E_BLANK, ThrownStatus([&] { plain.SetProperty(FakeName, VT_I4, 1L); }));
         plain.Detach();
     });
+}
+
+TEST_F(OleControl, TemplateRules_DecideWhatIsMadeAndSeen) {
+    const FakeControlClass registered;
+    CScriptedDialog dialog(IDD_CONTROLS);
+    dialog.m_script = [](CScriptedDialog& d) {
+        EXPECT_EQ(nullptr, ::GetDlgItem(d, IDC_UNLISTED_CONTROL))
+            << "the initialisation resource leaves it out";
+        EXPECT_TRUE(tests::CanBeSeen(::GetDlgItem(d, IDC_FAKE_CONTROL)));
+        EXPECT_FALSE(tests::CanBeSeen(::GetDlgItem(d, IDC_COVERED_CONTROL))) << "a group box lies above it";
+        d.EndDialog(1);
+    };
+    EXPECT_EQ(1, dialog.DoModal());
+    EXPECT_EQ(0, FakeControlClass::LiveObjects());
 }
 
 TEST_F(OleControl, Failures_AreExceptions) {
