@@ -30,9 +30,7 @@ constexpr Token kTokens[] = {
 
 const Token* TokenAt(const wchar_t* text) {
     for (const Token& token : kTokens) {
-        if (wcsncmp(text, token.text, token.length) == 0) {
-            return &token;
-        }
+        if (wcsncmp(text, token.text, token.length) == 0) return &token;
     }
     return nullptr;
 }
@@ -42,22 +40,14 @@ const Token* TokenAt(const wchar_t* text) {
 CalendarDate Today() {
     const __time64_t now = _time64(nullptr);
     tm local = {};
-    if (_localtime64_s(&local, &now) != 0) {
-        return CalendarDate();
-    }
+    if (_localtime64_s(&local, &now) != 0) return CalendarDate();
     return CalendarDate{local.tm_year + 1900, local.tm_mon + 1, local.tm_mday};
 }
 
 DateStyleFault CheckDateStyle(const CString& style) {
-    if (style.IsEmpty()) {
-        return DateStyleFault::Empty;
-    }
-    if (style.Find(L"YYYY") < 0) {
-        return DateStyleFault::NoYear;
-    }
-    if (style.Find(L'M') < 0) {
-        return DateStyleFault::NoMonth;
-    }
+    if (style.IsEmpty()) return DateStyleFault::Empty;
+    if (style.Find(L"YYYY") < 0) return DateStyleFault::NoYear;
+    if (style.Find(L'M') < 0) return DateStyleFault::NoMonth;
     return style.Find(L'D') < 0 ? DateStyleFault::NoDay : DateStyleFault::None;
 }
 

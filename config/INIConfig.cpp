@@ -20,9 +20,9 @@ struct IntegerSetting {
     const wchar_t* section;
     const wchar_t* key;
     long fallback;
-    bool (*m_usable)(long value);
+    bool (*usable)(long value);
 
-    long Normalized(long value) const { return m_usable(value) ? value : fallback; }
+    long Normalized(long value) const { return usable(value) ? value : fallback; }
 };
 
 struct NumberSetting {
@@ -88,9 +88,7 @@ constexpr DWORD kBufferSize = 1023; // with the terminator
 
 CString Read(const CString& path, const TextSetting& setting) {
     return varnoke::Guarded(CString(setting.fallback), [&] {
-        if (path.IsEmpty()) {
-            return CString(setting.fallback);
-        }
+        if (path.IsEmpty()) return CString(setting.fallback);
         wchar_t buffer[kBufferSize] = {};
         ::GetPrivateProfileStringW(setting.section, setting.key, setting.fallback, buffer, kBufferSize, path);
         CString text(buffer);
@@ -106,9 +104,7 @@ CString ReadNamed(const CString& path, const wchar_t* section, const CString& ke
 
 long Read(const CString& path, const IntegerSetting& setting, long failure) {
     return varnoke::Guarded(failure, [&] {
-        if (path.IsEmpty()) {
-            return setting.fallback;
-        }
+        if (path.IsEmpty()) return setting.fallback;
         const UINT value = ::GetPrivateProfileIntW(setting.section, setting.key, setting.fallback, path);
         return setting.Normalized(static_cast<long>(value));
     });
@@ -120,9 +116,7 @@ long Read(const CString& path, const IntegerSetting& setting) {
 
 double Read(const CString& path, const NumberSetting& setting) {
     return varnoke::Guarded(0.0, [&] {
-        if (path.IsEmpty()) {
-            return 0.0;
-        }
+        if (path.IsEmpty()) return 0.0;
         wchar_t buffer[kBufferSize] = {};
         ::GetPrivateProfileStringW(setting.section, setting.key, L"0.00", buffer, kBufferSize, path);
         return _wtof(buffer);
@@ -170,14 +164,14 @@ CString CINIConfig::GetServerIP() const {
 CString CINIConfig::GetServerPort() const {
     return Read(m_path, kServerPort);
 }
-CString CINIConfig::GetSignServer(const CString& key) const {
-    return ReadNamed(m_path, kSignServer, key);
+CString CINIConfig::GetSignServer(const CString& plmUser) const {
+    return ReadNamed(m_path, kSignServer, plmUser);
 }
 CString CINIConfig::GetProgID() const {
     return Read(m_path, kProgID);
 }
-CString CINIConfig::GetDynDisp(const CString& key) const {
-    return ReadNamed(m_path, kDynDisp, key);
+CString CINIConfig::GetDynDisp(const CString& method) const {
+    return ReadNamed(m_path, kDynDisp, method);
 }
 
 CString CINIConfig::GetDesignDoMain() const {

@@ -63,10 +63,10 @@ CModelConfig::~CModelConfig() {
     });
 }
 
-long CModelConfig::Initialize(CWnd* pParentWnd) {
+long CModelConfig::Initialize(CWnd* parent) {
     return Guarded(0L, [&] {
-        m_parentWnd = pParentWnd;
-        const long result = m_iniConfig.Initialize(pParentWnd);
+        m_parentWnd = parent;
+        const long result = m_iniConfig.Initialize(parent);
         if (result == 0) return 0L;
         m_configPath = varnoke::ModelConfigPath();
         return m_configPath.IsEmpty() ? 0L : result;

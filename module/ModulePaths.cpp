@@ -12,9 +12,7 @@ namespace {
 
 CString SettingsFolder() {
     const CString folder = ModuleFolder();
-    if (!folder.IsEmpty()) {
-        return folder;
-    }
+    if (!folder.IsEmpty()) return folder;
     constexpr UINT kSize = 1023;
     wchar_t windowsFolder[kSize] = {};
     const UINT length = ::GetWindowsDirectoryW(windowsFolder, kSize);

@@ -30,9 +30,7 @@ void DeleteRecord(SSignFileDUL* record) {
 template <class Record>
 long Release(Record* record) {
     return varnoke::Guarded(0L, [record] {
-        if (!record) {
-            return 0L;
-        }
+        if (!record) return 0L;
         DeleteRecord(record);
         return 1L;
     });

@@ -28,10 +28,10 @@ CPLMInteract::~CPLMInteract() {
     m_parentWnd = nullptr;
 }
 
-long CPLMInteract::Initialize(CWnd* pParentWnd) {
+long CPLMInteract::Initialize(CWnd* parent) {
     return Guarded(0L, [&] {
-        m_parentWnd = pParentWnd;
-        return m_modelConfig.Initialize(pParentWnd) ? m_modelConfig.Load() : 0L;
+        m_parentWnd = parent;
+        return m_modelConfig.Initialize(parent) ? m_modelConfig.Load() : 0L;
     });
 }
 
@@ -39,109 +39,99 @@ long CPLMInteract::Uninitialize() {
     return Guarded(0L, [&] { return m_modelConfig.Uninitialize(); });
 }
 
-long CPLMInteract::GetModelConfig(CModelConfig** ppModelConfig) {
+long CPLMInteract::GetModelConfig(CModelConfig** modelConfig) {
     return Guarded(0L, [&] {
-        if (ppModelConfig) *ppModelConfig = &m_modelConfig;
-        return ppModelConfig != nullptr;
+        if (modelConfig) *modelConfig = &m_modelConfig;
+        return modelConfig != nullptr;
     });
 }
 
-long CPLMInteract::StartSign(wchar_t* pszXml, wchar_t* pszWorkFolder, SLoginInfo** ppLoginInfo,
-                             SSignType** ppSignStepType, SSignType** ppSignFileType) {
+long CPLMInteract::StartSign(wchar_t* message, wchar_t* workFolder, SLoginInfo** login, SSignType** steps,
+                             SSignType** documents) {
     return Guarded(0L, [&] {
-        return varnoke::StartWithChosenDocument(
-            {pszXml, pszWorkFolder, ppLoginInfo, ppSignStepType, ppSignFileType},
-            varnoke::ParseStartSignMessage, m_modelConfig, m_parentWnd);
+        return varnoke::StartWithChosenDocument({message, workFolder, login, steps, documents},
+                                                varnoke::ParseStartSignMessage, m_modelConfig, m_parentWnd);
     });
 }
 
-long CPLMInteract::StartSignForBackSign(wchar_t* pszXml, wchar_t* pszWorkFolder, SLoginInfo** ppLoginInfo,
-                                        SSignType** ppSignStepType, SSignType** ppSignFileType) {
-    return ParserStartSignXmlString(pszXml, pszWorkFolder, ppLoginInfo, ppSignStepType, ppSignFileType);
+long CPLMInteract::StartSignForBackSign(wchar_t* message, wchar_t* workFolder, SLoginInfo** login,
+                                        SSignType** steps, SSignType** documents) {
+    return ParserStartSignXmlString(message, workFolder, login, steps, documents);
 }
 
-long CPLMInteract::AppendStartSign(wchar_t* pszXml, wchar_t* pszWorkFolder, SLoginInfo** ppLoginInfo,
-                                   SSignType** ppSignStepType, SSignType** ppSignFileType) {
+long CPLMInteract::AppendStartSign(wchar_t* message, wchar_t* workFolder, SLoginInfo** login,
+                                   SSignType** steps, SSignType** documents) {
     return Guarded(0L, [&] {
-        return varnoke::StartWithChosenDocument(
-            {pszXml, pszWorkFolder, ppLoginInfo, ppSignStepType, ppSignFileType},
-            varnoke::MergeStartSignMessage, m_modelConfig, m_parentWnd);
+        return varnoke::StartWithChosenDocument({message, workFolder, login, steps, documents},
+                                                varnoke::MergeStartSignMessage, m_modelConfig, m_parentWnd);
     });
 }
 
-long CPLMInteract::ParserStartSignXmlString(wchar_t* pszXml, wchar_t* pszWorkFolder, SLoginInfo** ppLoginInfo,
-                                            SSignType** ppSignStepType, SSignType** ppSignFileType) {
+long CPLMInteract::ParserStartSignXmlString(wchar_t* message, wchar_t* workFolder, SLoginInfo** login,
+                                            SSignType** steps, SSignType** documents) {
     return Guarded(0L, [&] {
-        return varnoke::StartWithAllDocuments(
-            {pszXml, pszWorkFolder, ppLoginInfo, ppSignStepType, ppSignFileType},
-            varnoke::ParseStartSignMessage);
+        return varnoke::StartWithAllDocuments({message, workFolder, login, steps, documents},
+                                              varnoke::ParseStartSignMessage);
     });
 }
 
-long CPLMInteract::GetLoginInfo(IXMLDOMDocument* pDoc, SLoginInfo** ppLoginInfo) {
-    return Guarded(0L, [&] { return HandOut(ppLoginInfo, [&] { return varnoke::ReadLoginInfo(pDoc); }); });
+long CPLMInteract::GetLoginInfo(IXMLDOMDocument* xml, SLoginInfo** login) {
+    return Guarded(0L, [&] { return HandOut(login, [&] { return varnoke::ReadLoginInfo(xml); }); });
 }
 
-long CPLMInteract::GetSignStepType(IXMLDOMDocument* pDoc, SSignType** ppSignStepType) {
-    return Guarded(0L, [&] { return HandOut(ppSignStepType, [&] { return varnoke::ReadSignSteps(pDoc); }); });
+long CPLMInteract::GetSignStepType(IXMLDOMDocument* xml, SSignType** steps) {
+    return Guarded(0L, [&] { return HandOut(steps, [&] { return varnoke::ReadSignSteps(xml); }); });
 }
 
-long CPLMInteract::GetSignFileType(IXMLDOMDocument* pDoc, SSignType** ppSignFileType) {
-    return Guarded(0L, [&] { return HandOut(ppSignFileType, [&] { return varnoke::ReadSignFiles(pDoc); }); });
+long CPLMInteract::GetSignFileType(IXMLDOMDocument* xml, SSignType** documents) {
+    return Guarded(0L, [&] { return HandOut(documents, [&] { return varnoke::ReadSignFiles(xml); }); });
 }
 
-long CPLMInteract::AppendParserStartSignXmlString(wchar_t* pszXml, wchar_t* pszWorkFolder,
-                                                  SLoginInfo** ppLoginInfo, SSignType** ppSignStepType,
-                                                  SSignType** ppSignFileType) {
+long CPLMInteract::AppendParserStartSignXmlString(wchar_t* message, wchar_t* workFolder, SLoginInfo** login,
+                                                  SSignType** steps, SSignType** documents) {
     return Guarded(0L, [&] {
-        return varnoke::StartWithAllDocuments(
-            {pszXml, pszWorkFolder, ppLoginInfo, ppSignStepType, ppSignFileType},
-            varnoke::MergeStartSignMessage);
+        return varnoke::StartWithAllDocuments({message, workFolder, login, steps, documents},
+                                              varnoke::MergeStartSignMessage);
     });
 }
 
-long CPLMInteract::AppendGetLoginInfo(IXMLDOMDocument* pSourceDoc, IXMLDOMDocument* pTargetDoc,
-                                      SLoginInfo** ppLoginInfo) {
-    return Guarded(0L, [&] {
-        return HandOut(ppLoginInfo, [&] { return varnoke::MergeLoginInfo(pSourceDoc, pTargetDoc); });
-    });
-}
-
-long CPLMInteract::ValidateLoginInfo(SLoginInfo* pSource, SLoginInfo* pTarget) {
-    return Guarded(0L, [&] { return varnoke::IsSameSigner(pSource, pTarget); });
-}
-
-long CPLMInteract::AppendGetSignStepType(IXMLDOMDocument* pSourceDoc, IXMLDOMDocument* pTargetDoc,
-                                         SSignType** ppSignStepType) {
-    return Guarded(0L, [&] {
-        return HandOut(ppSignStepType, [&] { return varnoke::MergeSignSteps(pSourceDoc, pTargetDoc); });
-    });
-}
-
-long CPLMInteract::ValidateSignStepType(SSignType* pSource, SSignType* pTarget) {
-    return Guarded(0L, [&] { return varnoke::AreSameSteps(pSource, pTarget); });
-}
-
-long CPLMInteract::AppendGetSignFileType(IXMLDOMDocument* pSourceDoc, IXMLDOMDocument* pTargetDoc,
-                                         SSignType** ppSignFileType) {
-    return Guarded(0L, [&] {
-        return HandOut(ppSignFileType, [&] { return varnoke::MergeSignFiles(pSourceDoc, pTargetDoc); });
-    });
-}
-
-long CPLMInteract::RemoveExistSignFileTypeFromSource(SSignType* pSource, SSignType* pTarget) {
-    return Guarded(0L, [&] {
-        if (pSource && pTarget) varnoke::RemoveKeptDocuments(*pSource, *pTarget);
-        return pSource && pTarget;
-    });
-}
-
-long CPLMInteract::AppendSignFileTypeToTarget(IXMLDOMDocument* pTargetDoc, SSignType* pSource) {
+long CPLMInteract::AppendGetLoginInfo(IXMLDOMDocument* source, IXMLDOMDocument* target, SLoginInfo** login) {
     return Guarded(0L,
-                   [&] { return pTargetDoc && pSource && varnoke::AppendDocuments(pTargetDoc, *pSource); });
+                   [&] { return HandOut(login, [&] { return varnoke::MergeLoginInfo(source, target); }); });
 }
 
-long CPLMInteract::AddTargetAttribute(wchar_t* pszName, wchar_t* pszValue, IXMLDOMNamedNodeMap* pAttributes,
-                                      IXMLDOMDocument* pTargetDoc) {
-    return Guarded(0L, [&] { return varnoke::AddAttribute(pszName, pszValue, pAttributes, pTargetDoc); });
+long CPLMInteract::ValidateLoginInfo(SLoginInfo* source, SLoginInfo* target) {
+    return Guarded(0L, [&] { return varnoke::IsSameSigner(source, target); });
+}
+
+long CPLMInteract::AppendGetSignStepType(IXMLDOMDocument* source, IXMLDOMDocument* target,
+                                         SSignType** steps) {
+    return Guarded(0L,
+                   [&] { return HandOut(steps, [&] { return varnoke::MergeSignSteps(source, target); }); });
+}
+
+long CPLMInteract::ValidateSignStepType(SSignType* source, SSignType* target) {
+    return Guarded(0L, [&] { return varnoke::AreSameSteps(source, target); });
+}
+
+long CPLMInteract::AppendGetSignFileType(IXMLDOMDocument* source, IXMLDOMDocument* target,
+                                         SSignType** documents) {
+    return Guarded(
+        0L, [&] { return HandOut(documents, [&] { return varnoke::MergeSignFiles(source, target); }); });
+}
+
+long CPLMInteract::RemoveExistSignFileTypeFromSource(SSignType* source, SSignType* target) {
+    return Guarded(0L, [&] {
+        if (source && target) varnoke::RemoveKeptDocuments(*source, *target);
+        return source && target;
+    });
+}
+
+long CPLMInteract::AppendSignFileTypeToTarget(IXMLDOMDocument* target, SSignType* source) {
+    return Guarded(0L, [&] { return target && source && varnoke::AppendDocuments(target, *source); });
+}
+
+long CPLMInteract::AddTargetAttribute(wchar_t* name, wchar_t* value, IXMLDOMNamedNodeMap* attributes,
+                                      IXMLDOMDocument* target) {
+    return Guarded(0L, [&] { return varnoke::AddAttribute(name, value, attributes, target); });
 }

@@ -13,93 +13,92 @@
 using varnoke::Guarded;
 using varnoke::HasText;
 
-long CPLMInteract::DownloadDoc(SSignFileDUL* pList) {
-    return Guarded(0L, [&] { return varnoke::DownloadWithDialog(pList, m_parentWnd); });
+long CPLMInteract::DownloadDoc(SSignFileDUL* list) {
+    return Guarded(0L, [&] { return varnoke::DownloadWithDialog(list, m_parentWnd); });
 }
 
-long CPLMInteract::DownloadDocForBackSign(SSignFileDUL* pList) {
-    return Guarded(0L, [&] { return varnoke::DownloadSilently(pList); });
+long CPLMInteract::DownloadDocForBackSign(SSignFileDUL* list) {
+    return Guarded(0L, [&] { return varnoke::DownloadSilently(list); });
 }
 
-long CPLMInteract::UploadDoc(SSignFileDUL* pList) {
-    return Guarded(0L, [&] { return varnoke::UploadWithDialog(pList, m_parentWnd); });
+long CPLMInteract::UploadDoc(SSignFileDUL* list) {
+    return Guarded(0L, [&] { return varnoke::UploadWithDialog(list, m_parentWnd); });
 }
 
-long CPLMInteract::UploadDocForBackSign(SSignFileDUL* pList) {
-    return Guarded(0L, [&] { return varnoke::UploadSilently(pList); });
+long CPLMInteract::UploadDocForBackSign(SSignFileDUL* list) {
+    return Guarded(0L, [&] { return varnoke::UploadSilently(list); });
 }
 
-long CPLMInteract::DownloadSignFile(wchar_t* pszLocalPath, wchar_t* pszRemoteName) {
+long CPLMInteract::DownloadSignFile(wchar_t* localPath, wchar_t* remoteName) {
     return Guarded(0L, [&] {
-        return HasText(pszLocalPath) && HasText(pszRemoteName) &&
-               varnoke::DownloadFile(pszLocalPath, pszRemoteName);
+        return HasText(localPath) && HasText(remoteName) && varnoke::DownloadFile(localPath, remoteName);
     });
 }
 
-long CPLMInteract::DownloadSignFileEx(wchar_t* pszUserName, wchar_t* pszSealName) {
+long CPLMInteract::DownloadSignFileEx(wchar_t* userName, wchar_t* sealName) {
     return Guarded(0L, [&] {
-        return HasText(pszUserName) && HasText(pszSealName) &&
-               varnoke::DownloadSignatureDrawing(pszUserName, pszSealName);
+        return HasText(userName) && HasText(sealName) &&
+               varnoke::DownloadSignatureDrawing(userName, sealName);
     });
 }
 
-CString CPLMInteract::GetRemoteFileName(wchar_t* pszUserName, wchar_t*) {
-    return Guarded(CString(), [&] { return varnoke::QueryDrawingName(pszUserName); });
+CString CPLMInteract::GetRemoteFileName(wchar_t* userName, wchar_t*) {
+    return Guarded(CString(), [&] { return varnoke::QueryDrawingName(userName); });
 }
 
-CString CPLMInteract::GetProValue(CString strXmlFile, CString strProName) {
-    return varnoke::ReadProperty(strXmlFile, strProName);
+CString CPLMInteract::GetProValue(CString xmlFile, CString propertyName) {
+    return varnoke::ReadProperty(xmlFile, propertyName);
 }
 
-long CPLMInteract::SetDocSignTag(wchar_t* pszFolder, wchar_t* pszFileName, long nValue) {
-    return Guarded(0L, [&] { return varnoke::SetTag(varnoke::kSignTag, pszFolder, pszFileName, nValue); });
+long CPLMInteract::SetDocSignTag(wchar_t* folder, wchar_t* fileName, long value) {
+    return Guarded(0L, [&] { return varnoke::SetTag(varnoke::kSignTag, folder, fileName, value); });
 }
 
-long CPLMInteract::GetDocSignTag(wchar_t* pszFolder, wchar_t* pszFileName, long* pValue) {
-    return Guarded(0L, [&] { return varnoke::GetTag(varnoke::kSignTag, pszFolder, pszFileName, pValue); });
+long CPLMInteract::GetDocSignTag(wchar_t* folder, wchar_t* fileName, long* value) {
+    return Guarded(0L, [&] { return varnoke::GetTag(varnoke::kSignTag, folder, fileName, value); });
 }
 
-long CPLMInteract::SetDocSignLogTag(wchar_t* pszFolder, wchar_t* pszFileName, long nValue) {
-    return Guarded(0L, [&] { return varnoke::SetTag(varnoke::kSignLogTag, pszFolder, pszFileName, nValue); });
+long CPLMInteract::SetDocSignLogTag(wchar_t* folder, wchar_t* fileName, long value) {
+    return Guarded(0L, [&] { return varnoke::SetTag(varnoke::kSignLogTag, folder, fileName, value); });
 }
 
-long CPLMInteract::GetDocSignLogTag(wchar_t* pszFolder, wchar_t* pszFileName, long* pValue) {
-    return Guarded(0L, [&] { return varnoke::GetTag(varnoke::kSignLogTag, pszFolder, pszFileName, pValue); });
+long CPLMInteract::GetDocSignLogTag(wchar_t* folder, wchar_t* fileName, long* value) {
+    return Guarded(0L, [&] { return varnoke::GetTag(varnoke::kSignLogTag, folder, fileName, value); });
 }
 
-long CPLMInteract::SetDocSignTimeTag(wchar_t* pszFolder, wchar_t* pszFileName) {
-    return Guarded(0L, [&] { return varnoke::SetTimeTag(pszFolder, pszFileName); });
+long CPLMInteract::SetDocSignTimeTag(wchar_t* folder, wchar_t* fileName) {
+    return Guarded(0L, [&] { return varnoke::SetTimeTag(folder, fileName); });
 }
 
-long CPLMInteract::GetDocSignTimeTag(wchar_t* pszFolder, wchar_t* pszFileName, long* pChanged) {
-    return Guarded(0L, [&] { return varnoke::HasChanged(pszFolder, pszFileName, pChanged); });
+long CPLMInteract::GetDocSignTimeTag(wchar_t* folder, wchar_t* fileName, long* changed) {
+    return Guarded(0L, [&] { return varnoke::HasChanged(folder, fileName, changed); });
 }
 
-long CPLMInteract::GetDocLastModifyTimeString(wchar_t* pszFolder, wchar_t* pszFileName, wchar_t* pszOut) {
-    return Guarded(0L, [&] { return varnoke::CopyModificationTime(pszFolder, pszFileName, pszOut); });
+long CPLMInteract::GetDocLastModifyTimeString(wchar_t* folder, wchar_t* fileName, wchar_t* time) {
+    return Guarded(0L, [&] { return varnoke::CopyModificationTime(folder, fileName, time); });
 }
 
-long CPLMInteract::UpdateDocsSignTag(SSignFileDUL* pList, long nWithLog) {
-    return Guarded(0L, [&] { return varnoke::ResetTags(pList, nWithLog != 0); });
+long CPLMInteract::UpdateDocsSignTag(SSignFileDUL* list, long withLogTags) {
+    return Guarded(0L, [&] { return varnoke::ResetTags(list, withLogTags != 0); });
 }
 
-long CPLMInteract::UpdateDocsSignTimeTag(SSignFileDUL* pList) {
-    return Guarded(0L, [&] { return varnoke::RecordTimes(pList); });
+long CPLMInteract::UpdateDocsSignTimeTag(SSignFileDUL* list) {
+    return Guarded(0L, [&] { return varnoke::RecordTimes(list); });
 }
 
-long CPLMInteract::WriteDelOrSignLogToLocal(SSignObj* pObj, CString strFolder, CString strKind) {
-    return Guarded(
-        0L, [&] { return varnoke::WriteDelOrSignLogToLocal(m_modelConfig, pObj, strFolder, strKind); });
+long CPLMInteract::WriteDelOrSignLogToLocal(SSignObj* object, CString folder, CString kind) {
+    return Guarded(0L,
+                   [&] { return varnoke::WriteDelOrSignLogToLocal(m_modelConfig, object, folder, kind); });
 }
 
-long CPLMInteract::WriteSignLogToServer(CString strFolder) {
-    return Guarded(1L, [&] { return varnoke::WriteSignLogToServer(strFolder); });
+long CPLMInteract::WriteSignLogToServer(CString folder) {
+    return Guarded(1L, [&] { return varnoke::WriteSignLogToServer(folder); });
 }
 
-long CPLMInteract::NotifyPLMSignForBackSignRet(CStringList& signedNames, wchar_t* pszKeyProName,
-                                               wchar_t* pszWorkFolder, wchar_t* pszRetFile) {
+long CPLMInteract::NotifyPLMSignForBackSignRet(CStringList& signedNames, wchar_t* keyProperty,
+                                               wchar_t* workFolder, wchar_t* returnFile) {
     return Guarded(0L, [&] {
-        return HasText(pszKeyProName) && HasText(pszWorkFolder) && HasText(pszRetFile) &&
-               varnoke::WriteReturnFile(signedNames, pszKeyProName, pszWorkFolder, pszRetFile);
+        return HasText(keyProperty) && HasText(workFolder) && HasText(returnFile) &&
+               varnoke::WriteReturnFile(signedNames, keyProperty, workFolder, returnFile);
     });
 }

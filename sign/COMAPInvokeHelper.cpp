@@ -28,9 +28,7 @@ struct ExceptionInfo : EXCEPINFO {
 /// The status that a method returned: its 32-bit integer, whatever type the server chose for it; 0 when it is
 /// none. An object is not asked for a value.
 long StatusOf(VARIANT& value) {
-    if (value.vt == VT_UI4 || value.vt == VT_UINT) {
-        return static_cast<long>(value.ulVal);
-    }
+    if (value.vt == VT_UI4 || value.vt == VT_UINT) return static_cast<long>(value.ulVal);
     _variant_t integer;
     const HRESULT hr = ::VariantChangeType(&integer, &value, VARIANT_NOVALUEPROP, VT_I4);
     return SUCCEEDED(hr) ? integer.lVal : 0;
@@ -46,13 +44,9 @@ CCOMAPInvokeHelper::~CCOMAPInvokeHelper() {
 }
 
 long CCOMAPInvokeHelper::CreateFromProgID(const wchar_t* progID) {
-    if (!varnoke::HasText(progID)) {
-        return 0;
-    }
+    if (!varnoke::HasText(progID)) return 0;
     CLSID clsid = {};
-    if (FAILED(::CLSIDFromProgID(progID, &clsid))) {
-        return 0;
-    }
+    if (FAILED(::CLSIDFromProgID(progID, &clsid))) return 0;
     _com_ptr_t<_com_IIID<IUnknown, &IID_IUnknown>> spObject;
     if (FAILED(::CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown,
                                   reinterpret_cast<void**>(&spObject))) ||
@@ -68,9 +62,7 @@ long CCOMAPInvokeHelper::CreateFromProgID(const wchar_t* progID) {
 }
 
 long CCOMAPInvokeHelper::SelectMethod(const wchar_t* name) {
-    if (!varnoke::HasText(name) || wcsnlen(name, kNameSize) == kNameSize || !m_server) {
-        return 0;
-    }
+    if (!varnoke::HasText(name) || wcsnlen(name, kNameSize) == kNameSize || !m_server) return 0;
     m_method = 0;
     wchar_t buffer[kNameSize] = {};
     ::lstrcpynW(buffer, name, kNameSize);
@@ -84,9 +76,7 @@ long CCOMAPInvokeHelper::SelectMethod(const wchar_t* name) {
 }
 
 long CCOMAPInvokeHelper::Invoke(VARIANT* arguments, unsigned count, VARIANT* result) {
-    if (!m_server || m_method < 1) {
-        return 0;
-    }
+    if (!m_server || m_method < 1) return 0;
     DISPPARAMS parameters = {arguments, nullptr, count, 0};
     _variant_t returned;
     ExceptionInfo exception;
@@ -103,9 +93,7 @@ long CCOMAPInvokeHelper::Invoke(VARIANT* arguments, unsigned count, VARIANT* res
 
 long CCOMAPInvokeHelper::Call(const wchar_t* method, std::initializer_list<const wchar_t*> texts,
                               std::initializer_list<double> numbers) {
-    if (SelectMethod(method) == 0) {
-        return 0;
-    }
+    if (SelectMethod(method) == 0) return 0;
     std::vector<_variant_t> arguments; // the method's last parameter comes first
     arguments.reserve(texts.size() + numbers.size());
     for (auto number = std::rbegin(numbers); number != std::rend(numbers); ++number) {
@@ -115,8 +103,6 @@ long CCOMAPInvokeHelper::Call(const wchar_t* method, std::initializer_list<const
         arguments.emplace_back(*text);
     }
     _variant_t result;
-    if (Invoke(arguments.data(), static_cast<unsigned>(arguments.size()), &result) == 0) {
-        return 0;
-    }
+    if (Invoke(arguments.data(), static_cast<unsigned>(arguments.size()), &result) == 0) return 0;
     return StatusOf(result);
 }

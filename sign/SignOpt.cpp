@@ -22,9 +22,7 @@ CSignOpt::~CSignOpt() = default;
 long CSignOpt::Initialize(CWnd* parent) {
     return Guarded(0L, [&]() -> long {
         m_parentWnd = parent;
-        if (m_config.Initialize(parent) == 0) {
-            return 0;
-        }
+        if (m_config.Initialize(parent) == 0) return 0;
         const CString progID = m_config.GetProgID();
         return progID.IsEmpty() ? 0 : CreateFromProgID(progID);
     });
@@ -34,16 +32,14 @@ long CSignOpt::Uninitialize() {
     return Guarded(0L, [] { return 1L; });
 }
 
-long CSignOpt::Login(wchar_t* user, wchar_t* password, wchar_t* server) {
+long CSignOpt::Login(wchar_t* plmUser, wchar_t* password, wchar_t* serverAddress) {
     return Guarded(0L, [&]() -> long {
-        if (!HasText(user) || !password || !HasText(server)) {
-            return 0;
-        }
+        if (!HasText(plmUser) || !password || !HasText(serverAddress)) return 0;
         const CString address = m_config.GetServerIP();
-        m_signUser = m_config.GetSignServer(user);
-        m_serverAddress = address.IsEmpty() ? CString(server) : address;
+        m_signUser = m_config.GetSignServer(plmUser);
+        m_serverAddress = address.IsEmpty() ? CString(serverAddress) : address;
         m_serverPort = m_config.GetServerPort();
-        m_plmUser = user;
+        m_plmUser = plmUser;
         m_password = password;
         return Call(m_config.GetDynDisp(L"Login"), {m_signUser, m_password, m_serverAddress, m_serverPort});
     });
@@ -68,9 +64,7 @@ long CSignOpt::Sign(IDispatch* document, SSignInfo* info) {
 
 long CSignOpt::SignForBackSign(IDispatch* document, SSignInfo* info) {
     return Guarded(0L, [&]() -> long {
-        if (!document || !info) {
-            return 0;
-        }
+        if (!document || !info) return 0;
         m_config.GetDelPre(); // reserved: read, without a meaning yet
         const SSignInfo& i = *info;
         return Call(m_config.GetDynDisp(L"Sign"),
@@ -81,9 +75,7 @@ long CSignOpt::SignForBackSign(IDispatch* document, SSignInfo* info) {
 
 long CSignOpt::DeleteSignForBackSign(IDispatch* document, SSignInfo* info) {
     return Guarded(0L, [&]() -> long {
-        if (!document || !info) {
-            return 0;
-        }
+        if (!document || !info) return 0;
         return Call(m_config.GetDynDisp(L"SignatureDelete"),
                     {info->m_strFirstText, info->m_strUserName, info->m_strRole});
     });
@@ -111,29 +103,23 @@ long CSignOpt::ClearInvalidSign(IDispatch* document, wchar_t* text) {
     return Guarded(0L, [&] { return IsComplete(document, text) ? 1L : 0L; });
 }
 
-long CSignOpt::CancelSign(IDispatch* document, wchar_t* first, wchar_t* second, wchar_t* third) {
+long CSignOpt::CancelSign(IDispatch* document, wchar_t* firstText, wchar_t* userName, wchar_t* role) {
     return Guarded(0L, [&]() -> long {
-        if (!document || !HasText(first) || !HasText(second) || !HasText(third)) {
-            return 0;
-        }
+        if (!document || !HasText(firstText) || !HasText(userName) || !HasText(role)) return 0;
         // The configured name only has to be there: what is called is always the deletion of a signature.
-        if (m_config.GetDynDisp(L"CancelSign").IsEmpty()) {
-            return 0;
-        }
-        return Call(L"SignatureDelete", {first, second, third});
+        if (m_config.GetDynDisp(L"CancelSign").IsEmpty()) return 0;
+        return Call(L"SignatureDelete", {firstText, userName, role});
     });
 }
 
-long CSignOpt::ExistSignature(IDispatch* document, wchar_t* first, wchar_t* /*second*/) {
-    return Guarded(0L, [&] { return IsComplete(document, first) ? 1L : 0L; });
+long CSignOpt::ExistSignature(IDispatch* document, wchar_t* firstText, wchar_t* /*userName*/) {
+    return Guarded(0L, [&] { return IsComplete(document, firstText) ? 1L : 0L; });
 }
 
-long CSignOpt::HasInvalidSign(IDispatch* document, long* invalid) {
+long CSignOpt::HasInvalidSign(IDispatch* document, long* invalidCount) {
     return Guarded(0L, [&]() -> long {
-        if (!document || !invalid) {
-            return 0;
-        }
-        *invalid = 0;
+        if (!document || !invalidCount) return 0;
+        *invalidCount = 0;
         return 1;
     });
 }

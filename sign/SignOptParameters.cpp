@@ -19,11 +19,9 @@ namespace {
 constexpr int kShareInfoSize = 1024; // of each buffer of the shared login, with its terminator
 
 /// Prepares an out-pointer, which stays null on failure. Returns whether there is one.
-bool ClearOut(SSignInfo** out) {
-    if (!out) {
-        return false;
-    }
-    *out = nullptr;
+bool ClearOut(SSignInfo** info) {
+    if (!info) return false;
+    *info = nullptr;
     return true;
 }
 
@@ -73,68 +71,58 @@ void FillSealAndDateForm(SSignInfo& info, const CINIConfig& config) {
 
 } // namespace
 
-long CSignOpt::GetSignUserName(wchar_t* buffer) {
+long CSignOpt::GetSignUserName(wchar_t* userName) {
     return Guarded(0L, [&]() -> long {
-        if (!buffer) {
-            return 0;
-        }
+        if (!userName) return 0;
         FetchSharedLogin(m_plmUser, m_password, m_serverAddress);
-        ::lstrcpynW(buffer, m_plmUser, kShareInfoSize);
+        ::lstrcpynW(userName, m_plmUser, kShareInfoSize);
         return 1;
     });
 }
 
-long CSignOpt::GetSignInfo(wchar_t* document, long value, wchar_t* name, SSignInfo** out) {
+long CSignOpt::GetSignInfo(wchar_t* documentPath, long scopeSelectable, wchar_t* role, SSignInfo** info) {
     return Guarded(0L, [&]() -> long {
-        if (!ClearOut(out) || !HasText(document) || !HasText(name)) {
-            return 0;
-        }
+        if (!ClearOut(info) || !HasText(documentPath) || !HasText(role)) return 0;
         FetchSharedLogin(m_plmUser, m_password, m_serverAddress);
-        const CString key = m_plmUser + L"_" + name;
+        const CString key = m_plmUser + L"_" + role;
         const CString drawing = varnoke::JoinPath(varnoke::TemporaryFolder(), key + L".dwg");
 
         CSignDlg dialog(m_parentWnd);
-        dialog.SetScopeSelectable(value);
+        dialog.SetScopeSelectable(scopeSelectable);
         dialog.SetUserName(m_plmUser);
-        dialog.SetRole(name);
+        dialog.SetRole(role);
         dialog.SetSealDrawingPath(drawing);
         dialog.SetSettings(&m_config);
-        if (dialog.DoModal() != IDOK) {
-            return 0;
-        }
-        OwnedRecord<SSignInfo> info(new SSignInfo);
-        FillFromDialog(*info, dialog);
-        FillLocations(*info, m_config);
-        info->m_strTempDrawing = drawing;
-        FillSealAndDateForm(*info, m_config);
-        *out = info.release();
+        if (dialog.DoModal() != IDOK) return 0;
+        OwnedRecord<SSignInfo> made(new SSignInfo);
+        FillFromDialog(*made, dialog);
+        FillLocations(*made, m_config);
+        made->m_strTempDrawing = drawing;
+        FillSealAndDateForm(*made, m_config);
+        *info = made.release();
         return 1;
     });
 }
 
-long CSignOpt::GetSignInfoForBackSign(wchar_t* document, SSignInfo** out) {
+long CSignOpt::GetSignInfoForBackSign(wchar_t* documentPath, SSignInfo** info) {
     return Guarded(0L, [&]() -> long {
-        if (!ClearOut(out) || !HasText(document)) {
-            return 0;
-        }
-        OwnedRecord<SSignInfo> info(new SSignInfo);
-        FillSealAndDateForm(*info, m_config);
-        info->m_strDateText = varnoke::RenderDate(m_config.GetDateStyle(), varnoke::Today());
-        *out = info.release();
+        if (!ClearOut(info) || !HasText(documentPath)) return 0;
+        OwnedRecord<SSignInfo> made(new SSignInfo);
+        FillSealAndDateForm(*made, m_config);
+        made->m_strDateText = varnoke::RenderDate(m_config.GetDateStyle(), varnoke::Today());
+        *info = made.release();
         return 1;
     });
 }
 
-long CSignOpt::GetCancelSignDate(wchar_t* out) {
+long CSignOpt::GetCancelSignDate(wchar_t* date) {
     return Guarded(0L, [&]() -> long {
-        if (!out) {
-            return 0;
-        }
+        if (!date) return 0;
         CString style = m_config.GetDateStyle();
         if (varnoke::CheckDateStyle(style) != varnoke::DateStyleFault::None) {
             style = varnoke::kDefaultDateStyle;
         }
-        ::lstrcpyW(out, varnoke::RenderDate(style, varnoke::Today()));
+        ::lstrcpyW(date, varnoke::RenderDate(style, varnoke::Today()));
         return 1;
     });
 }

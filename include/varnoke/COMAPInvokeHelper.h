@@ -7,8 +7,12 @@
 
 #include <initializer_list>
 
+#include "varnoke/Export.h"
+
 /// Creates an automation server from its ProgID and calls its methods by name. Use on the thread that
 /// initialised COM. Failures give 0 and show nothing.
+///
+/// The base of CSignOpt; hosts see it for its size only: its members are not exported.
 class CCOMAPInvokeHelper {
 public:
     CCOMAPInvokeHelper() = default;
@@ -36,8 +40,8 @@ protected:
               std::initializer_list<double> numbers = {});
 
 private:
+    friend struct varnoke::InterfaceLayout;
+
     _com_ptr_t<_com_IIID<IDispatch, &IID_IDispatch>> m_server;
     DISPID m_method = 0; ///< 0: none selected
 };
-
-static_assert(sizeof(CCOMAPInvokeHelper) == 3 * sizeof(void*), "the vtable, the server and the method");

@@ -7,7 +7,6 @@
 #define VARNOKE_API __declspec(dllimport)
 #endif
 
-#ifdef _MSC_VER
-// Hosts call exported members only; bases and fields of exported classes stay the library's own business.
-#pragma warning(disable : 4251 4275)
-#endif
+namespace varnoke {
+struct InterfaceLayout; // holds the order of the exported classes' fields while the library is built
+}

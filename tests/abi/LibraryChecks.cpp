@@ -2,8 +2,7 @@
 // the library; CString by value; exceptions that must not come out.
 #include <afxwin.h>
 #include <malloc.h>
-#include "varnoke/PLMInteract.h"
-#include "varnoke/SignOpt.h"
+#include "varnoke/Varnoke.h"
 #include "tests/abi/Checks.h"
 #include "tests/support/Message.h"
 

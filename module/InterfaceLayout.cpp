@@ -1,5 +1,6 @@
-// Holds the memory layout of the exported records as 64-bit hosts read it.
-#include "varnoke/SignRecords.h"
+// Holds the memory layout of what crosses the interface, as 64-bit hosts read it; docs/binary-interface.md
+// gives the evidence. Every build compiles this, with the framework that it uses.
+#include "varnoke/Varnoke.h"
 
 #include <cstddef>
 
@@ -8,6 +9,12 @@
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Winvalid-offsetof"
 #endif
+
+static_assert(sizeof(CString) == 0x08, "size of CString");
+static_assert(sizeof(CObject) == 0x08, "size of CObject");
+static_assert(sizeof(CList<void*, void*>) == 0x38, "size of CList");
+static_assert(sizeof(CStringList) == 0x38, "size of CStringList");
+static_assert(offsetof(CWnd, m_hWnd) == 0x40, "CWnd");
 
 static_assert(sizeof(SLoginInfo) == 0x18, "size of SLoginInfo");
 static_assert(offsetof(SLoginInfo, m_strUserName) == 0x00, "SLoginInfo");
@@ -72,6 +79,36 @@ static_assert(offsetof(SSignInfo, m_dDateLocationXCheck) == 0x140, "SSignInfo");
 static_assert(offsetof(SSignInfo, m_dDateLocationYCheck) == 0x148, "SSignInfo");
 static_assert(offsetof(SSignInfo, m_strTempDrawing) == 0x150, "SSignInfo");
 static_assert(offsetof(SSignInfo, m_strReserved4) == 0x158, "SSignInfo");
+
+// The host allocates the exported classes; their fields are the library's own.
+struct varnoke::InterfaceLayout {
+    static_assert(sizeof(CINIConfig) == 0x18, "size of CINIConfig");
+    static_assert(offsetof(CINIConfig, m_path) == 0x08, "CINIConfig");
+    static_assert(offsetof(CINIConfig, m_parentWnd) == 0x10, "CINIConfig");
+
+    static_assert(sizeof(CModelConfig) == 0x38, "size of CModelConfig");
+    static_assert(offsetof(CModelConfig, m_configPath) == 0x08, "CModelConfig");
+    static_assert(offsetof(CModelConfig, m_model) == 0x10, "CModelConfig");
+    static_assert(offsetof(CModelConfig, m_iniConfig) == 0x18, "CModelConfig");
+    static_assert(offsetof(CModelConfig, m_parentWnd) == 0x30, "CModelConfig");
+
+    static_assert(sizeof(CPLMInteract) == 0x48, "size of CPLMInteract");
+    static_assert(offsetof(CPLMInteract, m_modelConfig) == 0x08, "CPLMInteract");
+    static_assert(offsetof(CPLMInteract, m_parentWnd) == 0x40, "CPLMInteract");
+
+    static_assert(sizeof(CCOMAPInvokeHelper) == 3 * sizeof(void*), "size of CCOMAPInvokeHelper");
+    static_assert(offsetof(CCOMAPInvokeHelper, m_server) == 0x08, "CCOMAPInvokeHelper");
+    static_assert(offsetof(CCOMAPInvokeHelper, m_method) == 0x10, "CCOMAPInvokeHelper");
+
+    static_assert(sizeof(CSignOpt) == 0x60, "size of CSignOpt");
+    static_assert(offsetof(CSignOpt, m_config) == 0x18, "CSignOpt");
+    static_assert(offsetof(CSignOpt, m_parentWnd) == 0x30, "CSignOpt");
+    static_assert(offsetof(CSignOpt, m_plmUser) == 0x38, "CSignOpt");
+    static_assert(offsetof(CSignOpt, m_signUser) == 0x40, "CSignOpt");
+    static_assert(offsetof(CSignOpt, m_password) == 0x48, "CSignOpt");
+    static_assert(offsetof(CSignOpt, m_serverAddress) == 0x50, "CSignOpt");
+    static_assert(offsetof(CSignOpt, m_serverPort) == 0x58, "CSignOpt");
+};
 
 #ifdef __GNUC__
 #pragma GCC diagnostic pop
