@@ -4,7 +4,7 @@
 #include <afxwin.h>
 
 #include "bench/Workspace.h"
-#include "module/OwnedRecord.h"
+#include "varnoke/OwnedRecord.h"
 
 namespace bench {
 

@@ -4,7 +4,7 @@
 #include "bench/LogMeasure.h"
 #include "bench/BareParser.h"
 #include "bench/Stopwatch.h"
-#include "module/OwnedRecord.h"
+#include "varnoke/OwnedRecord.h"
 
 namespace bench {
 

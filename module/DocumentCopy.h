@@ -2,7 +2,7 @@
 #pragma once
 
 #include <afxwin.h>
-#include "module/OwnedRecord.h"
+#include "varnoke/OwnedRecord.h"
 
 namespace varnoke {
 

@@ -2,8 +2,6 @@
 #include "module/ModulePaths.h"
 
 #include "base/Paths.h"
-#include "base/WholeFile.h"
-#include "module/Text.h"
 #include "module/VarnokeApp.h"
 
 namespace varnoke {
@@ -31,15 +29,12 @@ CString SettingsFilePath() {
 
 CString ModelConfigPath() {
     // No check of the handle: without the module the host program's own folder is the one to look in.
-    return FolderOfPath(ModuleFilePath(::GetModuleHandleW(L"QORLocal.dll"))) + L"ModelConfig.Xml";
+    const std::wstring folder = base::FolderPrefix(base::ModulePath(::GetModuleHandleW(L"QORLocal.dll")));
+    return CString((folder + L"ModelConfig.Xml").c_str());
 }
 
 CString TemporaryFolder() {
     return CString(base::TemporaryFolderPrefix().c_str());
-}
-
-bool FileExists(const wchar_t* path) {
-    return HasText(path) && base::OpenForReading(path);
 }
 
 CString JoinPath(const CString& folder, const CString& name) {
@@ -48,10 +43,6 @@ CString JoinPath(const CString& folder, const CString& name) {
 
 CString FullPath(const CString& path) {
     return CString(base::FullPath(path).c_str());
-}
-
-CString ModuleFilePath(HMODULE module) {
-    return CString(base::ModulePath(module).c_str());
 }
 
 CString FolderOfPath(const CString& path) {

@@ -19,14 +19,8 @@ CString ModelConfigPath();
 /// The system's temporary folder with its trailing backslash; empty on failure.
 CString TemporaryFolder();
 
-/// Whether the file can be opened for reading; false for a null or empty path and for a folder.
-bool FileExists(const wchar_t* path);
-
 /// Folder and name with exactly the backslash that is missing between them.
 CString JoinPath(const CString& folder, const CString& name);
-
-/// Full path of a loaded module's file (null: the program's); empty on failure.
-CString ModuleFilePath(HMODULE module);
 
 /// The absolute path, with backslashes only; empty on failure.
 CString FullPath(const CString& path);

@@ -2,7 +2,7 @@
 #include "varnoke/SignRecords.h"
 
 #include "module/Guarded.h"
-#include "module/OwnedRecord.h"
+#include "varnoke/OwnedRecord.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 #include "base/ComApartment.h"
 #include "module/Guarded.h"
-#include "module/ModulePaths.h"
+#include "base/Paths.h"
 
 CVarnokeApp theApp;
 
@@ -40,6 +40,6 @@ CString CVarnokeApp::GetModuleFolder() {
 }
 
 int CVarnokeApp::FindModuleFolder() {
-    m_moduleFolder = varnoke::FolderOfPath(varnoke::ModuleFilePath(m_hInstance));
+    m_moduleFolder = base::FolderPrefix(base::ModulePath(m_hInstance)).c_str();
     return m_moduleFolder.IsEmpty() ? 0 : 1;
 }

@@ -3,7 +3,7 @@
 #include <afxwin.h>
 
 #include "plm/StartSignMerge.h"
-#include "module/ModulePaths.h"
+#include "base/WholeFile.h"
 #include "module/Text.h"
 #include "plm/NoCase.h"
 #include "plm/SignDataFolder.h"
@@ -125,7 +125,7 @@ bool MergeStartSignMessage(const wchar_t* xml, const CString& workFolder, StartS
     if (!LoadText(source, xml)) return false;
     MakeSignDataFolder(workFolder);
     const CString path = KeptMessagePath(workFolder);
-    if (!FileExists(path)) return false;
+    if (!base::OpenForReading(path)) return false;
     MakeWritable(path);
     DomDocument target = CreateDocument();
     if (!LoadFile(target, path)) return false;

@@ -3,7 +3,7 @@
 
 #include <afxwin.h>
 
-#include "module/OwnedRecord.h"
+#include "varnoke/OwnedRecord.h"
 #include "plm/XmlDocument.h"
 
 namespace varnoke {

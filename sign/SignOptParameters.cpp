@@ -3,7 +3,7 @@
 
 #include "module/Guarded.h"
 #include "module/ModulePaths.h"
-#include "module/OwnedRecord.h"
+#include "varnoke/OwnedRecord.h"
 #include "module/Text.h"
 #include "neighbours/durvell.h"
 #include "config/DateStyle.h"

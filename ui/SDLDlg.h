@@ -3,7 +3,7 @@
 
 #include <afxwin.h>
 #include <afxcoll.h>
-#include "module/OwnedRecord.h"
+#include "varnoke/OwnedRecord.h"
 #include "ui/QORGrid.h"
 #include "ui/resource.h"
 

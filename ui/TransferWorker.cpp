@@ -4,7 +4,7 @@
 #include <process.h>
 #include "base/ComApartment.h"
 #include "base/ExclusiveLock.h"
-#include "module/ModulePaths.h"
+#include "base/WholeFile.h"
 
 using namespace varnoke;
 
@@ -119,7 +119,7 @@ void CTransferWorker::TransferList() {
 
 // Returns false when the run cannot go on.
 bool CTransferWorker::TransferItem(SSignFileDULItem& item, const CString& strPath) {
-    if (m_variant.needsLocalFile && !FileExists(strPath)) return PostFile(kFileSkipped, strPath);
+    if (m_variant.needsLocalFile && !base::OpenForReading(strPath)) return PostFile(kFileSkipped, strPath);
     if (!PostFile(kFileBegins, strPath)) return false;
     const bool done = m_variant.m_transfer(strPath, item.m_strRemoteName, 0, 0) == 0;
     item.m_nState = done ? 1 : 2;

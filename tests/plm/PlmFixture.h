@@ -3,7 +3,7 @@
 #include <afxwin.h>
 #include <vector>
 #include <gtest/gtest.h>
-#include "module/OwnedRecord.h"
+#include "varnoke/OwnedRecord.h"
 #include "varnoke/PLMInteract.h"
 #include "tests/support/Message.h"
 #include "tests/support/TempFolder.h"

@@ -1,4 +1,4 @@
-// Ownership of an exported record until it is handed to the host.
+// Ownership of the records that the library hands out: each goes back through its own release function.
 #pragma once
 
 #include <memory>
@@ -27,7 +27,7 @@ struct RecordReleaser {
     }
 };
 
-/// A record with everything below it; `release()` hands it to the host.
+/// A record with everything below it; `release()` gives it away.
 template <class Record>
 using OwnedRecord = std::unique_ptr<Record, RecordReleaser>;
 
