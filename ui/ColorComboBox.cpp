@@ -1,13 +1,13 @@
-// Items carry their colour as item data; the last item is always the entry for more colours.
 #include "ui/ColorComboBox.h"
 
 #include <afxdlgs.h>
 #include "base/Owned.h"
-#include "ui/ColorText.h"
 #include "module/ResourceText.h"
 #include "ui/ScaledPixels.h"
 #include "ui/resource.h"
+#include "varnoke/INIConfig.h"
 
+using varnoke::ResourceText;
 using varnoke::ScaledPixels;
 
 namespace {
@@ -19,6 +19,32 @@ const int kTextRight = 100;
 const int kSwatchLeft = 102;
 const int kSwatchMarginX = 5;
 const int kSwatchMarginY = 2;
+
+const COLORREF kStandardColors[] = {RGB(0, 0, 0), RGB(255, 0, 0), RGB(0, 255, 0), RGB(0, 0, 255),
+                                    RGB(255, 255, 255)};
+
+CString ColorText(COLORREF color, const wchar_t* format = L"RGB(%.3d, %.3d, %.3d)") {
+    CString text;
+    text.Format(format, static_cast<int>(GetRValue(color)), static_cast<int>(GetGValue(color)),
+                static_cast<int>(GetBValue(color)));
+    return text;
+}
+
+// With a wide font the text would be cut in the middle of a number.
+CString FittingColorText(HDC dc, COLORREF color, int width) {
+    SIZE size = {};
+    CString text = ColorText(color);
+    if (::GetTextExtentPoint32W(dc, text, text.GetLength(), &size) && size.cx <= width) return text;
+    text = ColorText(color, L"%d,%d,%d");
+    if (::GetTextExtentPoint32W(dc, text, text.GetLength(), &size) && size.cx <= width) return text;
+    return ColorText(color, L"#%.2X%.2X%.2X");
+}
+
+COLORREF StoredTextColor(const CINIConfig* settings) {
+    if (!settings) return RGB(0, 0, 0);
+    const long color = settings->GetDateTextColor();
+    return color < 0 ? RGB(255, 255, 255) : static_cast<COLORREF>(color);
+}
 
 } // namespace
 
@@ -36,7 +62,7 @@ int CColorComboBox::InsertColor(COLORREF color) {
 
 int CColorComboBox::InsertAt(int index, COLORREF color) {
     if (IsFull()) return 0;
-    const int item = InsertString(index, varnoke::ColorText(color));
+    const int item = InsertString(index, ColorText(color));
     return item >= 0 && SetItemData(item, color) != CB_ERR;
 }
 
@@ -48,8 +74,8 @@ int CColorComboBox::SelectColor(int index) {
     return result;
 }
 
-int CColorComboBox::SetPickerOwner(CWnd* pOwner) {
-    m_pickerOwner = pOwner;
+int CColorComboBox::SetPickerOwner(CWnd* owner) {
+    m_pickerOwner = owner;
     return 1;
 }
 
@@ -66,27 +92,28 @@ int CColorComboBox::FinishList() {
 }
 
 int CColorComboBox::FindColor(COLORREF color) const {
-    return FindStringExact(-1, varnoke::ColorText(color));
+    return FindStringExact(-1, ColorText(color));
 }
 
-void CColorComboBox::FillWithStored(COLORREF stored, CWnd* pPickerOwner) {
+void CColorComboBox::FillFromSettings(const CINIConfig* settings, CWnd* pickerOwner) {
+    const COLORREF stored = StoredTextColor(settings);
     ResetContent();
-    for (const COLORREF color : varnoke::kStandardColors)
+    for (const COLORREF color : kStandardColors)
         AddColor(color);
     SelectColor(0);
     const int index = FindColor(stored);
     if (index == CB_ERR) InsertColor(stored);
     SelectColor(index == CB_ERR ? 0 : index);
-    SetPickerOwner(pPickerOwner);
+    SetPickerOwner(pickerOwner);
     // Finishing selects the first entry again, so only a colour outside the standard ones stays selected.
     FinishList();
 }
 
-bool CColorComboBox::GetSelectedColor(int* pColor) const {
+bool CColorComboBox::GetSelectedColor(int* color) const {
     const int index = GetCurSel();
     if (index < 0 || index >= GetCount()) return false;
-    *pColor = static_cast<int>(GetItemData(index));
-    return *pColor >= 0;
+    *color = static_cast<int>(GetItemData(index));
+    return *color >= 0;
 }
 
 void CColorComboBox::PreSubclassWindow() {
@@ -95,18 +122,17 @@ void CColorComboBox::PreSubclassWindow() {
     SetItemHeight(0, ScaledPixels(kItemHeight));
 }
 
-void CColorComboBox::MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
-    lpMeasureItemStruct->itemHeight = ScaledPixels(kItemHeight);
+void CColorComboBox::MeasureItem(LPMEASUREITEMSTRUCT measured) {
+    measured->itemHeight = ScaledPixels(kItemHeight);
 }
 
-void CColorComboBox::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
-    const DRAWITEMSTRUCT& item = *lpDrawItemStruct;
+void CColorComboBox::DrawItem(LPDRAWITEMSTRUCT drawn) {
+    const DRAWITEMSTRUCT& item = *drawn;
     const int count = GetCount();
     if (item.itemID == static_cast<UINT>(-1) || count <= 0 || ::GetFocus() == nullptr) return;
 
     const bool isLast = static_cast<int>(item.itemID) == count - 1;
     const COLORREF color = static_cast<COLORREF>(GetItemData(item.itemID));
-    const CString text = isLast ? varnoke::ResourceText(IDS_MORE_COLORS) : varnoke::ColorText(color);
     const bool isSelected = (item.itemState & ODS_SELECTED) != 0;
 
     const int saved = ::SaveDC(item.hDC);
@@ -116,9 +142,11 @@ void CColorComboBox::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
     ::SetBkColor(item.hDC, ::GetSysColor(isSelected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
     RECT textRect = item.rcItem;
     textRect.left = ScaledPixels(item.hDC, kTextLeft);
+    CString text = ResourceText(IDS_MORE_COLORS);
     if (!isLast) {
         DrawSwatch(item, color);
         textRect.right = ScaledPixels(item.hDC, kTextRight);
+        text = FittingColorText(item.hDC, color, textRect.right - textRect.left);
     }
     ::DrawTextW(item.hDC, text, text.GetLength(), &textRect, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
     ::RestoreDC(item.hDC, saved);

@@ -1,8 +1,10 @@
-// CColorComboBox: an owner-drawn combo box of colour swatches, ending with an entry for more colours.
 #pragma once
 
 #include <afxwin.h>
 
+class CINIConfig;
+
+/// An owner-drawn list of colour swatches that ends with an entry for more colours.
 class CColorComboBox : public CComboBox {
 public:
     CColorComboBox() = default;
@@ -13,21 +15,21 @@ public:
     /// Selects and remembers an item; returns the control's result.
     int SelectColor(int index);
     /// The window that owns the colour picker; borrowed.
-    int SetPickerOwner(CWnd* pOwner);
+    int SetPickerOwner(CWnd* owner);
     /// Completes a filled list: selects the first colour, adds the entry for more colours.
     int FinishList();
 
     /// The index of a colour in the list, CB_ERR when it is missing.
     int FindColor(COLORREF color) const;
-    /// Fills the list with the standard colours and the stored colour, and finishes it. A stored colour
-    /// among the standard ones opens with the first one selected.
-    void FillWithStored(COLORREF stored, CWnd* pPickerOwner);
+    /// Fills the list with the standard colours and the stored one, and finishes it. A stored colour among
+    /// the standard ones opens with the first one selected. Without settings (null) the stored one is black.
+    void FillFromSettings(const CINIConfig* settings, CWnd* pickerOwner);
     /// Whether a colour is selected, and which.
-    bool GetSelectedColor(int* pColor) const;
+    bool GetSelectedColor(int* color) const;
 
 protected:
-    void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override;
-    void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) override;
+    void DrawItem(LPDRAWITEMSTRUCT drawn) override;
+    void MeasureItem(LPMEASUREITEMSTRUCT measured) override;
     void PreSubclassWindow() override;
     afx_msg void OnSelendok();
     DECLARE_MESSAGE_MAP()

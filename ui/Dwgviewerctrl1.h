@@ -1,11 +1,11 @@
-// CDwgviewerctrl1: wrapper of the DWG viewer control in a dialog.
 #pragma once
 
 #include <afxwin.h>
 #include <afxdisp.h>
 
+/// The viewer control in a dialog.
 class CDwgviewerctrl1 : public CWnd {
 public:
     /// Shows a drawing (full path). Throws when the control is missing or refuses the call.
-    long OpenDrawing(const CString& strPath);
+    long OpenDrawing(const CString& path);
 };

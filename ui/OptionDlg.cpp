@@ -1,34 +1,39 @@
-// The colour is kept in the settings file only; nothing is written until OK.
 #include "ui/OptionDlg.h"
 
 #include "varnoke/INIConfig.h"
 #include "module/Guarded.h"
 #include "module/InfoMessage.h"
 #include "module/ResourceText.h"
-#include "ui/StoredColor.h"
 
 BEGIN_MESSAGE_MAP(COptionDlg, CDialog)
+    ON_MESSAGE(WM_ACTIVATE, &COptionDlg::OnActivated)
     ON_BN_CLICKED(IDC_CONFIRM, &COptionDlg::OnOK)
     ON_BN_CLICKED(IDC_DISMISS, &COptionDlg::OnCancel)
 END_MESSAGE_MAP()
 
-COptionDlg::COptionDlg(CWnd* pParent) : CDialog(IDD, pParent) {}
+COptionDlg::COptionDlg(CWnd* parent) : CDialog(IDD, parent) {}
 
-int COptionDlg::SetSettings(CINIConfig* pSettings) {
-    if (!pSettings) return 0;
-    m_settings = pSettings;
+int COptionDlg::SetSettings(CINIConfig* settings) {
+    if (!settings) return 0;
+    m_settings = settings;
     return 1;
 }
 
-void COptionDlg::DoDataExchange(CDataExchange* pDX) {
-    CDialog::DoDataExchange(pDX);
-    DDX_Control(pDX, IDC_TEXT_COLOR, m_comboTextColor);
+void COptionDlg::DoDataExchange(CDataExchange* exchange) {
+    CDialog::DoDataExchange(exchange);
+    DDX_Control(exchange, IDC_TEXT_COLOR, m_comboTextColor);
 }
 
 BOOL COptionDlg::OnInitDialog() {
     CDialog::OnInitDialog();
-    varnoke::Guarded([this] { m_comboTextColor.FillWithStored(varnoke::StoredTextColor(m_settings), this); });
+    varnoke::Guarded([this] { m_comboTextColor.FillFromSettings(m_settings, this); });
     return TRUE;
+}
+
+// The colours are not drawn while no window has the focus.
+LRESULT COptionDlg::OnActivated(WPARAM, LPARAM) {
+    if (m_comboTextColor.GetSafeHwnd()) m_comboTextColor.Invalidate();
+    return Default();
 }
 
 void COptionDlg::OnOK() {

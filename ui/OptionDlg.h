@@ -1,4 +1,3 @@
-// COptionDlg: the option dialog; its only setting is the colour of the date text.
 #pragma once
 
 #include <afxwin.h>
@@ -7,19 +6,21 @@
 
 class CINIConfig;
 
+/// Its only setting is the colour of the date text.
 class COptionDlg : public CDialog {
 public:
     enum { IDD = IDD_OPTION };
 
-    explicit COptionDlg(CWnd* pParent = nullptr);
+    explicit COptionDlg(CWnd* parent = nullptr);
 
     /// Where the colour is read from and written to; borrowed, must outlive the dialog. Null is refused.
-    int SetSettings(CINIConfig* pSettings);
+    int SetSettings(CINIConfig* settings);
 
 protected:
-    void DoDataExchange(CDataExchange* pDX) override;
+    void DoDataExchange(CDataExchange* exchange) override;
     BOOL OnInitDialog() override;
     void OnOK() override;
+    afx_msg LRESULT OnActivated(WPARAM, LPARAM);
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -1,4 +1,3 @@
-// The control is driven through its automation interface.
 #include "ui/QORGrid.h"
 
 #include "neighbours/QORGridIds.h"
@@ -21,8 +20,8 @@ long CQORGrid::GetRowCount() {
     return count;
 }
 
-void CQORGrid::SetColumnCount(long nCount) {
-    SetProperty(kGridColumnCount, VT_I4, nCount);
+void CQORGrid::SetColumnCount(long count) {
+    SetProperty(kGridColumnCount, VT_I4, count);
 }
 
 void CQORGrid::SetUp() {
@@ -34,45 +33,45 @@ void CQORGrid::SetUp() {
     InvokeHelper(kGridSetGridLines, DISPATCH_METHOD, VT_EMPTY, nullptr, kOneNumber, 1L);
 }
 
-void CQORGrid::SetColumnText(long nColumn, const CString& strText) {
-    InvokeHelper(kGridSetColumnText, DISPATCH_METHOD, VT_EMPTY, nullptr, kNumberText, nColumn,
-                 strText.GetString());
+void CQORGrid::SetColumnText(long column, const CString& text) {
+    InvokeHelper(kGridSetColumnText, DISPATCH_METHOD, VT_EMPTY, nullptr, kNumberText, column,
+                 text.GetString());
 }
 
-void CQORGrid::SetColumnWidth(long nColumn, long nPixels) {
-    InvokeHelper(kGridSetColumnWidth, DISPATCH_METHOD, VT_EMPTY, nullptr, kTwoNumbers, nColumn, nPixels);
+void CQORGrid::SetColumnWidth(long column, long pixels) {
+    InvokeHelper(kGridSetColumnWidth, DISPATCH_METHOD, VT_EMPTY, nullptr, kTwoNumbers, column, pixels);
 }
 
-void CQORGrid::SetColumnEditor(long nColumn, const CString& strPlugIn) {
-    InvokeHelper(kGridSetColumnEditor, DISPATCH_METHOD, VT_EMPTY, nullptr, kNumberText, nColumn,
-                 strPlugIn.GetString());
+void CQORGrid::SetColumnEditor(long column, const CString& plugIn) {
+    InvokeHelper(kGridSetColumnEditor, DISPATCH_METHOD, VT_EMPTY, nullptr, kNumberText, column,
+                 plugIn.GetString());
 }
 
-void CQORGrid::SetColumnKind(long nColumn, long nKind) {
-    InvokeHelper(kGridSetColumnKind, DISPATCH_METHOD, VT_EMPTY, nullptr, kTwoNumbers, nColumn, nKind);
+void CQORGrid::SetColumnKind(long column, long kind) {
+    InvokeHelper(kGridSetColumnKind, DISPATCH_METHOD, VT_EMPTY, nullptr, kTwoNumbers, column, kind);
 }
 
 void CQORGrid::AppendRow() {
     InvokeHelper(kGridAppendRow, DISPATCH_METHOD, VT_EMPTY, nullptr, nullptr);
 }
 
-void CQORGrid::SetCellText(long nRow, long nColumn, const CString& strText) {
-    InvokeHelper(kGridSetCellText, DISPATCH_METHOD, VT_EMPTY, nullptr, kTwoNumbersText, nRow, nColumn,
-                 strText.GetString());
+void CQORGrid::SetCellText(long row, long column, const CString& text) {
+    InvokeHelper(kGridSetCellText, DISPATCH_METHOD, VT_EMPTY, nullptr, kTwoNumbersText, row, column,
+                 text.GetString());
 }
 
-CString CQORGrid::GetCellText(long nRow, long nColumn) {
+CString CQORGrid::GetCellText(long row, long column) {
     CString text;
-    InvokeHelper(kGridGetCellText, DISPATCH_METHOD, VT_BSTR, &text, kTwoNumbers, nRow, nColumn);
+    InvokeHelper(kGridGetCellText, DISPATCH_METHOD, VT_BSTR, &text, kTwoNumbers, row, column);
     return text;
 }
 
-void CQORGrid::SetRowValue(long nRow, long nValue) {
-    InvokeHelper(kGridRowValue, DISPATCH_METHOD, VT_EMPTY, nullptr, kTwoNumbers, nRow, nValue);
+void CQORGrid::SetRowValue(long row, long value) {
+    InvokeHelper(kGridRowValue, DISPATCH_METHOD, VT_EMPTY, nullptr, kTwoNumbers, row, value);
 }
 
-long CQORGrid::GetRowValue(long nRow) {
+long CQORGrid::GetRowValue(long row) {
     long value = 0;
-    InvokeHelper(kGridRowValue, DISPATCH_METHOD, VT_I4, &value, kOneNumber, nRow);
+    InvokeHelper(kGridRowValue, DISPATCH_METHOD, VT_I4, &value, kOneNumber, row);
     return value;
 }

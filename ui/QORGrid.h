@@ -1,25 +1,25 @@
-// CQORGrid: wrapper of the grid control in a dialog.
 #pragma once
 
 #include <afxwin.h>
 #include <afxdisp.h>
 
-/// Rows and columns count from 0. Every call throws when the control is missing or refuses it.
+/// The grid control in a dialog. Rows and columns count from 0. Every call throws when the control is missing
+/// or refuses it.
 class CQORGrid : public CWnd {
 public:
     long GetRowCount();
-    void SetColumnCount(long nCount);
+    void SetColumnCount(long count);
     /// Whole rows are selected, nothing is sorted or fixed; called before rows are added.
     void SetUp();
-    void SetColumnText(long nColumn, const CString& strText);
-    void SetColumnWidth(long nColumn, long nPixels);
+    void SetColumnText(long column, const CString& text);
+    void SetColumnWidth(long column, long pixels);
     /// Gives a column the cell editor of a plug-in.
-    void SetColumnEditor(long nColumn, const CString& strPlugIn);
-    void SetColumnKind(long nColumn, long nKind);
+    void SetColumnEditor(long column, const CString& plugIn);
+    void SetColumnKind(long column, long kind);
     void AppendRow();
-    void SetCellText(long nRow, long nColumn, const CString& strText);
-    CString GetCellText(long nRow, long nColumn);
+    void SetCellText(long row, long column, const CString& text);
+    CString GetCellText(long row, long column);
     /// One integer per row, for the caller's use.
-    void SetRowValue(long nRow, long nValue);
-    long GetRowValue(long nRow);
+    void SetRowValue(long row, long value);
+    long GetRowValue(long row);
 };

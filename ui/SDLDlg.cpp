@@ -1,4 +1,3 @@
-// Every row starts chosen and the list confirms itself, so it stays on screen only when it is empty.
 #include "ui/SDLDlg.h"
 
 #include <algorithm>
@@ -21,6 +20,36 @@ const long kChosenColumn = 1;
 const long kFirstAttributeColumn = 2;
 const int kMinColumnWidth = 80; // pixels at 96 dots per inch
 
+// A control and the windows inside it are not painted from construction to destruction: a grid would do it
+// anew for each cell.
+class PaintingOff {
+public:
+    explicit PaintingOff(HWND control) {
+        Add(control, reinterpret_cast<LPARAM>(this));
+        ::EnumChildWindows(control, &PaintingOff::Add, reinterpret_cast<LPARAM>(this));
+        Set(FALSE);
+    }
+    ~PaintingOff() { Set(TRUE); }
+    PaintingOff(const PaintingOff&) = delete;
+    PaintingOff& operator=(const PaintingOff&) = delete;
+
+private:
+    // Painting again would show a hidden window.
+    static BOOL CALLBACK Add(HWND window, LPARAM self) {
+        if (::GetWindowLongPtr(window, GWL_STYLE) & WS_VISIBLE)
+            reinterpret_cast<PaintingOff*>(self)->m_windows.push_back(window);
+        return TRUE;
+    }
+    void Set(BOOL on) {
+        for (HWND window : m_windows) {
+            ::SendMessage(window, WM_SETREDRAW, on, 0);
+            if (on) ::InvalidateRect(window, nullptr, TRUE);
+        }
+    }
+
+    std::vector<HWND> m_windows;
+};
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(CSDLDlg, CDialog)
@@ -28,33 +57,34 @@ BEGIN_MESSAGE_MAP(CSDLDlg, CDialog)
     ON_BN_CLICKED(IDC_DISMISS, &CSDLDlg::OnCancel)
 END_MESSAGE_MAP()
 
-CSDLDlg::CSDLDlg(CWnd* pParent) : CDialog(IDD, pParent) {}
+CSDLDlg::CSDLDlg(CWnd* parent) : CDialog(IDD, parent) {}
 
-int CSDLDlg::SetSignFileType(SSignType* pSignFileType) {
-    if (!pSignFileType) return 0;
-    m_signFileType = pSignFileType;
+int CSDLDlg::SetSignFileType(SSignType* signFileType) {
+    if (!signFileType) return 0;
+    m_signFileType = signFileType;
     return 1;
 }
 
-int CSDLDlg::SetModelConfig(CModelConfig* pModelConfig) {
-    if (!pModelConfig) return 0;
-    m_modelConfig = pModelConfig;
+int CSDLDlg::SetModelConfig(CModelConfig* modelConfig) {
+    if (!modelConfig) return 0;
+    m_modelConfig = modelConfig;
     return 1;
 }
 
-int CSDLDlg::GetSelectedSignFileType(SSignType** ppSignFileType) const {
-    if (!ppSignFileType) return 0;
-    *ppSignFileType = nullptr;
+int CSDLDlg::GetSelectedSignFileType(SSignType** signFileType) const {
+    if (!signFileType) return 0;
+    *signFileType = nullptr;
     if (!m_chosen) return 0;
-    *ppSignFileType = CopyFirstWithProperties(*m_chosen).release();
-    return *ppSignFileType ? 1 : 0;
+    *signFileType = CopyFirstWithProperties(*m_chosen).release();
+    return *signFileType ? 1 : 0;
 }
 
-void CSDLDlg::DoDataExchange(CDataExchange* pDX) {
-    CDialog::DoDataExchange(pDX);
-    DDX_Control(pDX, IDC_DOCUMENT_GRID, m_grid);
+void CSDLDlg::DoDataExchange(CDataExchange* exchange) {
+    CDialog::DoDataExchange(exchange);
+    DDX_Control(exchange, IDC_DOCUMENT_GRID, m_grid);
 }
 
+// Every row starts chosen and the list confirms itself, so it stays on screen only when it is empty.
 BOOL CSDLDlg::OnInitDialog() {
     CDialog::OnInitDialog();
     Guarded([this] { FillGrid(); });
@@ -68,6 +98,7 @@ void CSDLDlg::FillGrid() {
     long attributes = 0;
     if (!config || FAILED(config->GetCount(&attributes)) || attributes <= 0) return;
 
+    const PaintingOff paintingOff(m_grid);
     m_grid.SetUp();
     m_grid.SetColumnCount(attributes + kFirstAttributeColumn);
     AddColumn(kNumberColumn, ResourceText(IDS_COLUMN_NUMBER), CString());
@@ -96,16 +127,16 @@ void CSDLDlg::FillGrid() {
     }
 }
 
-void CSDLDlg::AddColumn(long nColumn, const CString& strText, const CString& strKey) {
-    m_grid.SetColumnText(nColumn, strText);
-    m_columnKeys.AddTail(strKey);
+void CSDLDlg::AddColumn(long column, const CString& text, const CString& key) {
+    m_grid.SetColumnText(column, text);
+    m_columnKeys.AddTail(key);
 }
 
-void CSDLDlg::AddRow(const SSignObj& obj, long nPosition) {
+void CSDLDlg::AddRow(const SSignObj& object, long position) {
     m_grid.AppendRow();
     const long number = m_grid.GetRowCount();
     const long row = number - 1;
-    m_grid.SetRowValue(row, nPosition);
+    m_grid.SetRowValue(row, position);
     CString text;
     text.Format(L"%ld", number);
     m_grid.SetCellText(row, kNumberColumn, text);
@@ -114,7 +145,7 @@ void CSDLDlg::AddRow(const SSignObj& obj, long nPosition) {
     for (POSITION pos = m_columnKeys.GetHeadPosition(); pos; ++column) {
         const CString& key = m_columnKeys.GetNext(pos);
         if (column < kFirstAttributeColumn) continue;
-        const CString value = PropertyValue(obj, key);
+        const CString value = PropertyValue(object, key);
         if (!value.IsEmpty()) m_grid.SetCellText(row, column, value);
     }
 }
@@ -131,8 +162,8 @@ void CSDLDlg::OnOK() {
     });
 }
 
-bool CSDLDlg::IsChosen(long nRow) {
-    return m_grid.GetCellText(nRow, kChosenColumn).CompareNoCase(L"1") == 0;
+bool CSDLDlg::IsChosen(long row) {
+    return m_grid.GetCellText(row, kChosenColumn).CompareNoCase(L"1") == 0;
 }
 
 UINT CSDLDlg::FindFault() {

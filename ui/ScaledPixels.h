@@ -1,4 +1,3 @@
-// Lengths that are given in pixels, on screens of any resolution.
 #pragma once
 
 #include <afxwin.h>

@@ -1,4 +1,3 @@
-// The sign dialog's inputs, results and confirmation; SignDlgFill.cpp fills its controls.
 #include "ui/SignDlg.h"
 
 #include "varnoke/INIConfig.h"
@@ -33,6 +32,7 @@ CalendarDate PickedDate(const CDateTimeCtrl& picker) {
 } // namespace
 
 BEGIN_MESSAGE_MAP(CSignDlg, CDialog)
+    ON_MESSAGE(WM_ACTIVATE, &CSignDlg::OnActivated)
     ON_BN_CLICKED(IDC_CONFIRM, &CSignDlg::OnOK)
     ON_BN_CLICKED(IDC_DISMISS, &CSignDlg::OnCancel)
     ON_BN_CLICKED(IDC_SCOPE_CURRENT, &CSignDlg::OnClickedScopeCurrent)
@@ -40,16 +40,16 @@ BEGIN_MESSAGE_MAP(CSignDlg, CDialog)
     ON_BN_CLICKED(IDC_SCOPE_ALL, &CSignDlg::OnClickedScopeAll)
 END_MESSAGE_MAP()
 
-CSignDlg::CSignDlg(CWnd* pParent) : CDialog(IDD, pParent) {}
+CSignDlg::CSignDlg(CWnd* parent) : CDialog(IDD, parent) {}
 
-int CSignDlg::SetScopeSelectable(int nSelectable) {
-    m_scopeSelectable = nSelectable;
+int CSignDlg::SetScopeSelectable(int selectable) {
+    m_scopeSelectable = selectable;
     return 1;
 }
 
-int CSignDlg::SetUserName(const CString& strUserName) {
+int CSignDlg::SetUserName(const CString& userName) {
     return Guarded(0, [&] {
-        m_userNameIn = strUserName;
+        m_userNameIn = userName;
         if (!m_userNameIn.IsEmpty()) return 1;
         wchar_t name[2048] = {};
         DWORD size = 2047;
@@ -59,25 +59,25 @@ int CSignDlg::SetUserName(const CString& strUserName) {
     });
 }
 
-int CSignDlg::SetRole(const CString& strRole) {
+int CSignDlg::SetRole(const CString& role) {
     return Guarded(0, [&] {
-        m_roleIn = strRole;
+        m_roleIn = role;
         if (m_roleIn.IsEmpty()) m_roleIn = L"设计";
         return 1;
     });
 }
 
-int CSignDlg::SetSealDrawingPath(const CString& strPath) {
+int CSignDlg::SetSealDrawingPath(const CString& path) {
     return Guarded(0, [&] {
-        if (strPath.IsEmpty()) return 0;
-        m_sealDrawingPath = strPath;
+        if (path.IsEmpty()) return 0;
+        m_sealDrawingPath = path;
         return 1;
     });
 }
 
-int CSignDlg::SetSettings(CINIConfig* pSettings) {
-    if (!pSettings) return 0;
-    m_settings = pSettings;
+int CSignDlg::SetSettings(CINIConfig* settings) {
+    if (!settings) return 0;
+    m_settings = settings;
     return 1;
 }
 
@@ -93,17 +93,23 @@ void CSignDlg::OnClickedScopeAll() {
     OnScopeClicked(kScopeAll, m_boxAll);
 }
 
-void CSignDlg::OnScopeClicked(int nScope, const CButton& box) {
-    if (m_scopeSelectable != 0) ShowScope(ScopeAfterClick(nScope, box.GetCheck() == BST_CHECKED));
+void CSignDlg::OnScopeClicked(int scope, const CButton& box) {
+    if (m_scopeSelectable != 0) ShowScope(ScopeAfterClick(scope, box.GetCheck() == BST_CHECKED));
 }
 
-void CSignDlg::ShowScope(int nScope) {
-    const ScopeState state = ScopeBoxes(nScope);
+void CSignDlg::ShowScope(int scope) {
+    const ScopeState state = ScopeBoxes(scope);
     CButton* const boxes[kScopeCount] = {&m_boxCurrent, &m_boxOpened, &m_boxAll};
     for (int i = 0; i < kScopeCount; ++i) {
         boxes[i]->EnableWindow(state.enabled[i]);
         boxes[i]->SetCheck(state.checked[i] ? BST_CHECKED : BST_UNCHECKED);
     }
+}
+
+// The colours are not drawn while no window has the focus.
+LRESULT CSignDlg::OnActivated(WPARAM, LPARAM) {
+    if (m_comboTextColor.GetSafeHwnd()) m_comboTextColor.Invalidate();
+    return Default();
 }
 
 void CSignDlg::OnOK() {

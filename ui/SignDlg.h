@@ -1,4 +1,3 @@
-// CSignDlg: the dialog in which the user confirms the parameters of one signature.
 #pragma once
 
 #include <afxwin.h>
@@ -10,19 +9,20 @@
 
 class CINIConfig;
 
+/// The dialog in which the user confirms the parameters of one signature.
 /// Use: construct, call the setters in their order, DoModal(), and after IDOK read the results.
 class CSignDlg : public CDialog {
 public:
     enum { IDD = IDD_SIGN };
 
-    explicit CSignDlg(CWnd* pParent = nullptr);
+    explicit CSignDlg(CWnd* parent = nullptr);
 
     /// Inputs. Each returns 1, or 0 on failure.
-    int SetScopeSelectable(int nSelectable);        // nonzero: the user may change the scope
-    int SetUserName(const CString& strUserName);    // empty: the Windows logon name
-    int SetRole(const CString& strRole);            // empty: the designer's role
-    int SetSealDrawingPath(const CString& strPath); // empty: refused
-    int SetSettings(CINIConfig* pSettings);         // borrowed, must outlive the dialog; null: refused
+    int SetScopeSelectable(int selectable);      // nonzero: the user may change the scope
+    int SetUserName(const CString& userName);    // empty: the Windows logon name
+    int SetRole(const CString& role);            // empty: the designer's role
+    int SetSealDrawingPath(const CString& path); // empty: refused
+    int SetSettings(CINIConfig* settings);       // borrowed, must outlive the dialog; null: refused
 
     /// Results of a dialog that ended with IDOK.
     CString UserName() const { return m_userNameOut; }
@@ -36,9 +36,10 @@ public:
     int Scope() const { return m_scope; }                // 1 current document, 2 opened, 3 all
 
 protected:
-    void DoDataExchange(CDataExchange* pDX) override;
+    void DoDataExchange(CDataExchange* exchange) override;
     BOOL OnInitDialog() override;
     void OnOK() override;
+    afx_msg LRESULT OnActivated(WPARAM, LPARAM);
     afx_msg void OnClickedScopeCurrent();
     afx_msg void OnClickedScopeOpened();
     afx_msg void OnClickedScopeAll();
@@ -51,8 +52,8 @@ private:
     void FillDateLocations();
     void FillFontSizes();
     void InitScopeBoxes();
-    void ShowScope(int nScope);
-    void OnScopeClicked(int nScope, const CButton& box);
+    void ShowScope(int scope);
+    void OnScopeClicked(int scope, const CButton& box);
     varnoke::SignInput ReadInput() const;
     void Collect(const varnoke::SignInput& input);
     void WriteBack();

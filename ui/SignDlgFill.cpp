@@ -1,10 +1,8 @@
-// How the sign dialog's controls start: the inputs, the settings and the fixed choices.
 #include "ui/SignDlg.h"
 
 #include "varnoke/INIConfig.h"
 #include "module/Guarded.h"
 #include "config/DateStyle.h"
-#include "ui/StoredColor.h"
 #include "ui/SignScope.h"
 
 using namespace varnoke;
@@ -35,20 +33,20 @@ void SelectOrInsert(CComboBox& combo, const CString& text) {
 
 } // namespace
 
-void CSignDlg::DoDataExchange(CDataExchange* pDX) {
-    CDialog::DoDataExchange(pDX);
-    DDX_Control(pDX, IDC_USER_NAME, m_editUserName);
-    DDX_Control(pDX, IDC_ROLE, m_editRole);
-    DDX_Control(pDX, IDC_SEAL_NAME, m_editSealName);
-    DDX_Control(pDX, IDC_PREVIEW, m_preview);
-    DDX_Control(pDX, IDC_SIGN_TIME, m_pickerSignTime);
-    DDX_Control(pDX, IDC_DATE_FORMAT, m_comboDateFormat);
-    DDX_Control(pDX, IDC_DATE_LOCATION, m_comboDateLocation);
-    DDX_Control(pDX, IDC_FONT_SIZE, m_comboFontSize);
-    DDX_Control(pDX, IDC_TEXT_COLOR, m_comboTextColor);
-    DDX_Control(pDX, IDC_SCOPE_CURRENT, m_boxCurrent);
-    DDX_Control(pDX, IDC_SCOPE_OPENED, m_boxOpened);
-    DDX_Control(pDX, IDC_SCOPE_ALL, m_boxAll);
+void CSignDlg::DoDataExchange(CDataExchange* exchange) {
+    CDialog::DoDataExchange(exchange);
+    DDX_Control(exchange, IDC_USER_NAME, m_editUserName);
+    DDX_Control(exchange, IDC_ROLE, m_editRole);
+    DDX_Control(exchange, IDC_SEAL_NAME, m_editSealName);
+    DDX_Control(exchange, IDC_PREVIEW, m_preview);
+    DDX_Control(exchange, IDC_SIGN_TIME, m_pickerSignTime);
+    DDX_Control(exchange, IDC_DATE_FORMAT, m_comboDateFormat);
+    DDX_Control(exchange, IDC_DATE_LOCATION, m_comboDateLocation);
+    DDX_Control(exchange, IDC_FONT_SIZE, m_comboFontSize);
+    DDX_Control(exchange, IDC_TEXT_COLOR, m_comboTextColor);
+    DDX_Control(exchange, IDC_SCOPE_CURRENT, m_boxCurrent);
+    DDX_Control(exchange, IDC_SCOPE_OPENED, m_boxOpened);
+    DDX_Control(exchange, IDC_SCOPE_ALL, m_boxAll);
 }
 
 BOOL CSignDlg::OnInitDialog() {
@@ -66,7 +64,7 @@ void CSignDlg::FillControls() {
     FillDateFormats();
     FillDateLocations();
     FillFontSizes();
-    m_comboTextColor.FillWithStored(StoredTextColor(m_settings), this);
+    m_comboTextColor.FillFromSettings(m_settings, this);
     InitScopeBoxes();
 }
 

@@ -1,4 +1,3 @@
-// The order of the checks decides which message the user sees first.
 #include "ui/SignInput.h"
 
 #include "config/DateStyle.h"
@@ -26,6 +25,7 @@ UINT FindDateFormatFault(const CString& format) {
 
 } // namespace
 
+// The order decides which message the user sees first.
 UINT FindSignFault(const SignInput& input) {
     if (input.userName.IsEmpty()) return IDS_NO_USER_NAME;
     if (input.role.IsEmpty()) return IDS_NO_ROLE;

@@ -1,10 +1,10 @@
-// What the user entered in the sign dialog, and whether it can be signed with.
 #pragma once
 
 #include <afxwin.h>
 
 namespace varnoke {
 
+/// What the user entered in the sign dialog.
 struct SignInput {
     CString userName;
     CString role;

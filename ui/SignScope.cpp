@@ -1,4 +1,3 @@
-// A box that a wider scope includes is checked and disabled.
 #include "ui/SignScope.h"
 
 namespace varnoke {

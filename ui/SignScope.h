@@ -1,9 +1,8 @@
-// The scope of a signing run and the three check boxes that show it: a wider scope includes the narrower
-// ones.
 #pragma once
 
 namespace varnoke {
 
+/// The scope of a signing run; a wider one includes the narrower ones.
 enum Scope : int { kScopeCurrent = 1, kScopeOpened = 2, kScopeAll = 3 };
 constexpr int kScopeCount = 3;
 

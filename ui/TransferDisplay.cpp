@@ -1,4 +1,3 @@
-// Every line keeps the time at which it was logged, however long it waits.
 #include "ui/TransferDisplay.h"
 
 #include "ui/TransferRules.h"
@@ -13,42 +12,48 @@ const int kLogLimit = 0x7ffffffe;
 
 } // namespace
 
-void CTransferDisplay::Exchange(CDataExchange* pDX, const TransferVariant& variant) {
-    DDX_Control(pDX, variant.fileLabel, m_labelFile);
-    DDX_Control(pDX, variant.fileBar, m_barFile);
-    DDX_Control(pDX, variant.totalLabel, m_labelTotal);
-    DDX_Control(pDX, variant.totalBar, m_barTotal);
-    DDX_Control(pDX, variant.log, m_editLog);
+void CTransferDisplay::Exchange(CDataExchange* exchange, const TransferVariant& variant) {
+    DDX_Control(exchange, variant.fileLabel, m_labelFile);
+    DDX_Control(exchange, variant.fileBar, m_barFile);
+    DDX_Control(exchange, variant.totalLabel, m_labelTotal);
+    DDX_Control(exchange, variant.totalBar, m_barTotal);
+    DDX_Control(exchange, variant.log, m_editLog);
 }
 
-void CTransferDisplay::Start(const CString& strFile, const CString& strTotal, int nCount) {
-    m_paced = nCount > kShortList;
-    m_labelFile.SetWindowText(strFile);
+void CTransferDisplay::Start(const CString& file, const CString& total, int count) {
+    m_paced = count > kShortList;
+    m_labelFile.SetWindowText(file);
     m_barFile.SetRange32(0, kActivityEnd);
     m_barFile.SetPos(0);
-    m_labelTotal.SetWindowText(strTotal);
-    m_barTotal.SetRange32(0, nCount);
+    m_labelTotal.SetWindowText(total);
+    m_barTotal.SetRange32(0, count);
     m_barTotal.SetPos(0);
     m_editLog.SetWindowText(L"");
     // A long run logs more than an edit control holds by default.
     m_editLog.LimitText(kLogLimit);
 }
 
-void CTransferDisplay::ShowFile(const CString& strText, int nActivity) {
-    m_file = strText;
-    m_activity = nActivity;
+void CTransferDisplay::ShowFile(const CString& text, int activity) {
+    m_file = text;
+    m_activity = activity;
 }
 
-void CTransferDisplay::ShowTotal(const CString& strText) {
-    m_total = strText;
+void CTransferDisplay::ShowTotal(const CString& text) {
+    m_total = text;
 }
 
-void CTransferDisplay::Log(const CString& strText) {
-    if (strText.IsEmpty()) return;
+void CTransferDisplay::ShowStopping(const CString& text) {
+    Log(text);
+    Draw();
+    m_labelFile.SetWindowText(text);
+}
+
+void CTransferDisplay::Log(const CString& text) {
+    if (text.IsEmpty()) return;
     const __time64_t now = _time64(nullptr);
     tm local = {};
     const bool known = _localtime64_s(&local, &now) == 0;
-    m_lines += LogLine(strText, known ? &local : nullptr);
+    m_lines += LogLine(text, known ? &local : nullptr);
 }
 
 void CTransferDisplay::Draw() {

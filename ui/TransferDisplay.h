@@ -1,22 +1,24 @@
-// CTransferDisplay: what a transfer dialog shows: two labels, two bars and the log.
 #pragma once
 
 #include <afxwin.h>
 #include <afxcmn.h>
 #include "ui/TransferVariant.h"
 
+/// What a transfer dialog shows: two labels, two bars and the log.
 /// Setting a label, and laying out the log's text, costs more than the transfer of a small document. So what
 /// is to be shown waits until it is drawn: only the latest label and position, but every log line.
 class CTransferDisplay {
 public:
     /// Binds the controls; for the dialog's DoDataExchange.
-    void Exchange(CDataExchange* pDX, const varnoke::TransferVariant& variant);
-    void Start(const CString& strFile, const CString& strTotal, int nCount);
+    void Exchange(CDataExchange* exchange, const varnoke::TransferVariant& variant);
+    void Start(const CString& file, const CString& total, int count);
 
-    void ShowFile(const CString& strText, int nActivity);
-    void ShowTotal(const CString& strText);
+    void ShowFile(const CString& text, int activity);
+    void ShowTotal(const CString& text);
+    /// Logs and shows at once that no further file follows.
+    void ShowStopping(const CString& text);
     /// Adds a line with the current time; an empty text is not logged.
-    void Log(const CString& strText);
+    void Log(const CString& text);
 
     void Draw();
     /// Draws unless that was done often and just before.

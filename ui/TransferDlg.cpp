@@ -1,10 +1,11 @@
-// All members but the list's items belong to the dialog's thread; the worker is heard of by messages only.
 #include "ui/TransferDlg.h"
 
 #include "module/Guarded.h"
 #include "module/InfoMessage.h"
 #include "base/Owned.h"
 #include "module/ResourceText.h"
+#include "ui/WarningBox.h"
+#include "ui/resource.h"
 
 using namespace varnoke;
 
@@ -16,6 +17,8 @@ const UINT_PTR kActivityTimer = 2;
 const UINT kActivityInterval = 100;
 const UINT_PTR kCloseTimer = 3;
 const UINT kCloseDelay = 1000;
+const UINT_PTR kStopTimer = 4;
+const UINT kStopInterval = 50;
 const DWORD kStartPause = 100; // lets the worker come up
 
 } // namespace
@@ -25,14 +28,14 @@ BEGIN_MESSAGE_MAP(CTransferDlg, CDialog)
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
-CTransferDlg::CTransferDlg(const TransferVariant& variant, CWnd* pParent)
-    : CDialog(variant.dialogId, pParent), m_variant(variant), m_worker(variant) {}
+CTransferDlg::CTransferDlg(const TransferVariant& variant, CWnd* parent)
+    : CDialog(variant.dialogId, parent), m_variant(variant), m_worker(variant) {}
 
 CTransferDlg::~CTransferDlg() = default;
 
-int CTransferDlg::SetFileList(SSignFileDUL* pFileList) {
-    if (!pFileList) return 0;
-    m_fileList = pFileList;
+int CTransferDlg::SetFileList(SSignFileDUL* fileList) {
+    if (!fileList) return 0;
+    m_fileList = fileList;
     return 1;
 }
 
@@ -43,15 +46,15 @@ INT_PTR CTransferDlg::DoModal() {
     return result;
 }
 
-int CTransferDlg::GetResultCode(int* pResultCode) const {
-    if (!pResultCode) return 0;
-    *pResultCode = m_resultCode;
+int CTransferDlg::GetResultCode(int* resultCode) const {
+    if (!resultCode) return 0;
+    *resultCode = m_resultCode;
     return 1;
 }
 
-void CTransferDlg::DoDataExchange(CDataExchange* pDX) {
-    CDialog::DoDataExchange(pDX);
-    m_display.Exchange(pDX, m_variant);
+void CTransferDlg::DoDataExchange(CDataExchange* exchange) {
+    CDialog::DoDataExchange(exchange);
+    m_display.Exchange(exchange, m_variant);
 }
 
 BOOL CTransferDlg::OnInitDialog() {
@@ -70,9 +73,28 @@ void CTransferDlg::InitControls() {
 // There is no button to confirm: a stray Enter must not end the run.
 void CTransferDlg::OnOK() {}
 
-void CTransferDlg::OnTimer(UINT_PTR nIDEvent) {
-    CDialog::OnTimer(nIDEvent);
-    switch (nIDEvent) {
+// The loop goes on until the worker has ended: its server library may have to call back into this thread.
+void CTransferDlg::OnCancel() {
+    m_worker.Close();
+    if (m_worker.HasEnded()) {
+        EndDialog(IDCANCEL);
+        return;
+    }
+    if (m_stopping) return;
+    m_stopping = true;
+    Guarded([this] { m_display.ShowStopping(ResourceText(IDS_TRANSFER_STOPPING)); });
+    SetTimer(kStopTimer, kStopInterval, nullptr);
+}
+
+void CTransferDlg::OnStopTimer() {
+    if (!m_worker.HasEnded()) return;
+    KillTimer(kStopTimer);
+    EndDialog(IDCANCEL);
+}
+
+void CTransferDlg::OnTimer(UINT_PTR timer) {
+    CDialog::OnTimer(timer);
+    switch (timer) {
     case kStartTimer:
         OnStartTimer();
         break;
@@ -82,6 +104,9 @@ void CTransferDlg::OnTimer(UINT_PTR nIDEvent) {
     case kCloseTimer:
         KillTimer(kCloseTimer);
         EndDialog(IDOK);
+        break;
+    case kStopTimer:
+        OnStopTimer();
         break;
     }
 }
@@ -133,7 +158,7 @@ LRESULT CTransferDlg::OnStep(TransferStep step, BSTR text) {
     });
 }
 
-void CTransferDlg::HandleStep(TransferStep step, const CString& strPath) {
+void CTransferDlg::HandleStep(TransferStep step, const CString& path) {
     switch (step) {
     case kRunStarted:
         m_display.Log(ResourceText(m_variant.textStarted));
@@ -147,34 +172,34 @@ void CTransferDlg::HandleStep(TransferStep step, const CString& strPath) {
     default:
         break;
     }
-    if (strPath.IsEmpty()) return;
+    if (path.IsEmpty()) return;
     switch (step) {
     case kFileBegins:
-        OnFileBegins(strPath);
+        OnFileBegins(path);
         break;
     case kFileDone:
-        OnFileDone(strPath);
+        OnFileDone(path);
         break;
     case kFileSkipped:
-        OnFileMissed(m_variant.textSkipped, strPath, step);
+        OnFileMissed(m_variant.textSkipped, path, step);
         break;
     case kFileFailed:
-        OnFileMissed(m_variant.textFailed, strPath, step);
+        OnFileMissed(m_variant.textFailed, path, step);
         break;
     default:
         break;
     }
 }
 
-void CTransferDlg::OnFileBegins(const CString& strPath) {
-    const CString text = ResourceText(m_variant.textCurrent) + strPath;
+void CTransferDlg::OnFileBegins(const CString& path) {
+    const CString text = ResourceText(m_variant.textCurrent) + path;
     m_display.ShowFile(text, 0);
     SetTimer(kActivityTimer, kActivityInterval, nullptr);
     m_display.Log(text);
 }
 
-void CTransferDlg::OnFileDone(const CString& strPath) {
-    const CString text = ResourceText(m_variant.textDone) + strPath;
+void CTransferDlg::OnFileDone(const CString& path) {
+    const CString text = ResourceText(m_variant.textDone) + path;
     KillTimer(kActivityTimer);
     m_display.ShowFile(text, kActivityEnd);
     m_display.Log(text);
@@ -183,18 +208,34 @@ void CTransferDlg::OnFileDone(const CString& strPath) {
     m_display.ShowTotal(CountText(ResourceText(m_variant.textCount), m_done, m_count));
 }
 
-void CTransferDlg::OnFileMissed(UINT nComplaint, const CString& strPath, TransferStep step) {
+void CTransferDlg::OnFileMissed(UINT complaint, const CString& path, TransferStep step) {
     m_resultCode = ResultAfter(m_resultCode, step);
-    m_warnings += WarningLine(strPath, ResourceText(nComplaint));
+    m_warnings.push_back(WarningLine(path, ResourceText(complaint)));
 }
 
-void CTransferDlg::OnRunOver(UINT nText, TransferStep step) {
-    m_display.Log(ResourceText(nText));
-    m_display.Draw();
-    if (!m_warnings.IsEmpty()) {
-        ShowInfo(m_warnings, this);
-        m_warnings.Empty();
+void CTransferDlg::ShowWarnings(size_t shown) {
+    CString text;
+    for (size_t i = 0; i < shown; ++i)
+        text += m_warnings[i] + L"\r\n";
+    if (shown < m_warnings.size()) {
+        CString more;
+        more.Format(ResourceText(IDS_MORE_WARNINGS), static_cast<int>(m_warnings.size() - shown));
+        text += more;
     }
+    m_warnings.clear();
+    ShowInfo(text, this);
+}
+
+// A document that the box has no room for is named by the log; otherwise the box alone tells.
+void CTransferDlg::OnRunOver(UINT text, TransferStep step) {
+    const size_t shown = LinesThatFit(m_warnings, m_hWnd);
+    if (shown < m_warnings.size()) {
+        for (const CString& warning : m_warnings)
+            m_display.Log(warning);
+    }
+    m_display.Log(ResourceText(text));
+    m_display.Draw();
+    ShowWarnings(shown);
     m_done = m_count;
     m_resultCode = ResultAfter(m_resultCode, step);
     CloseLater();

@@ -1,4 +1,3 @@
-// Nothing here knows a window.
 #include "ui/TransferRules.h"
 
 namespace varnoke {
@@ -26,7 +25,7 @@ CString LogLine(const CString& text, const tm* time) {
 }
 
 CString WarningLine(const CString& path, const CString& complaint) {
-    return L"文档：" + path + L" " + complaint + L"\r\n";
+    return L"文档：" + path + L" " + complaint;
 }
 
 CString CountText(const CString& label, int done, int count) {

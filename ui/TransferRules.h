@@ -1,4 +1,3 @@
-// What a transfer dialog shows and concludes from the steps of a run.
 #pragma once
 
 #include <afxwin.h>
@@ -7,7 +6,8 @@
 
 namespace varnoke {
 
-/// Result of a transfer dialog. A failure always wins; of the others the first one stays.
+/// Result of a transfer dialog, as far as its run came. A failure always wins; of the others the first one
+/// stays.
 enum TransferResult : int {
     kTransferNone = 0,
     kTransferEnded = 1,
@@ -22,7 +22,7 @@ int ResultAfter(int result, TransferStep step);
 /// The line that is logged for a text at a local time, with its line end. Without a time each part is -1.
 CString LogLine(const CString& text, const tm* time);
 
-/// The warning line for a file, with its line end; `complaint` says what is wrong with it.
+/// The warning about a file; `complaint` says what is wrong with it.
 CString WarningLine(const CString& path, const CString& complaint);
 
 /// "<label><tab>done / count"

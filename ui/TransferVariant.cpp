@@ -1,4 +1,3 @@
-// The two rows of the table; a third kind of transfer would be a third row.
 #include "ui/TransferVariant.h"
 
 #include "neighbours/durvell.h"

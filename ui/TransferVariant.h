@@ -1,4 +1,3 @@
-// Download and upload: the steps that they share, and all that distinguishes one from the other.
 #pragma once
 
 #include <afxwin.h>
@@ -17,6 +16,7 @@ enum TransferStep : UINT {
     kTransferStepCount
 };
 
+/// All that distinguishes a download from an upload.
 struct TransferVariant {
     UINT dialogId;
     UINT firstMessage; ///< message of kRunStarted; the others follow it
@@ -39,7 +39,7 @@ struct TransferVariant {
     /// Whether a document without a local file is skipped.
     bool needsLocalFile;
     /// Transfers one file (local path, remote name, 0, 0); 0 is success.
-    int (*m_transfer)(const wchar_t*, const wchar_t*, int, int);
+    int (*transfer)(const wchar_t*, const wchar_t*, int, int);
 };
 
 extern const TransferVariant kDownload;

@@ -1,4 +1,3 @@
-// The worker never touches a control, nor its window once that is closed.
 #include "ui/TransferWorker.h"
 
 #include <process.h>
@@ -15,13 +14,13 @@ const LONG kMostPosted = 128; // messages in the window's queue
 const DWORD kNoRoomWait = 2;  // ms
 
 // Null when there is no memory for the text.
-OwnedBstr MessageText(const CString& strPath) {
-    const UINT length = static_cast<UINT>(strPath.GetLength());
+OwnedBstr MessageText(const CString& path) {
+    const UINT length = static_cast<UINT>(path.GetLength());
     const UINT room = length < kMessageTextRoom ? kMessageTextRoom : length;
     OwnedBstr text(::SysAllocStringLen(nullptr, room));
     if (!text) return text;
     memset(text.get(), 0, room * sizeof(wchar_t));
-    memcpy(text.get(), strPath.GetString(), length * sizeof(wchar_t));
+    memcpy(text.get(), path.GetString(), length * sizeof(wchar_t));
     return text;
 }
 
@@ -34,9 +33,9 @@ CTransferWorker::~CTransferWorker() {
     Wait();
 }
 
-bool CTransferWorker::Start(SSignFileDUL* pList, HWND hWnd) {
-    m_list = pList;
-    m_hWnd = hWnd;
+bool CTransferWorker::Start(SSignFileDUL* list, HWND window) {
+    m_list = list;
+    m_window = window;
     m_closedEvent.reset(::CreateEventW(nullptr, TRUE, FALSE, nullptr));
     if (!m_closedEvent) return false;
     m_thread.reset(reinterpret_cast<HANDLE>(_beginthreadex(nullptr, 0, &ThreadMain, this, 0, &m_threadId)));
@@ -55,7 +54,7 @@ void CTransferWorker::Close() {
         m_closed = true;
     }
     if (m_closedEvent) ::SetEvent(m_closedEvent.get());
-    if (m_hWnd) TakeBackMessages();
+    if (m_window) TakeBackMessages();
 }
 
 void CTransferWorker::TakeBackMessages() {
@@ -63,13 +62,13 @@ void CTransferWorker::TakeBackMessages() {
     const UINT last = first + kTransferStepCount - 1;
     bool quit = false;
     MSG msg = {};
-    while (::PeekMessageW(&msg, m_hWnd, first, last, PM_REMOVE)) {
+    while (::PeekMessageW(&msg, m_window, first, last, PM_REMOVE)) {
         // The request to quit passes every filter.
         if (msg.message == WM_QUIT) {
             quit = true;
             break;
         }
-        if (msg.hwnd == m_hWnd) const OwnedBstr text(reinterpret_cast<BSTR>(msg.wParam));
+        if (msg.hwnd == m_window) const OwnedBstr text(reinterpret_cast<BSTR>(msg.wParam));
     }
     if (quit) {
         TakeBackMessages();
@@ -77,23 +76,34 @@ void CTransferWorker::TakeBackMessages() {
     }
 }
 
-void CTransferWorker::Wait() {
-    const HANDLE thread = m_thread.get();
-    while (thread &&
-           ::MsgWaitForMultipleObjects(1, &thread, FALSE, INFINITE, QS_SENDMESSAGE) != WAIT_OBJECT_0) {
-        MSG msg = {};
-        ::PeekMessageW(&msg, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
-    }
-    m_thread.reset();
+bool CTransferWorker::HasEnded() const {
+    return !m_thread || ::WaitForSingleObject(m_thread.get(), 0) == WAIT_OBJECT_0;
 }
 
-unsigned __stdcall CTransferWorker::ThreadMain(void* pWorker) {
+void CTransferWorker::Wait() {
+    const HANDLE thread = m_thread.get();
+    const DWORD served = QS_POSTMESSAGE | QS_SENDMESSAGE;
+    MSG quit = {};
+    while (thread && ::MsgWaitForMultipleObjects(1, &thread, FALSE, INFINITE, served) != WAIT_OBJECT_0) {
+        MSG msg = {};
+        while (::PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE | PM_QS_POSTMESSAGE | PM_QS_SENDMESSAGE)) {
+            if (msg.message == WM_QUIT)
+                quit = msg;
+            else
+                ::DispatchMessageW(&msg);
+        }
+    }
+    m_thread.reset();
+    if (quit.message == WM_QUIT) ::PostQuitMessage(static_cast<int>(quit.wParam));
+}
+
+unsigned __stdcall CTransferWorker::ThreadMain(void* worker) {
     const base::ComApartment apartment;
-    return apartment.Result() == S_OK ? static_cast<CTransferWorker*>(pWorker)->Run() : 0;
+    return apartment.Result() == S_OK ? static_cast<CTransferWorker*>(worker)->Run() : 0;
 }
 
 unsigned CTransferWorker::Run() {
-    if (!m_hWnd || !m_list || m_list->m_lstItem.GetCount() < 1) return 0;
+    if (!m_window || !m_list || m_list->m_lstItem.GetCount() < 1) return 0;
     try {
         TransferList();
         Post(kRunEnded, nullptr);
@@ -118,17 +128,17 @@ void CTransferWorker::TransferList() {
 }
 
 // Returns false when the run cannot go on.
-bool CTransferWorker::TransferItem(SSignFileDULItem& item, const CString& strPath) {
-    if (m_variant.needsLocalFile && !base::OpenForReading(strPath)) return PostFile(kFileSkipped, strPath);
-    if (!PostFile(kFileBegins, strPath)) return false;
-    const bool done = m_variant.m_transfer(strPath, item.m_strRemoteName, 0, 0) == 0;
+bool CTransferWorker::TransferItem(SSignFileDULItem& item, const CString& path) {
+    if (m_variant.needsLocalFile && !base::OpenForReading(path)) return PostFile(kFileSkipped, path);
+    if (!PostFile(kFileBegins, path)) return false;
+    const bool done = m_variant.transfer(path, item.m_strRemoteName, 0, 0) == 0;
     item.m_nState = done ? 1 : 2;
-    return PostFile(done ? kFileDone : kFileFailed, strPath);
+    return PostFile(done ? kFileDone : kFileFailed, path);
 }
 
 // Returns false when there is no memory for the text or nobody to receive it.
-bool CTransferWorker::PostFile(TransferStep step, const CString& strPath) {
-    OwnedBstr text = MessageText(strPath);
+bool CTransferWorker::PostFile(TransferStep step, const CString& path) {
+    OwnedBstr text = MessageText(path);
     if (!text || !Post(step, text.get())) return false;
     text.release(); // the dialog's now
     return true;
@@ -149,11 +159,11 @@ CTransferWorker::EPostResult CTransferWorker::TryPost(TransferStep step, BSTR te
     if (m_closed) return kNobodyThere;
     if (m_posted >= kMostPosted) return kNoRoom;
     const UINT message = m_variant.firstMessage + step;
-    if (::PostMessageW(m_hWnd, message, reinterpret_cast<WPARAM>(text), 0)) {
+    if (::PostMessageW(m_window, message, reinterpret_cast<WPARAM>(text), 0)) {
         ++m_posted;
         return kPosted;
     }
-    return ::IsWindow(m_hWnd) ? kNoRoom : kNobodyThere;
+    return ::IsWindow(m_window) ? kNoRoom : kNobodyThere;
 }
 
 bool CTransferWorker::IsClosed() {
