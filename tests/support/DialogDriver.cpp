@@ -1,4 +1,3 @@
-// The hooks note what happens; scripts run from a message-only window, so inside the dialog's own loop.
 #include "tests/support/DialogDriver.h"
 #include <gtest/gtest.h>
 
@@ -9,6 +8,7 @@ namespace {
 const UINT kRunScript = WM_APP + 1;
 const UINT kFirstReport = WM_USER + 1000; // private messages of the transfer dialogs
 const UINT kLastReport = kFirstReport + 13;
+const ULONGLONG kPatience = 10000; // ms
 const int kBoxText = 0xffff;
 const int kColorMixButton = 719; // of the system's colour picker, whose labels share the box's id
 
@@ -46,6 +46,7 @@ DialogDriver::DialogDriver() {
     g_driver = this;
     m_runner = CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
     SetWindowLongPtrW(m_runner, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&RunnerProc));
+    SetTimer(m_runner, 1, 500, nullptr);
     m_cbtHook = SetWindowsHookExW(WH_CBT, &CbtHook, nullptr, GetCurrentThreadId());
     m_messageHook = SetWindowsHookExW(WH_GETMESSAGE, &MessageHook, nullptr, GetCurrentThreadId());
 }
@@ -54,6 +55,8 @@ DialogDriver::~DialogDriver() {
     UnhookWindowsHookEx(m_messageHook);
     UnhookWindowsHookEx(m_cbtHook);
     DestroyWindow(m_runner);
+    MSG quit;
+    if (m_stuck) PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
     g_driver = nullptr;
 }
 
@@ -86,16 +89,33 @@ LRESULT CALLBACK DialogDriver::MessageHook(int code, WPARAM wParam, LPARAM lPara
 
 LRESULT CALLBACK DialogDriver::RunnerProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == kRunScript) g_driver->Run(reinterpret_cast<HWND>(wParam));
+    if (message == WM_TIMER) g_driver->EndWhenStuck();
     return DefWindowProcW(window, message, wParam, lParam);
+}
+
+void DialogDriver::Progress() {
+    m_lastProgress = GetTickCount64();
+    Watchdog::Progress();
+}
+
+// The request to quit ends every modal loop, however deep.
+void DialogDriver::EndWhenStuck() {
+    if (m_known.empty() || GetTickCount64() - m_lastProgress < kPatience) return;
+    if (!m_stuck) ADD_FAILURE() << "a dialog did not end";
+    m_stuck = true;
+    PostQuitMessage(0);
 }
 
 void DialogDriver::Activated(HWND window) {
     if (!IsDialog(window) || !m_known.insert(window).second) return;
+    Progress();
     if (IsMessageBox(window)) {
         Post(window, [this](HWND box) { AnswerBox(box); });
         return;
     }
+    if (m_known.size() == 1) m_owners.insert(GetWindow(window, GW_OWNER));
     ++m_shownDialogs;
+    m_shownAt = GetTickCount64();
     m_current = window;
     if (m_scripts.empty()) {
         ADD_FAILURE() << "an unexpected dialog was shown";
@@ -107,17 +127,23 @@ void DialogDriver::Activated(HWND window) {
 }
 
 void DialogDriver::Destroyed(HWND window) {
-    if (m_known.erase(window) == 0 || window != m_current) return;
+    const bool shown = m_known.erase(window) != 0;
+    if (!IsDialog(window) || (shown && window != m_current)) return;
+    Progress();
     m_current = nullptr;
+    m_endedAt = GetTickCount64();
     if (m_atEnd) m_atEnd(window);
     m_atEnd = nullptr;
 }
 
 void DialogDriver::Taken(const MSG& message) {
     const bool reported = message.message >= kFirstReport && message.message <= kLastReport;
-    if (!m_current || message.hwnd != m_current || !reported) return;
-    const auto text = reinterpret_cast<const wchar_t*>(message.wParam);
-    m_messages.push_back({message.message, text ? text : L""});
+    if (!m_current || message.hwnd != m_current || (!reported && message.message != WM_TIMER)) return;
+    if (reported) {
+        const auto text = reinterpret_cast<const wchar_t*>(message.wParam);
+        m_messages.push_back({message.message, text ? text : L"", GetTickCount64()});
+        Progress();
+    }
     for (auto trigger = m_triggers.begin(); trigger != m_triggers.end();) {
         if (trigger->message == message.message && --trigger->count == 0) {
             Post(m_current, std::move(trigger->script));
@@ -147,13 +173,12 @@ void DialogDriver::AnswerBox(HWND box) {
     const HWND owner = GetWindow(box, GW_OWNER);
     m_boxes.push_back(
         {WindowText(box), TextOf(box, kBoxText), HasInformationIcon(box), owner, WindowText(owner)});
-    if (m_boxScripts.empty()) {
-        PostMessageW(box, WM_COMMAND, IDOK, 0);
-        return;
+    if (!m_boxScripts.empty()) {
+        const Script script = std::move(m_boxScripts.front());
+        m_boxScripts.pop_front();
+        script(box);
     }
-    const Script script = std::move(m_boxScripts.front());
-    m_boxScripts.pop_front();
-    script(box);
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
 }
 
 std::wstring TextOf(HWND dialog, int id) {

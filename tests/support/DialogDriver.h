@@ -1,4 +1,3 @@
-// Drives the real modal dialogs that a call shows in this process, by window hooks and control ids.
 #pragma once
 #include <deque>
 #include <functional>
@@ -6,6 +5,7 @@
 #include <string>
 #include <vector>
 #include <windows.h>
+#include "tests/support/Watchdog.h"
 
 namespace tests {
 
@@ -22,10 +22,13 @@ struct SeenBox {
 struct SeenMessage {
     UINT message;
     std::wstring text; // of the string that wParam carried
+    ULONGLONG time;    // ms
 };
 
+// Drives the real modal dialogs that a call shows in this process, by window hooks and control ids.
 // Each dialog gets the next script, which runs in its modal loop once it is active; a dialog without a
-// script is a failure and is cancelled. One driver at a time; on the thread that shows the dialogs.
+// script is a failure and is cancelled. When nothing happens for some seconds, the test has failed and all
+// its dialogs are ended. One driver at a time; on the thread that shows the dialogs.
 class DialogDriver {
 public:
     using Script = std::function<void(HWND dialog)>;
@@ -36,14 +39,21 @@ public:
     DialogDriver& operator=(const DialogDriver&) = delete;
 
     void Next(Script script);
-    // Runs when the scripted dialog is about to be destroyed, its controls still there.
+    // Runs when the dialog is about to be destroyed, its controls still there; also one that never showed.
     void AtEnd(Script script);
-    // Runs in the modal loop after the dialog took the count-th message of that number.
+    // Runs in the modal loop after the dialog took the count-th private or timer message of that number.
     void After(UINT message, int count, Script script);
-    // Runs in place of OK when the next message box is shown; it must end the box.
+    // Runs before the next message box gets its OK.
     void NextBox(Script script);
+    // Runs in the modal loop, behind the messages that are waiting.
+    void Post(HWND window, Script script);
 
     int ShownDialogs() const { return m_shownDialogs; }
+    // When the last dialog was shown and destroyed, ms.
+    ULONGLONG ShownAt() const { return m_shownAt; }
+    ULONGLONG EndedAt() const { return m_endedAt; }
+    // The owners of the dialogs that were not shown over another one.
+    const std::set<HWND>& Owners() const { return m_owners; }
     const std::vector<SeenBox>& Boxes() const { return m_boxes; }
     const std::vector<SeenMessage>& Messages() const { return m_messages; }
     // Whether every script has run.
@@ -63,19 +73,23 @@ private:
     void Destroyed(HWND window);
     void Taken(const MSG& message);
     void Run(HWND window);
-    void Post(HWND window, Script script);
     void AnswerBox(HWND box);
+    void EndWhenStuck();
+    void Progress();
 
+    const Watchdog::Patience m_patience{std::chrono::seconds(20)}; // with a thread that takes no messages
     HWND m_runner = nullptr;
     HHOOK m_cbtHook = nullptr;
     HHOOK m_messageHook = nullptr;
-    std::set<HWND> m_known;
+    std::set<HWND> m_known, m_owners;
     std::deque<Script> m_scripts, m_boxScripts;
     std::deque<std::pair<HWND, Script>> m_posted;
     std::vector<Trigger> m_triggers;
     Script m_atEnd;
     HWND m_current = nullptr;
     int m_shownDialogs = 0;
+    ULONGLONG m_shownAt = 0, m_endedAt = 0, m_lastProgress = GetTickCount64();
+    bool m_stuck = false;
     std::vector<SeenBox> m_boxes;
     std::vector<SeenMessage> m_messages;
 };

@@ -1,13 +1,16 @@
-// A host's main window for the library's dialogs.
 #pragma once
 #include <afxwin.h>
 
 namespace tests {
 
+// A visible main window of a host, for the library's dialogs.
 class HostWindow {
 public:
-    HostWindow();
-    ~HostWindow();
+    HostWindow() {
+        m_window.Attach(CreateWindowExW(0, L"STATIC", L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 20, 20, 900,
+                                        700, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr));
+    }
+    ~HostWindow() { DestroyWindow(m_window.Detach()); }
     HostWindow(const HostWindow&) = delete;
     HostWindow& operator=(const HostWindow&) = delete;
 

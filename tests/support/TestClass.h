@@ -1,4 +1,3 @@
-// A class of COM objects that a test program makes for itself.
 #pragma once
 #include <gtest/gtest.h>
 #include <windows.h>
