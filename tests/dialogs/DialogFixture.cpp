@@ -1,4 +1,3 @@
-// The server access library's stand-in finds its folder and its faults by environment variables.
 #include "tests/dialogs/DialogFixture.h"
 
 namespace tests {
@@ -14,6 +13,8 @@ DialogFixture::DialogFixture() {
 
 DialogFixture::~DialogFixture() {
     EXPECT_TRUE(m_driver.AllRan()) << "a dialog, a box or a message that was waited for did not come";
+    for (const HWND owner : m_driver.Owners())
+        EXPECT_EQ(owner, m_host.Window()->m_hWnd) << "whichever window is active";
     SetEnvironmentVariableW(L"DURVELL_FAULT", nullptr);
     SetEnvironmentVariableW(L"DURVELL_VAULT", nullptr);
 }

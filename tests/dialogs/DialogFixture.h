@@ -26,7 +26,7 @@ protected:
 
     TempFolder m_folder;
     SettingsFile m_settings;
-    HostWindow m_host;
+    HostWindow m_host, m_active;
     DialogDriver m_driver;
     CSignOpt m_signOpt;
     CPLMInteract m_plm;

@@ -5,6 +5,7 @@
 #include "tests/plm/PlmFixture.h"
 #include "ui/QORGrid.h"
 #include "neighbours/QORGridIds.h"
+#include <commctrl.h>
 
 namespace {
 
@@ -42,10 +43,56 @@ public:
 TEST_F(ServerDocuments, Documents_AreConfirmedUnseenAndTheFirstIsHandedOut) {
     Configure(kColumns);
     Results results;
+    m_driver.AtEnd([](HWND dialog) {
+        ShownGrid grid(dialog);
+        ASSERT_EQ(3, grid.GetRowCount());
+        const wchar_t* const cells[][4] = {
+            {L"1", L"1", L"一.dwg", L"2"}, {L"2", L"1", L"二.dwg", L""}, {L"3", L"1", L"三.dwg", L""}};
+        for (long row = 0; row < 3; ++row) {
+            EXPECT_EQ(row, grid.GetRowValue(row));
+            for (long column = 0; column < 4; ++column)
+                EXPECT_EQ(grid.GetCellText(row, column), cells[row][column]) << row << "," << column;
+        }
+        // The control's own view: headers, widths, look, and no text where a check box is drawn.
+        const HWND list = FindWindowExW(GetWindow(grid, GW_CHILD), nullptr, WC_LISTVIEWW, nullptr);
+        const wchar_t* const headers[] = {L"序号", L"选择状态", L"文件名", L"VER"};
+        RECT client;
+        GetClientRect(grid, &client);
+        wchar_t text[32];
+        for (int column = 0; column < 4; ++column) {
+            LVCOLUMNW shown = {};
+            shown.mask = LVCF_TEXT | LVCF_WIDTH;
+            shown.pszText = text;
+            shown.cchTextMax = 32;
+            SendMessageW(list, LVM_GETCOLUMNW, column, reinterpret_cast<LPARAM>(&shown));
+            EXPECT_STREQ(headers[column], text);
+            EXPECT_EQ(client.right / 4, shown.cx);
+        }
+        ListView_GetItemText(list, 0, 1, text, 32);
+        EXPECT_STREQ(L"", text);
+        EXPECT_EQ(LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES,
+                  ListView_GetExtendedListViewStyle(list) & (LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES));
+        EXPECT_TRUE(GetWindowLongW(list, GWL_STYLE) & GetWindowLongW(grid, GWL_STYLE) & WS_VISIBLE)
+            << "painted again";
+        EXPECT_FALSE(GetWindowLongW(list, GWL_STYLE) & LVS_NOCOLUMNHEADER);
+    });
     ASSERT_EQ(1, StartSign(std::move(results)));
     EXPECT_EQ(0, m_driver.ShownDialogs());
     EXPECT_TRUE(m_driver.Boxes().empty());
     EXPECT_EQ(Described(results.files), L":一.dwg,VER=2,X=y");
+}
+
+TEST_F(ServerDocuments, ManyColumns_AreAsWideAsIsUseful) {
+    std::wstring model = L"<modelconfig><objconfig id='SIGN'>";
+    for (int i = 0; i < 20; ++i)
+        model += L"<attr name='FNAME'/>";
+    Configure((model + L"</objconfig></modelconfig>").c_str());
+    m_driver.AtEnd([](HWND dialog) {
+        const HWND list =
+            FindWindowExW(GetWindow(GetDlgItem(dialog, Grid), GW_CHILD), nullptr, WC_LISTVIEWW, nullptr);
+        EXPECT_EQ(80, ListView_GetColumnWidth(list, 21));
+    });
+    EXPECT_EQ(1, StartSign());
 }
 
 TEST_F(ServerDocuments, WithoutColumns_TheEmptyListCanOnlyBeCancelled) {

@@ -9,17 +9,9 @@ namespace {
 
 using namespace tests;
 
-enum {
-    User = 4023,
-    Role = 4025,
-    Seal = 4027,
-    Time = 4031,
-    Format = 4033,
-    Location = 4035,
-    Size = 4037,
-    Preview = 4045
-};
-enum { Color = 4039, Current = 4042, Opened = 4043, All = 4044, Confirm = 4001, Dismiss = 4002 };
+enum { User = 4023, Role = 4025, Seal = 4027, Time = 4031, Format = 4033, Location = 4035, Size = 4037 };
+enum { Color = 4039, Current = 4042, Opened = 4043, All = 4044, Preview = 4045 };
+enum { Confirm = 4001, Dismiss = 4002 };
 
 class SignDlg : public DialogFixture {
 protected:
@@ -31,9 +23,11 @@ protected:
         return m_signOpt.GetSignInfo(Text(L"a.dwg"), selectable, Text(role), &m_info);
     }
     static void Cancel(HWND dialog) { Click(dialog, Dismiss); }
-    static std::wstring Selected(HWND dialog, int combo) {
-        const int index = Selection(dialog, combo);
-        return index < 0 ? L"<none>" : Items(dialog, combo)[index];
+    static std::wstring Joined(const std::vector<std::wstring>& texts) {
+        std::wstring joined;
+        for (const std::wstring& text : texts)
+            joined += text + L" ";
+        return joined;
     }
     // Checked and enabled state of the three scope boxes, narrowest first: "C" checked, "c" checked and
     // disabled, "E" enabled, "e" disabled.
@@ -50,32 +44,32 @@ protected:
 };
 
 TEST_F(SignDlg, Open_WithoutSettingsShowsTheDefaults) {
-    EXPECT_EQ(0, Sign(0, [](HWND dialog) {
-                  EXPECT_EQ(L"wang", TextOf(dialog, User));
-                  EXPECT_EQ(L"审核", TextOf(dialog, Role));
-                  EXPECT_EQ(L"wang_审核", TextOf(dialog, Seal));
-                  EXPECT_EQ(
-                      (std::vector<std::wstring>{L"YYYY-MM-DD", L"YYYY年-MM月-DD日", L"YYYY/MM/DD",
+    EXPECT_EQ(
+        0, Sign(0, [](HWND dialog) {
+            EXPECT_EQ(L"wang", TextOf(dialog, User));
+            EXPECT_EQ(L"审核", TextOf(dialog, Role));
+            EXPECT_EQ(L"wang_审核", TextOf(dialog, Seal));
+            EXPECT_EQ((std::vector<std::wstring>{L"YYYY-MM-DD", L"YYYY年-MM月-DD日", L"YYYY/MM/DD",
                                                  L"YYYY年/MM月/DD日", L"YYYY.MM.DD", L"YYYY年.MM月.DD日"}),
                       Items(dialog, Format));
-                  EXPECT_EQ(0, Selection(dialog, Format));
-                  EXPECT_EQ(9u, Items(dialog, Location).size());
-                  EXPECT_EQ(L"左上", Selected(dialog, Location));
-                  EXPECT_EQ(16u, Items(dialog, Size).size());
-                  EXPECT_EQ(L"8", Selected(dialog, Size));
-                  EXPECT_EQ((std::vector<std::wstring>{L"RGB(000, 000, 000)", L"RGB(255, 000, 000)",
-                                                       L"RGB(000, 255, 000)", L"RGB(000, 000, 255)",
-                                                       L"RGB(255, 255, 255)", L"RGB(000, 000, 000)"}),
-                            Items(dialog, Color));
-                  EXPECT_EQ(0, Selection(dialog, Color))
-                      << "white is stored by default, but finishing the list selects black";
-                  EXPECT_EQ("ccc", Scope(dialog));
-                  EXPECT_TRUE(CanBeSeen(GetDlgItem(dialog, Preview)));
-                  for (const int hidden : {4026, static_cast<int>(Seal), 4034, static_cast<int>(Location),
-                                           4036, static_cast<int>(Size)})
-                      EXPECT_FALSE(Visible(dialog, hidden)) << hidden;
-                  Cancel(dialog);
-              }));
+            EXPECT_EQ(0, Selection(dialog, Format));
+            EXPECT_EQ(L"左上 左中 左下 中上 中中 中下 右上 右中 右下 ", Joined(Items(dialog, Location)));
+            EXPECT_EQ(0, Selection(dialog, Location));
+            EXPECT_EQ(L"8 9 10 11 12 14 16 18 20 22 24 26 28 36 48 72 ", Joined(Items(dialog, Size)));
+            EXPECT_EQ(0, Selection(dialog, Size));
+            EXPECT_EQ((std::vector<std::wstring>{L"RGB(000, 000, 000)", L"RGB(255, 000, 000)",
+                                                 L"RGB(000, 255, 000)", L"RGB(000, 000, 255)",
+                                                 L"RGB(255, 255, 255)", L"RGB(000, 000, 000)"}),
+                      Items(dialog, Color));
+            EXPECT_EQ(0, Selection(dialog, Color))
+                << "white is stored by default, but finishing the list selects black";
+            EXPECT_EQ("ccc", Scope(dialog));
+            SYSTEMTIME now, shown;
+            GetLocalTime(&now);
+            SendDlgItemMessageW(dialog, Time, DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(&shown));
+            EXPECT_EQ(now.wDay, shown.wDay);
+            Cancel(dialog);
+        }));
     EXPECT_EQ(nullptr, m_info);
     EXPECT_FALSE(std::filesystem::exists(m_settings.Path())) << "cancelling writes nothing";
 }
@@ -96,24 +90,19 @@ TEST_F(SignDlg, Open_ShowsStoredChoices) {
     struct {
         const wchar_t *key, *value;
         int combo;
-        const wchar_t* selected;
+        int selected;
         size_t items;
     } const cases[] = {
-        {L"DateStyle", L"YYYY/MM/DD", Format, L"YYYY/MM/DD", 6},
-        {L"DateStyle", L"DD.MM.YYYY", Format, L"DD.MM.YYYY", 7},
-        {L"DateLocation", L"右下", Location, L"右下", 9},
-        {L"DateFontSize", L"72", Size, L"72", 16},
-        {L"DateFontSize", L"15", Size, L"15", 17},
-        {L"DateFontSize", L"0", Size, L"8", 16},
-        {L"DateTextColor", L"255", Color, L"RGB(000, 000, 000)", 6}, // red is there, black gets selected
-        {L"DateTextColor", L"-1", Color, L"RGB(000, 000, 000)", 6},
-        {L"DateTextColor", L"2113664", Color, L"RGB(128, 064, 032)", 7},
+        {L"DateStyle", L"YYYY/MM/DD", Format, 2, 6}, {L"DateStyle", L"DD.MM.YYYY", Format, 0, 7},
+        {L"DateLocation", L"右下", Location, 8, 9},  {L"DateFontSize", L"72", Size, 15, 16},
+        {L"DateFontSize", L"15", Size, 0, 17},       {L"DateFontSize", L"0", Size, 0, 16},
+        {L"DateTextColor", L"2113664", Color, 0, 7},
     };
     for (const auto& test : cases) {
         m_settings.Remove();
         m_settings.Set(L"SignDate", test.key, test.value);
         Sign(1, [&](HWND dialog) {
-            EXPECT_EQ(test.selected, Selected(dialog, test.combo)) << ToUtf8(test.value);
+            EXPECT_EQ(test.selected, Selection(dialog, test.combo)) << ToUtf8(test.value);
             EXPECT_EQ(test.items, Items(dialog, test.combo).size()) << ToUtf8(test.value);
             Cancel(dialog);
         });
@@ -125,7 +114,7 @@ TEST_F(SignDlg, Open_UnknownLocationResetsTheDateFormat) {
     m_settings.Set(L"SignDate", L"DateLocation", L"中");
     Sign(0, [](HWND dialog) {
         EXPECT_EQ(0, Selection(dialog, Location));
-        EXPECT_EQ(L"YYYY-MM-DD", Selected(dialog, Format));
+        EXPECT_EQ(0, Selection(dialog, Format));
         Cancel(dialog);
     });
 }
@@ -273,8 +262,37 @@ TEST_F(SignDlg, Preview_StaysEmptyWithoutItsViewer) {
               }));
 }
 
-TEST_F(SignDlg, Runs_LeaveNothingBehind) {
-    ExpectNothingLeft([this] { Sign(1, &SignDlg::Cancel); });
+TEST_F(SignDlg, Preview_ShowsTheSealDrawing) {
+    // A drawing with nothing but a preview: a red picture of 2 x 1 pixels.
+    std::string drawing(
+        "AC1018\0\0\0\0\0\0\0\x11\0\0\0\x1F\x25\x6D\x07\xD4\x36\x28\x28\x9D\x57\xCA\x3F\x9D\x44\x10\x2B"
+        "\x3A\0\0\0\1\2\x2F\0\0\0\x30\0\0\0\x28\0\0\0\2\0\0\0\1\0\0\0\1\0\x18",
+        63);
+    drawing.resize(47 + 40);
+    drawing.append("\0\0\xff\0\0\xff\0\0", 8);
+    WriteBytes(std::filesystem::temp_directory_path() / L"wang_审核.dwg", drawing);
+    Sign(0, [](HWND dialog) {
+        const HWND preview = GetDlgItem(dialog, Preview);
+        RedrawWindow(preview, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+        RECT bounds;
+        GetClientRect(preview, &bounds);
+        const HDC dc = GetDC(preview);
+        EXPECT_EQ(RGB(255, 0, 0), GetPixel(dc, bounds.right / 2, bounds.bottom / 2));
+        ReleaseDC(preview, dc);
+        Cancel(dialog);
+    });
+    std::filesystem::remove(std::filesystem::temp_directory_path() / L"wang_审核.dwg");
+}
+
+TEST_F(SignDlg, Activation_DrawsTheColoursAnew) {
+    Sign(0, [](HWND dialog) {
+        const HWND colors = GetDlgItem(dialog, Color);
+        ValidateRect(colors, nullptr);
+        SendMessageW(dialog, WM_ACTIVATE, WA_ACTIVE, 0);
+        EXPECT_TRUE(GetUpdateRect(colors, nullptr, FALSE))
+            << "they are not drawn while another program is active";
+        Cancel(dialog);
+    });
 }
 
 } // namespace

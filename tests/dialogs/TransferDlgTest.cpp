@@ -1,23 +1,24 @@
 // The transfer dialogs, shown by CPLMInteract::DownloadDoc and UploadDoc.
 #include "tests/dialogs/DialogFixture.h"
-#include "tests/support/ObjectCounts.h"
 #include <commctrl.h>
 #include <fstream>
+#include "tests/support/MemoryUse.h"
 
 namespace {
 
 using namespace tests;
 
 struct Variant {
-    const wchar_t *title, *verb;
+    const wchar_t *title, *verb, *skipped;
     UINT firstMessage;
     int fileLabel, fileBar, totalLabel, totalBar, log;
 };
-const Variant kDownload = {L"下载文档", L"下载", 2024, 4003, 4004, 4006, 4007, 4009};
-const Variant kUpload = {L"上传文档", L"上传", 2031, 4010, 4012, 4014, 4015, 4017};
+const Variant kDownload = {L"下载文档", L"下载", L" 已经存在。", 2024, 4003, 4004, 4006, 4007, 4009};
+const Variant kUpload = {L"上传文档", L"上传", L" 不存在。", 2031, 4010, 4012, 4014, 4015, 4017};
 enum Step { Started, Begins, Done, Ended, Skipped, Failed, Interrupted };
+enum Timer { StartTimer = 1, ActivityTimer, CloseTimer };
 
-class TransferDlg : public DialogFixture, public testing::WithParamInterface<const Variant*> {
+class TransferDlg : public DialogFixture {
 protected:
     TransferDlg() {
         m_list.m_strFolder = Local().c_str();
@@ -29,8 +30,8 @@ protected:
             delete m_list.m_lstItem.RemoveHead();
     }
     std::filesystem::path Local() const { return m_folder / L"drawings"; }
-    std::wstring Path(const wchar_t* name) const { return (Local() / name).wstring(); }
-    const SSignFileDULItem* Add(const wchar_t* remote, const wchar_t* local) {
+    std::wstring Path(const std::wstring& name) const { return (Local() / name).wstring(); }
+    SSignFileDULItem* Add(const wchar_t* remote, const wchar_t* local) {
         auto* item = new SSignFileDULItem;
         item->m_strRemoteName = remote;
         item->m_strLocalName = local;
@@ -38,40 +39,64 @@ protected:
         return item;
     }
     // A document that is there on both sides.
-    const SSignFileDULItem* AddFile(const wchar_t* name) {
+    SSignFileDULItem* AddFile(const std::wstring& name) {
         WriteBytes(Local() / name, "x");
         WriteBytes(Vault() / L"files" / name, "x");
-        return Add(name, name);
+        return Add(name.c_str(), name.c_str());
     }
-    // Runs the dialog with the script and keeps what it showed at its end.
-    long Transfer(
-        const Variant& variant, DialogDriver::Script script = [](HWND) {}) {
+    void AddFiles(int count) {
+        for (int i = 0; i < count; ++i)
+            AddFile(std::to_wstring(i) + L" of a list that is long.dwg");
+    }
+    long Run(const Variant& variant) {
+        return &variant == &kDownload ? m_plm.DownloadDoc(&m_list) : m_plm.UploadDoc(&m_list);
+    }
+    // Runs the dialog at its own pace, with the script, and keeps what it showed at its end.
+    long Transfer(const Variant& variant, DialogDriver::Script script) {
         m_driver.Next(std::move(script));
         m_driver.AtEnd([&](HWND dialog) {
-            fileLabel = TextOf(dialog, variant.fileLabel);
-            totalLabel = TextOf(dialog, variant.totalLabel);
+            m_fileLabel = TextOf(dialog, variant.fileLabel);
+            m_totalLabel = TextOf(dialog, variant.totalLabel);
             m_filePosition = SendDlgItemMessageW(dialog, variant.fileBar, PBM_GETPOS, 0, 0);
             m_totalPosition = SendDlgItemMessageW(dialog, variant.totalBar, PBM_GETPOS, 0, 0);
             m_log = TextOf(dialog, variant.log);
+            if (m_beforeEnd) m_beforeEnd();
         });
-        return &variant == &kDownload ? m_plm.DownloadDoc(&m_list) : m_plm.UploadDoc(&m_list);
+        return Run(variant);
     }
-    // Has the dialog get a step that the worker does not report, after the run has started.
-    void PostAfterStart(const Variant& variant, Step step, const wchar_t* path = nullptr) {
-        m_driver.After(variant.firstMessage + Started, 1, [&variant, step, path](HWND dialog) {
-            PostMessageW(dialog, variant.firstMessage + step, reinterpret_cast<WPARAM>(SysAllocString(path)),
-                         0);
+    // The same without the delays before the start and the end.
+    long Hurry(const Variant& variant) {
+        return Transfer(variant, [this](HWND dialog) {
+            SendMessageW(dialog, WM_TIMER, StartTimer, 0);
+            EndSoon(dialog);
         });
     }
-    // The log's texts; each line must begin with a time.
+    // A run is over when it waits for its end; a box disables the dialog meanwhile.
+    void EndSoon(HWND dialog) {
+        if (IsWindow(dialog) && IsWindowEnabled(dialog) && KillTimer(dialog, CloseTimer))
+            SendMessageW(dialog, WM_TIMER, CloseTimer, 0);
+        else if (IsWindow(dialog))
+            m_driver.Post(dialog, [this](HWND window) { EndSoon(window); });
+    }
+    void AfterStep(const Variant& variant, Step step, DialogDriver::Script script) {
+        m_driver.After(variant.firstMessage + step, 1, std::move(script));
+    }
+    // Has the dialog get a step that the worker does not report.
+    static void PostStep(HWND dialog, const Variant& variant, Step step, const wchar_t* path = nullptr) {
+        PostMessageW(dialog, variant.firstMessage + step, reinterpret_cast<WPARAM>(SysAllocString(path)), 0);
+    }
+    // The log's texts; each line must begin with a time of the last minutes.
     std::vector<std::wstring> Log() const {
         std::vector<std::wstring> lines;
+        SYSTEMTIME now;
+        GetLocalTime(&now);
         for (size_t start = 0; start < m_log.size();) {
             const size_t end = m_log.find(L"\r\n", start);
             const std::wstring line = m_log.substr(start, end - start);
-            EXPECT_TRUE(line.size() > 12 && line[2] == L':' && line[5] == L':' &&
-                        line.substr(8, 4) == L" -> ")
-                << ToUtf8(line);
+            int hour = 0, minute = 0, second = 0, length = 0;
+            EXPECT_EQ(3, swscanf(line.c_str(), L"%2d:%2d:%2d -> %n", &hour, &minute, &second, &length));
+            EXPECT_EQ(12, length) << ToUtf8(line);
+            EXPECT_LE((now.wHour * 60 + now.wMinute - hour * 60 - minute + 1440) % 1440, 2) << ToUtf8(line);
             lines.push_back(line.substr(std::min<size_t>(12, line.size())));
             start = end == std::wstring::npos ? m_log.size() : end + 2;
         }
@@ -87,13 +112,23 @@ protected:
         std::ifstream journal(Vault() / L"journal.log");
         return std::count(std::istreambuf_iterator<char>(journal), {}, '\n');
     }
+    // Keeps the dialog busy until its worker has to wait for it, at the latest when 128 messages lie there.
+    void Block() const {
+        for (size_t before = 0, calls = 1; calls != before; calls = ServerCalls()) {
+            before = calls;
+            Sleep(100);
+        }
+    }
 
     SSignFileDUL m_list;
-    std::wstring fileLabel, totalLabel, m_log;
+    std::function<void()> m_beforeEnd;
+    std::wstring m_fileLabel, m_totalLabel, m_log;
     LRESULT m_filePosition = -1, m_totalPosition = -1;
 };
 
-TEST_P(TransferDlg, AFailureInTheMiddle_IsToldAtTheEnd) {
+class EitherTransferDlg : public TransferDlg, public testing::WithParamInterface<const Variant*> {};
+
+TEST_P(EitherTransferDlg, AFailureInTheMiddle_IsToldAtTheEnd) {
     const Variant& variant = *GetParam();
     const std::wstring verb = variant.verb;
     const auto* first = AddFile(L"a.dwg");
@@ -101,8 +136,12 @@ TEST_P(TransferDlg, AFailureInTheMiddle_IsToldAtTheEnd) {
     const auto* third = AddFile(L"三.dwg");
     SetFault(&variant == &kDownload ? L"DownloadFailNames" : L"UploadFailNames", L"b&b.dwg");
     Text folder(Local().wstring()), failed(L"b&b.dwg");
-    EXPECT_EQ(2, m_plm.SetDocSignTag(folder, failed, 5) + m_plm.SetDocSignLogTag(folder, failed, 6));
-    EXPECT_EQ(4, Transfer(variant));
+    EXPECT_EQ(1, m_plm.SetDocSignTag(folder, failed, 5));
+    EXPECT_EQ(1, m_plm.SetDocSignLogTag(folder, failed, 6));
+    EXPECT_EQ(4, Transfer(variant, [&](HWND dialog) {
+                  EXPECT_EQ(L"正在" + verb + L"：", TextOf(dialog, variant.fileLabel));
+                  EXPECT_EQ(verb + L"进度：", TextOf(dialog, variant.totalLabel));
+              }));
     long tags[] = {7, 7, 7};
     m_plm.GetDocSignTag(folder, failed, &tags[0]);
     m_plm.GetDocSignLogTag(folder, failed, &tags[1]);
@@ -127,129 +166,189 @@ TEST_P(TransferDlg, AFailureInTheMiddle_IsToldAtTheEnd) {
                                          begins + c, done + c, L"文档" + verb + L"结束。"}),
               Log());
     ExpectBoxes(variant.title, {L"文档：" + b + L" " + verb + L"失败。\r\n"});
-    EXPECT_EQ(done + c, fileLabel);
-    EXPECT_EQ(verb + L"进度：\t2 / 3", totalLabel);
-    EXPECT_EQ(100, m_filePosition);
+    EXPECT_EQ(done + c, m_fileLabel);
+    EXPECT_EQ(verb + L"进度：\t2 / 3", m_totalLabel);
+    EXPECT_EQ(100, m_filePosition) << "still after the second that the dialog stays";
     EXPECT_EQ(0, m_totalPosition) << "the overall bar stays at its start";
+    EXPECT_LE(580u, m_driver.Messages().front().time - m_driver.ShownAt()) << "start delay and pause";
+    EXPECT_LE(980u, m_driver.EndedAt() - m_driver.Messages().back().time) << "closing delay";
+    EXPECT_GE(4000u, m_driver.EndedAt() - m_driver.Messages().back().time);
 }
 
-TEST_P(TransferDlg, NothingToDo_EndsByItself) {
+TEST_P(EitherTransferDlg, InjectedSteps_CountAndTheFirstResultStays) {
     const Variant& variant = *GetParam();
-    EXPECT_EQ(0, Transfer(variant));
-    ExpectBoxes(variant.title, {std::wstring(L"没有文档需要") + variant.verb + L"。"});
+    AddFile(L"a.dwg");
+    SetFault(L"DelayMs", L"300"); // the file is still on its way
+    AfterStep(variant, Started, [&](HWND dialog) {
+        for (const wchar_t* ignored : {L"", static_cast<const wchar_t*>(nullptr)})
+            PostStep(dialog, variant, Skipped, ignored);
+        PostStep(dialog, variant, Skipped, L"b.dwg");
+        PostStep(dialog, variant, Interrupted);
+    });
+    AfterStep(variant, Ended, [&](HWND dialog) { PostStep(dialog, variant, Done, L"c.dwg"); });
+    EXPECT_EQ(3, Transfer(variant, [](HWND dialog) { SendMessageW(dialog, WM_TIMER, StartTimer, 0); }));
+    ExpectBoxes(variant.title, {std::wstring(L"文档：b.dwg") + variant.skipped + L"\r\n"});
+    const std::vector<std::wstring> log = Log();
+    ASSERT_EQ(6u, log.size());
+    EXPECT_EQ(std::wstring(L"文档") + variant.verb + L"中断。", log[2]);
+    EXPECT_EQ(std::wstring(L"文档") + variant.verb + L"结束。", log[4]);
+    EXPECT_EQ(variant.verb + std::wstring(L"进度：\t1 / 1"), m_totalLabel) << "one too many starts anew";
+}
 
+TEST_P(EitherTransferDlg, NothingToDo_IsTold) {
+    EXPECT_EQ(0, Hurry(*GetParam()));
+    ExpectBoxes(GetParam()->title, {std::wstring(L"没有文档需要") + GetParam()->verb + L"。"});
+}
+
+INSTANTIATE_TEST_SUITE_P(Both, EitherTransferDlg, testing::Values(&kDownload, &kUpload),
+                         [](const auto& info) { return info.param == &kDownload ? "Download" : "Upload"; });
+
+TEST_F(TransferDlg, UnnamedItems_ArePassedOver) {
     m_list.m_lstItem.AddTail(static_cast<SSignFileDULItem*>(nullptr));
     const auto* unnamed = Add(L"", L"a.dwg");
     Add(L"a.dwg", L"");
-    EXPECT_EQ(1, Transfer(variant));
-    EXPECT_EQ((std::vector<std::pair<UINT, std::wstring>>{{Started, L""}, {Ended, L""}}), Steps(variant));
-    EXPECT_EQ(2u, Log().size());
+    EXPECT_EQ(1, Hurry(kDownload));
+    EXPECT_EQ((std::vector<std::pair<UINT, std::wstring>>{{Started, L""}, {Ended, L""}}), Steps(kDownload));
     EXPECT_EQ(0, unnamed->m_nState);
-    EXPECT_EQ(1u, m_driver.Boxes().size());
     EXPECT_EQ(0u, ServerCalls());
 }
 
-TEST_P(TransferDlg, ClosedEarly_FinishesTheFileInHandOnly) {
-    const Variant& variant = *GetParam();
+TEST_F(TransferDlg, ClosedEarly_StaysUntilTheFileInHandIsFinished) {
     const auto* first = AddFile(L"a.dwg");
     const auto* second = AddFile(L"b.dwg");
-    SetFault(L"DelayMs", L"300");
-    m_driver.After(variant.firstMessage + Begins, 1,
-                   [](HWND dialog) { PostMessageW(dialog, WM_CLOSE, 0, 0); });
-    EXPECT_EQ(0, Transfer(variant));
+    SetFault(L"DelayMs", L"500");
+    const auto stillRuns = [&](HWND dialog) {
+        EXPECT_TRUE(IsWindowVisible(dialog));
+        EXPECT_EQ(0, first->m_nState) << "what is posted is served while the worker works";
+    };
+    AfterStep(kDownload, Begins, [&](HWND dialog) {
+        for (int closing = 0; closing < 2; ++closing)
+            SendMessageW(dialog, WM_CLOSE, 0, 0);
+        m_driver.Post(dialog, stillRuns);
+    });
+    EXPECT_EQ(0, Transfer(kDownload, [](HWND) {}));
     EXPECT_EQ(1, first->m_nState) << "the call must not return while the worker writes to the list";
     EXPECT_EQ(0, second->m_nState);
     EXPECT_EQ(1u, ServerCalls());
     EXPECT_TRUE(m_driver.Boxes().empty());
+    EXPECT_EQ(L"正在停止，请等待当前文档完成...", m_fileLabel);
+    ASSERT_EQ(3u, Log().size());
+    EXPECT_EQ(m_fileLabel, Log().back());
 }
 
-TEST_P(TransferDlg, ClosedBeforeTheRun_TransfersNothing) {
+TEST_F(TransferDlg, QuitDuringARun_IsServedAndReachesTheHost) {
+    const auto* item = AddFile(L"a.dwg");
+    SetFault(L"DelayMs", L"500");
+    bool served = false;
+    AfterStep(kUpload, Begins, [](HWND) { PostQuitMessage(7); });
+    m_driver.AtEnd([&](HWND dialog) { m_driver.Post(dialog, [&](HWND) { served = item->m_nState == 0; }); });
+    m_driver.Next([](HWND) {});
+    Run(kUpload);
+    EXPECT_EQ(1, item->m_nState);
+    EXPECT_TRUE(served);
+    MSG quit = {};
+    EXPECT_TRUE(PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(7u, quit.wParam);
+}
+
+TEST_F(TransferDlg, ClosedBeforeTheRun_TransfersNothing) {
     AddFile(L"a.dwg");
-    EXPECT_EQ(0, Transfer(*GetParam(), [](HWND dialog) { PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0); }));
+    EXPECT_EQ(0, Transfer(kUpload, [](HWND dialog) { PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0); }));
     EXPECT_EQ(0u, ServerCalls());
 }
 
-TEST_P(TransferDlg, Activity_WrapsAndEnterIsIgnored) {
-    const Variant& variant = *GetParam();
+TEST_F(TransferDlg, Activity_RunsWhileAFileIsOnItsWay) {
     AddFile(L"a.dwg");
-    SetFault(L"DelayMs", L"300");
-    m_driver.After(variant.firstMessage + Begins, 1, [&](HWND dialog) {
-        const auto position = [&] { return SendDlgItemMessageW(dialog, variant.fileBar, PBM_GETPOS, 0, 0); };
-        EXPECT_EQ(0, position());
-        SendDlgItemMessageW(dialog, variant.fileBar, PBM_SETPOS, 99, 0);
-        for (const int expected : {100, 1, 2}) {
-            SendMessageW(dialog, WM_TIMER, 2, 0);
-            EXPECT_EQ(expected, position());
+    SetFault(L"DelayMs", L"600");
+    const auto position = [](HWND dialog) {
+        return SendDlgItemMessageW(dialog, kDownload.fileBar, PBM_GETPOS, 0, 0);
+    };
+    m_driver.After(WM_TIMER, 3, [&](HWND dialog) { // the start's and two of the activity's
+        EXPECT_EQ(2, position(dialog));
+        SendDlgItemMessageW(dialog, kDownload.fileBar, PBM_SETPOS, 99, 0);
+        for (const int expected : {100, 1}) {
+            SendMessageW(dialog, WM_TIMER, ActivityTimer, 0);
+            EXPECT_EQ(expected, position(dialog));
         }
-        SendMessageW(dialog, WM_COMMAND, IDOK, 0);
+        SendMessageW(dialog, WM_COMMAND, IDOK, 0); // Enter
+        EndSoon(dialog);
     });
-    EXPECT_EQ(1, Transfer(variant));
+    EXPECT_EQ(1, Transfer(kDownload, [](HWND) {}));
     EXPECT_EQ(1u, ServerCalls());
 }
 
-TEST_P(TransferDlg, Interruption_IsLoggedAndTheFirstResultStays) {
-    const Variant& variant = *GetParam();
-    AddFile(L"a.dwg");
-    SetFault(L"DelayMs", L"300");              // the file is still on its way
-    const bool skips = &variant == &kDownload; // though its worker never does
-    if (skips) PostAfterStart(variant, Skipped, L"b.dwg");
-    PostAfterStart(variant, Interrupted);
-    EXPECT_EQ(skips ? 3 : 2, Transfer(variant));
-    if (skips) ExpectBoxes(variant.title, {L"文档：b.dwg 已经存在。\r\n"});
-    const std::vector<std::wstring> log = Log();
-    ASSERT_EQ(5u, log.size());
-    EXPECT_EQ(std::wstring(L"文档") + variant.verb + L"中断。", log[2]);
-    EXPECT_EQ(std::wstring(L"文档") + variant.verb + L"结束。", log[4]);
+TEST_F(TransferDlg, AFailingWorker_ReportsTheInterruption) {
+    auto* item = AddFile(L"a.dwg");
+    // A length that leaves no room for the folder before the name.
+    int& length = reinterpret_cast<int*>(const_cast<wchar_t*>(item->m_strLocalName.GetString()))[-4];
+    ASSERT_EQ(5, length);
+    length = INT_MAX - 2;
+    m_beforeEnd = [&] { length = 5; };
+    EXPECT_EQ(2, Hurry(kDownload));
+    EXPECT_EQ((std::vector<std::pair<UINT, std::wstring>>{{Started, L""}, {Interrupted, L""}}),
+              Steps(kDownload));
 }
 
-TEST_P(TransferDlg, LongList_LogsEveryLine) {
-    const Variant& variant = *GetParam();
-    const int count = 200; // more text than an edit box holds by default
-    for (int i = 0; i < count; ++i)
-        AddFile((std::to_wstring(i) + L" of a list that is long.dwg").c_str());
-    EXPECT_EQ(1, Transfer(variant));
-    EXPECT_EQ(2u * count + 2, Log().size());
-    EXPECT_EQ(variant.verb + std::wstring(L"进度：\t200 / 200"), totalLabel);
+TEST_F(TransferDlg, ABusyDialog_LosesNoReport) {
+    AddFiles(200); // more text than an edit box holds by default
+    AfterStep(kDownload, Begins, [this](HWND) {
+        Block();
+        EXPECT_GE(130u, ServerCalls()) << "the worker waits";
+    });
+    EXPECT_EQ(1, Hurry(kDownload));
+    EXPECT_EQ(402u, Log().size());
+    EXPECT_EQ(L"下载进度：\t200 / 200", m_totalLabel);
 }
 
-INSTANTIATE_TEST_SUITE_P(Both, TransferDlg, testing::Values(&kDownload, &kUpload),
-                         [](const auto& info) { return info.param == &kDownload ? "Download" : "Upload"; });
+TEST_F(TransferDlg, Messages_AreFreedWhetherTakenOrNot) {
+    AddFiles(100);
+    const long long messages = 1024 * 2 * 50; // a quarter of what a run would leave behind
+    EXPECT_GT(messages, MemoryGrowth(1, [this] { Hurry(kUpload); }));
+    const auto close = [this] {
+        AfterStep(kUpload, Begins, [this](HWND dialog) {
+            Block();
+            SendMessageW(dialog, WM_CLOSE, 0, 0);
+        });
+        Transfer(kUpload, [](HWND dialog) { SendMessageW(dialog, WM_TIMER, StartTimer, 0); });
+    };
+    const ObjectCounts before = CountObjects();
+    EXPECT_GT(messages, MemoryGrowth(1, close));
+    const ObjectCounts after = CountObjects();
+    EXPECT_EQ(before.windows, after.windows);
+    EXPECT_EQ(before.kernel, after.kernel) << "threads and events";
+}
 
-using Upload = TransferDlg;
-
-TEST_F(Upload, MissingLocalFiles_AreSkipped) {
+TEST_F(TransferDlg, MissingLocalFiles_AreSkipped) {
+    const std::wstring longName = std::wstring(1100, L'x') + L".dwg";
     const auto* item = Add(L"a", L"a.dwg");
-    Add(L"b", L"b.dwg");
-    EXPECT_EQ(3, Transfer(kUpload));
+    Add(L"b", longName.c_str());
+    EXPECT_EQ(3, Hurry(kUpload));
     EXPECT_EQ((std::vector<std::wstring>{L"开始上传文档...", L"文档上传结束。"}), Log());
     ExpectBoxes(L"上传文档",
-                {L"文档：" + Path(L"a.dwg") + L" 不存在。\r\n文档：" + Path(L"b.dwg") + L" 不存在。\r\n"});
+                {L"文档：" + Path(L"a.dwg") + L" 不存在。\r\n文档：" + Path(longName) + L" 不存在。\r\n"});
     EXPECT_EQ(0, item->m_nState);
     EXPECT_EQ(0u, ServerCalls());
 }
 
-TEST_F(Upload, AFailureOutweighsASkip) {
-    Add(L"a", L"a.dwg");
+TEST_F(TransferDlg, ManyMissingFiles_FitTheScreenAndAreAllLogged) {
+    for (int i = 0; i < 300; ++i)
+        Add(L"a", (std::to_wstring(i) + L".dwg").c_str());
     AddFile(L"b.dwg");
     SetFault(L"UploadFail", L"*");
-    EXPECT_EQ(4, Transfer(kUpload));
-}
-
-TEST_F(Upload, Runs_LeaveNothingBehind) {
-    for (int i = 0; i < 20; ++i)
-        AddFile((std::to_wstring(i) + L".dwg").c_str());
-    const auto run = [this](int steps) {
-        m_driver.After(kUpload.firstMessage + Begins, steps,
-                       [](HWND dialog) { PostMessageW(dialog, WM_CLOSE, 0, 0); });
-        Transfer(kUpload);
-    };
-    run(1);
-    const ObjectCounts before = CountObjects();
-    for (int round = 1; round < 7; ++round)
-        run(round);
-    const ObjectCounts after = CountObjects();
-    EXPECT_EQ(before.windows, after.windows);
-    EXPECT_EQ(before.kernel, after.kernel) << "threads and events of runs that were closed early";
+    m_driver.NextBox([](HWND box) {
+        RECT bounds;
+        GetWindowRect(box, &bounds);
+        EXPECT_GE(GetSystemMetrics(SM_CYSCREEN), bounds.bottom - bounds.top);
+    });
+    EXPECT_EQ(4, Hurry(kUpload)) << "a failure outweighs skips";
+    ASSERT_EQ(1u, m_driver.Boxes().size());
+    const std::wstring& text = m_driver.Boxes()[0].text;
+    const size_t shown = std::count(text.begin(), text.end(), L'\n');
+    EXPECT_LT(20u, shown);
+    EXPECT_NE(std::wstring::npos,
+              text.find(L"\r\n另有 " + std::to_wstring(301 - shown) + L" 个文档，请查看日志。"));
+    ASSERT_EQ(304u, Log().size());
+    EXPECT_EQ(L"文档：" + Path(L"299.dwg") + L" 不存在。", Log()[301]);
 }
 
 } // namespace
