@@ -186,6 +186,25 @@ TEST_F(BackSignTest, ReturnPathWithoutExtension_KeepsItsName) {
     EXPECT_TRUE(fs::exists(m_folder / L"out.d/ret_Ret.Xml"));
 }
 
+// The library is loaded without the neighbours, and with one that lacks its functions; calls of them fail.
+TEST_F(BackSignTest, MissingNeighbours_StopTheDocumentsNotTheHost) {
+    const fs::path built = BinFolder(), bare = m_folder / L"bare";
+    fs::create_directory(bare);
+    for (const wchar_t* file : {L"Varnoke.dll", L"varnoke-host.exe"})
+        fs::copy_file(built / file, bare / file);
+    Prepare({{L"a.dwg"}});
+    SetEnvironmentVariableW(L"VARNOKE_BIN", bare.c_str());
+    for (const bool incomplete : {false, true}) {
+        if (incomplete) fs::copy_file(built / L"QORLocal.dll", bare / L"Durvell.dll");
+        const HostResult result = BackSign();
+        EXPECT_EQ(4u, result.exitCode) << result.Text();
+        EXPECT_TRUE(result.Said("a.dwg: not signed: the download failed")) << result.Text();
+        EXPECT_EQ("0", ReturnValues());
+    }
+    SetEnvironmentVariableW(L"VARNOKE_BIN", built.c_str());
+    EXPECT_EQ(0, Calls("dvl_"));
+}
+
 } // namespace
 
 } // namespace tests

@@ -14,14 +14,6 @@ HANDLE NewOutput(const std::filesystem::path& file) {
     return CreateFileW(file.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, 0, nullptr);
 }
 
-// The folder of the binaries under test: VARNOKE_BIN, else this program's own.
-std::wstring BinFolder() {
-    wchar_t path[MAX_PATH] = L"";
-    if (GetEnvironmentVariableW(L"VARNOKE_BIN", path, MAX_PATH)) return path;
-    GetModuleFileNameW(nullptr, path, MAX_PATH);
-    return std::filesystem::path(path).parent_path().wstring();
-}
-
 BOOL CALLBACK CountWindow(HWND window, LPARAM counted) {
     auto& count = *reinterpret_cast<std::pair<DWORD, int>*>(counted);
     DWORD owner = 0;
@@ -31,6 +23,13 @@ BOOL CALLBACK CountWindow(HWND window, LPARAM counted) {
 }
 
 } // namespace
+
+std::wstring BinFolder() {
+    wchar_t path[MAX_PATH] = L"";
+    if (GetEnvironmentVariableW(L"VARNOKE_BIN", path, MAX_PATH)) return path;
+    GetModuleFileNameW(nullptr, path, MAX_PATH);
+    return std::filesystem::path(path).parent_path().wstring();
+}
 
 bool HostResult::Said(const std::string& line) const {
     return ("\n" + out).find("\n" + line + "\r\n") != std::string::npos;

@@ -18,6 +18,9 @@ struct HostResult {
     std::string Text() const { return "exit " + std::to_string(exitCode) + "\n" + out + err; }
 };
 
+// The folder of the binaries under test: VARNOKE_BIN, else this program's own.
+std::wstring BinFolder();
+
 // Runs varnoke-host.exe to its end; `whileRunning` is called about every 50 ms with its process identifier.
 HostResult RunHost(const std::vector<std::wstring>& arguments,
                    const std::function<void(DWORD)>& whileRunning = nullptr);

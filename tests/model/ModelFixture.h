@@ -32,7 +32,7 @@ struct LocalServices {
 
 template <class Function>
 Function ParserFunction(const char* name) {
-    FARPROC found = GetProcAddress(GetModuleHandleW(L"QORParser.dll"), name);
+    FARPROC found = GetProcAddress(LoadLibraryW(L"QORParser.dll"), name);
     return reinterpret_cast<Function>(reinterpret_cast<void*>(found));
 }
 

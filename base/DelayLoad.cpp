@@ -1,0 +1,96 @@
+#include "base/DelayLoad.h"
+
+#include <string>
+
+#include "base/Owned.h"
+#include "base/Paths.h"
+
+namespace base {
+
+namespace {
+
+/// What the current thread's last call found missing, from the look-up to the throw.
+thread_local MissingImport missing = {nullptr, nullptr, 0};
+
+template <class T>
+T* At(DWORD rva) {
+    return reinterpret_cast<T*>(reinterpret_cast<char*>(ThisModule()) + rva);
+}
+
+std::wstring WideName(const char* name) {
+    return std::wstring(name, name + std::char_traits<char>::length(name));
+}
+
+HMODULE LoadFromPath(const std::wstring& name) {
+    const DWORD size = ::GetEnvironmentVariableW(L"PATH", nullptr, 0);
+    std::wstring path(size, L'\0');
+    if (size == 0 || ::GetEnvironmentVariableW(L"PATH", &path[0], size) >= size) return nullptr;
+    wchar_t file[MAX_PATH] = {};
+    const DWORD length = ::SearchPathW(path.c_str(), name.c_str(), nullptr, MAX_PATH, file, nullptr);
+    if (length == 0 || length >= MAX_PATH) return nullptr;
+    return ::LoadLibraryExW(file, nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+}
+
+HMODULE Load(const std::wstring& name) {
+    HMODULE module = nullptr;
+    if (::GetModuleHandleExW(0, name.c_str(), &module)) return module;
+    const std::wstring beside = FolderPrefix(ModulePath(ThisModule())) + name;
+    if (FileExists(beside)) return ::LoadLibraryExW(beside.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+    module = ::LoadLibraryExW(name.c_str(), nullptr, LOAD_LIBRARY_SEARCH_DEFAULT_DIRS);
+    if (module || ::GetLastError() != ERROR_MOD_NOT_FOUND) return module;
+    module = LoadFromPath(name);
+    if (!module && ::GetLastError() == ERROR_FILE_NOT_FOUND) ::SetLastError(ERROR_MOD_NOT_FOUND);
+    return module;
+}
+
+const char* NameOf(const IMAGE_THUNK_DATA& entry) {
+    return reinterpret_cast<const char*>(
+        At<IMAGE_IMPORT_BY_NAME>(static_cast<DWORD>(entry.u1.AddressOfData))->Name);
+}
+
+/// The first function that is imported from the library and that the module doesn't have; null for none.
+const char* FirstAbsent(const IMAGE_DELAYLOAD_DESCRIPTOR& library, HMODULE module) {
+    const auto* entry = At<const IMAGE_THUNK_DATA>(library.ImportNameTableRVA);
+    for (; entry->u1.AddressOfData != 0; ++entry) {
+        if (!::GetProcAddress(module, NameOf(*entry))) return NameOf(*entry);
+    }
+    return nullptr;
+}
+
+/// The library's module, complete; null with `missing` set otherwise.
+HMODULE Find(const IMAGE_DELAYLOAD_DESCRIPTOR& library) {
+    auto* known = At<HMODULE volatile>(library.ModuleHandleRVA);
+    if (*known) return *known;
+    const char* name = At<const char>(library.DllNameRVA);
+    LibraryHandle module(Load(WideName(name)));
+    if (!module) {
+        missing = {name, nullptr, ::GetLastError()};
+        return nullptr;
+    }
+    if (const char* absent = FirstAbsent(library, module.get())) {
+        missing = {name, absent, ERROR_PROC_NOT_FOUND};
+        return nullptr;
+    }
+    *known = module.release();
+    return *known;
+}
+
+/// Takes the place of the function that was to be called: nothing could be thrown through the linker's stub.
+[[noreturn]] void Raise() {
+    throw missing;
+}
+
+} // namespace
+
+} // namespace base
+
+/// Called by the linker's stubs; gives the function that the stub jumps to.
+extern "C" FARPROC WINAPI __delayLoadHelper2(const IMAGE_DELAYLOAD_DESCRIPTOR* library, FARPROC* slot) {
+    const HMODULE module = base::Find(*library);
+    if (!module) return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(&base::Raise));
+    auto* slots = base::At<FARPROC>(library->ImportAddressTableRVA);
+    const auto* names = base::At<const IMAGE_THUNK_DATA>(library->ImportNameTableRVA);
+    const FARPROC function = ::GetProcAddress(module, base::NameOf(names[slot - slots]));
+    *slot = function;
+    return function;
+}
