@@ -5,13 +5,6 @@
 
 namespace varnoke {
 
-const wchar_t kDefaultDateStyle[] = L"YYYY-MM-DD";
-
-const wchar_t* const kDateStyles[kDateStyleCount] = {
-    kDefaultDateStyle,   L"YYYY年-MM月-DD日", L"YYYY/MM/DD",
-    L"YYYY年/MM月/DD日", L"YYYY.MM.DD",       L"YYYY年.MM月.DD日",
-};
-
 namespace {
 
 struct Token {

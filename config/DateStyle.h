@@ -3,13 +3,15 @@
 
 #include <afxwin.h>
 
+#include "config/SettingDefaults.h"
+
 namespace varnoke {
 
-extern const wchar_t kDefaultDateStyle[]; ///< "YYYY-MM-DD"
-
 /// The styles offered to the user, in this order; the default comes first.
-constexpr int kDateStyleCount = 6;
-extern const wchar_t* const kDateStyles[kDateStyleCount];
+inline constexpr const wchar_t* kDateStyles[] = {
+    kDefaultDateStyle,   L"YYYY年-MM月-DD日", L"YYYY/MM/DD",
+    L"YYYY年/MM月/DD日", L"YYYY.MM.DD",       L"YYYY年.MM月.DD日",
+};
 
 struct CalendarDate {
     int year = 0;

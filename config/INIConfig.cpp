@@ -3,6 +3,7 @@
 
 #include <cwchar>
 
+#include "config/SettingDefaults.h"
 #include "module/Guarded.h"
 #include "module/ModulePaths.h"
 
@@ -54,13 +55,15 @@ constexpr wchar_t kDynDisp[] = L"DynDisp";
 
 constexpr TextSetting kServerIP = {kSignServer, L"ServerIP", L"127.0.0.1"};
 constexpr TextSetting kServerPort = {kSignServer, L"ServerPort", L"8089"};
-constexpr TextSetting kDesignDoMain = {kSignLog, L"DesignDoMain", L"standard"};
-constexpr TextSetting kLocalObjectConfigId = {kSignLog, L"LocalObjectConfigId", L"IQORM_OBJ_SIGN"};
-constexpr TextSetting kServerObjectConfigId = {kSignLog, L"ServerObjectConfigId", L"SIGN"};
+constexpr TextSetting kDesignDoMain = {kSignLog, L"DesignDoMain", varnoke::kDefaultDesignDoMain};
+constexpr TextSetting kLocalObjectConfigId = {kSignLog, L"LocalObjectConfigId",
+                                              varnoke::kDefaultLocalObjectConfigId};
+constexpr TextSetting kServerObjectConfigId = {kSignLog, L"ServerObjectConfigId",
+                                               varnoke::kDefaultServerObjectConfigId};
 constexpr IntegerSetting kIndex = {kSign, L"Index", 0, Any};
 constexpr TextSetting kPin = {kSign, L"Pin", L"480317"};
 constexpr IntegerSetting kDelPre = {kSign, L"DelPre", 0, Any};
-constexpr TextSetting kDateStyle = {kSignDate, L"DateStyle", L"YYYY-MM-DD"};
+constexpr TextSetting kDateStyle = {kSignDate, L"DateStyle", varnoke::kDefaultDateStyle};
 constexpr TextSetting kDateLocation = {kSignDate, L"DateLocation", L"左上"};
 constexpr IntegerSetting kDateFontSize = {kSignDate, L"DateFontSize", 8, Positive};
 constexpr IntegerSetting kDateTextColor = {kSignDate, L"DateTextColor", 0xFFFFFF, NotNegative};

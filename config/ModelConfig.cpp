@@ -1,6 +1,7 @@
 // CModelConfig: loads the model configuration and picks the three configurations that signing needs.
 #include "varnoke/ModelConfig.h"
 
+#include "config/SettingDefaults.h"
 #include "neighbours/qorparser.h"
 #include "module/BstrText.h"
 #include "module/Guarded.h"
@@ -18,11 +19,11 @@ CString OrDefault(const CString& text, const wchar_t* fallback) {
 }
 
 CString LocalId(const CINIConfig& settings) {
-    return OrDefault(settings.GetLocalObjectConfigId(), L"IQORM_OBJ_SIGN");
+    return OrDefault(settings.GetLocalObjectConfigId(), varnoke::kDefaultLocalObjectConfigId);
 }
 
 CString ServerId(const CINIConfig& settings) {
-    return OrDefault(settings.GetServerObjectConfigId(), L"SIGN");
+    return OrDefault(settings.GetServerObjectConfigId(), varnoke::kDefaultServerObjectConfigId);
 }
 
 IQORObjConfigPtr FindObjConfig(IQORConfigModel* model, const CString& id) {
@@ -103,7 +104,7 @@ IQORObjMapConfigPtr CModelConfig::GetMapObjectConfig() {
     return Guarded(IQORObjMapConfigPtr(), [&]() -> IQORObjMapConfigPtr {
         if (!m_model) return nullptr;
         IQORDomainConfigPtr domain;
-        const CString domainName = OrDefault(m_iniConfig.GetDesignDoMain(), L"standard");
+        const CString domainName = OrDefault(m_iniConfig.GetDesignDoMain(), varnoke::kDefaultDesignDoMain);
         CheckError(m_model->GetDomainConfig(ToBstr(domainName), &domain));
         if (!domain) return nullptr;
         IQORObjMapConfigsPtr maps;

@@ -28,7 +28,7 @@ public:
     void Circle(int x, int y, int radius, COLORREF color, int width = 1);
     void Label(const CString& text, RECT area, int height, COLORREF color, const wchar_t* face = L"");
     /// Bitmap header and pixels, as a bitmap file has them after its file header.
-    Bytes Dib() const;
+    std::string Dib() const;
 
 private:
     template <class Draw>
@@ -98,11 +98,10 @@ void Canvas::Label(const CString& text, RECT area, int height, COLORREF color, c
     ::SelectObject(m_hDC, before);
 }
 
-Bytes Canvas::Dib() const {
+std::string Canvas::Dib() const {
     ::GdiFlush();
-    Bytes dib;
-    Append(dib, &m_header, sizeof m_header);
-    if (m_pixels) Append(dib, m_pixels, m_header.biSizeImage);
+    std::string dib(reinterpret_cast<const char*>(&m_header), sizeof m_header);
+    if (m_pixels) dib.append(static_cast<const char*>(m_pixels), m_header.biSizeImage);
     return dib;
 }
 
@@ -152,7 +151,7 @@ void DrawHousing(Canvas& canvas) {
 
 } // namespace
 
-Bytes DrawSheet(const CString& name, const CString& number, int variant) {
+std::string DrawSheet(const CString& name, const CString& number, int variant) {
     static constexpr void (*kParts[])(Canvas&) = {DrawFlange, DrawShaft, DrawHousing};
     Canvas canvas;
     DrawTitleBlock(canvas, name, number);
@@ -160,7 +159,7 @@ Bytes DrawSheet(const CString& name, const CString& number, int variant) {
     return canvas.Dib();
 }
 
-Bytes DrawSignature(const CString& person) {
+std::string DrawSignature(const CString& person) {
     Canvas canvas;
     canvas.Frame(30, 40, kWidth - 30, kHeight - 40, kSeal, 4);
     canvas.Frame(38, 48, kWidth - 38, kHeight - 48, kSeal, 1);

@@ -1,14 +1,16 @@
-// Preview pictures of the sample drawings.
+// Preview pictures of the sample drawings: bitmaps without their file headers.
 #pragma once
 
-#include "host/samples/Bytes.h"
+#include <afxwin.h>
+
+#include <string>
 
 namespace samples {
 
 /// A drawing sheet: frame, part, title block with the drawing's name and number. `variant` chooses the part.
-Bytes DrawSheet(const CString& name, const CString& number, int variant);
+std::string DrawSheet(const CString& name, const CString& number, int variant);
 
 /// A person's signature in a seal frame.
-Bytes DrawSignature(const CString& person);
+std::string DrawSignature(const CString& person);
 
 } // namespace samples

@@ -1,9 +1,9 @@
 // varnoke-samples.exe: makes a server folder, messages and settings to try the reference host with.
 #include <afxwin.h>
 
+#include "base/WholeFile.h"
 #include "host/Console.h"
 #include "host/Paths.h"
-#include "host/samples/Bytes.h"
 #include "host/samples/DrawingFile.h"
 #include "host/samples/Picture.h"
 #include "host/samples/SampleData.h"
@@ -14,25 +14,32 @@ namespace samples {
 
 namespace {
 
+/// UTF-16 with a byte order mark, in which the profile functions keep any text.
+std::string Utf16Of(const CString& text) {
+    const CString marked = CString(L'\xFEFF') + text;
+    return std::string(reinterpret_cast<const char*>(marked.GetString()),
+                       static_cast<size_t>(marked.GetLength()) * sizeof(wchar_t));
+}
+
 /// Writes a server file, with the folders that its name asks for.
-bool WriteServerFile(const CString& files, CString remoteName, const Bytes& bytes) {
+bool WriteServerFile(const CString& files, CString remoteName, const std::string& bytes) {
     remoteName.Replace(L'/', L'\\');
     for (int slash = remoteName.Find(L'\\'); slash >= 0; slash = remoteName.Find(L'\\', slash + 1)) {
         if (!host::EnsureFolder(JoinPath(files, remoteName.Left(slash)))) return false;
     }
-    return WriteFileBytes(JoinPath(files, remoteName), bytes);
+    return base::WriteWholeFile(JoinPath(files, remoteName), bytes);
 }
 
 bool WriteDrawings(const CString& files) {
     int variant = 0;
     for (const SampleDocument& document : SampleDocuments()) {
-        const Bytes picture = DrawSheet(document.title, document.id, variant++);
+        const std::string picture = DrawSheet(document.title, document.id, variant++);
         if (!WriteServerFile(files, document.remoteName, MakeDrawing(document.fileVersion, picture))) {
             return false;
         }
     }
     for (const SampleUser& user : SampleUsers()) {
-        const Bytes picture = DrawSignature(user.person);
+        const std::string picture = DrawSignature(user.person);
         if (!WriteServerFile(files, user.signature, MakeDrawing("AC1015", picture))) return false;
     }
     return true;
@@ -42,16 +49,17 @@ bool WriteVault(const CString& vault) {
     const CString files = JoinPath(vault, L"files");
     const CString objects = JoinPath(vault, L"objects");
     return host::EnsureFolder(vault) && host::EnsureFolder(files) && host::EnsureFolder(objects) &&
-           WriteDrawings(files) && WriteFileBytes(JoinPath(objects, L"USER.xml"), Utf8Of(UserObjects())) &&
-           WriteFileBytes(JoinPath(vault, L"session.ini"), Utf16Of(SessionSettings()));
+           WriteDrawings(files) &&
+           base::WriteWholeFile(JoinPath(objects, L"USER.xml"), base::ToUtf8(UserObjects())) &&
+           base::WriteWholeFile(JoinPath(vault, L"session.ini"), Utf16Of(SessionSettings()));
 }
 
 bool WriteSamples(const CString& folder) {
     return host::EnsureFolder(folder) && WriteVault(JoinPath(folder, L"vault")) &&
            host::EnsureFolder(JoinPath(folder, L"work")) &&
-           WriteFileBytes(JoinPath(folder, L"message.xml"), Utf8Of(StartMessage())) &&
-           WriteFileBytes(JoinPath(folder, L"message-append.xml"), Utf8Of(FurtherMessage())) &&
-           WriteFileBytes(JoinPath(folder, L"Varnoke.ini"), Utf16Of(LibrarySettings()));
+           base::WriteWholeFile(JoinPath(folder, L"message.xml"), base::ToUtf8(StartMessage())) &&
+           base::WriteWholeFile(JoinPath(folder, L"message-append.xml"), base::ToUtf8(FurtherMessage())) &&
+           base::WriteWholeFile(JoinPath(folder, L"Varnoke.ini"), Utf16Of(LibrarySettings()));
 }
 
 } // namespace
