@@ -78,7 +78,3 @@ struct BstrFreer {
 using OwnedBstr = std::unique_ptr<wchar_t, BstrFreer>;
 
 } // namespace base
-
-namespace varnoke {
-using namespace base;
-}

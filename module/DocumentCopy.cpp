@@ -3,12 +3,29 @@
 
 namespace varnoke {
 
-CString PropertyValue(const SSignObj& object, const CString& name) {
+const CString* FirstValue(const SSignObj& object, const CString& name) {
     for (POSITION pos = object.GetHeadPosition(); pos;) {
         const SSignPro* property = object.GetNext(pos);
-        if (property && property->m_strName == name) return property->m_strValue;
+        if (property && property->m_strName == name) return &property->m_strValue;
     }
-    return CString();
+    return nullptr;
+}
+
+const CString* FirstValueNoCase(const SSignObj& object, const CString& name) {
+    for (POSITION pos = object.GetHeadPosition(); pos;) {
+        const SSignPro* property = object.GetNext(pos);
+        if (property && property->m_strName.CompareNoCase(name) == 0) return &property->m_strValue;
+    }
+    return nullptr;
+}
+
+const CString* LastValue(const SSignObj& object, const CString& name) {
+    const CString* value = nullptr;
+    for (POSITION pos = object.GetHeadPosition(); pos;) {
+        const SSignPro* property = object.GetNext(pos);
+        if (property && property->m_strName == name) value = &property->m_strValue;
+    }
+    return value;
 }
 
 bool HasProperties(const SSignObj* object) {

@@ -1,4 +1,5 @@
-// Copies of documents and of their properties, for results that outlive the lists they were chosen from.
+// Documents: the values of their properties, and copies for results that outlive the lists they were chosen
+// from.
 #pragma once
 
 #include <afxwin.h>
@@ -6,8 +7,13 @@
 
 namespace varnoke {
 
-/// The value of the first property of that name; empty when there is none.
-CString PropertyValue(const SSignObj& object, const CString& name);
+/// The value of the first property of exactly that name, as the columns of the document list show it; null
+/// when there is none.
+const CString* FirstValue(const SSignObj& object, const CString& name);
+/// The same without regard to case, as file names are found.
+const CString* FirstValueNoCase(const SSignObj& object, const CString& name);
+/// The value of the last property of exactly that name, as the sign log takes it; null when there is none.
+const CString* LastValue(const SSignObj& object, const CString& name);
 
 /// A document that is worth handing out: there, and with at least one property.
 bool HasProperties(const SSignObj* object);

@@ -9,7 +9,7 @@ CString NewGuid() {
     GUID guid = {};
     LPOLESTR text = nullptr;
     if (FAILED(::CoCreateGuid(&guid)) || FAILED(::StringFromCLSID(guid, &text))) return CString();
-    const TaskMemory<wchar_t> owned(text);
+    const base::TaskMemory<wchar_t> owned(text);
     const CString braced(text);
     return braced.Mid(1, braced.GetLength() - 2);
 }

@@ -3,6 +3,7 @@
 
 #include "config/EntryAttribute.h"
 #include "module/BstrText.h"
+#include "module/DocumentCopy.h"
 #include "module/NewGuid.h"
 
 using namespace QORMODEL;
@@ -12,14 +13,10 @@ namespace varnoke {
 
 namespace {
 
-// The value of a property of the sign object; the last one of a name counts, empty when there is none.
+// Empty when the sign object has no such property.
 CString SignValue(const SSignObj& obj, const CString& name) {
-    CString value;
-    for (POSITION position = obj.GetHeadPosition(); position;) {
-        const SSignPro* property = obj.GetNext(position);
-        if (property && property->m_strName == name) value = property->m_strValue;
-    }
-    return value;
+    const CString* value = LastValue(obj, name);
+    return value ? *value : CString();
 }
 
 // A new entry and its local object, which keeps the client's values apart from those mapped for the server.

@@ -4,6 +4,7 @@
 
 #include "plm/StartSignMerge.h"
 #include "base/WholeFile.h"
+#include "module/DocumentCopy.h"
 #include "module/Text.h"
 #include "plm/NoCase.h"
 #include "plm/SignDataFolder.h"
@@ -12,13 +13,9 @@ namespace varnoke {
 
 namespace {
 
-/// The value of the first property "FNAME", or null.
+/// Null when the document has none.
 const CString* FileNameOf(const SSignObj* object) {
-    for (POSITION position = object ? object->GetHeadPosition() : nullptr; position;) {
-        const SSignPro* property = object->GetNext(position);
-        if (property && property->m_strName.CompareNoCase(L"FNAME") == 0) return &property->m_strValue;
-    }
-    return nullptr;
+    return object ? FirstValueNoCase(*object, L"FNAME") : nullptr;
 }
 
 bool IsSameProperty(const SSignPro* source, const SSignPro* target) {

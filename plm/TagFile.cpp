@@ -49,8 +49,8 @@ std::string FileBytes(const CString& section, const std::wstring& text) {
 bool WriteWholeFile(const CString& path, const std::string& bytes) {
     TemporaryFile temporary(FolderOfPath(path));
     {
-        const FileHandle file = OwnFile(::CreateFileW(temporary.Path(), GENERIC_WRITE, 0, nullptr,
-                                                      CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+        const base::FileHandle file = base::OwnFile(::CreateFileW(
+            temporary.Path(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
         const DWORD size = static_cast<DWORD>(bytes.size());
         DWORD written = 0;
         if (!file || !::WriteFile(file.get(), bytes.data(), size, &written, nullptr) || written != size)

@@ -17,9 +17,8 @@ constexpr int kNameSize = 1024; // of a method name, with its terminator
 struct ExceptionInfo : EXCEPINFO {
     ExceptionInfo() : EXCEPINFO() {}
     ~ExceptionInfo() {
-        const varnoke::OwnedBstr texts[] = {varnoke::OwnedBstr(bstrSource),
-                                            varnoke::OwnedBstr(bstrDescription),
-                                            varnoke::OwnedBstr(bstrHelpFile)};
+        const base::OwnedBstr texts[] = {base::OwnedBstr(bstrSource), base::OwnedBstr(bstrDescription),
+                                         base::OwnedBstr(bstrHelpFile)};
     }
     ExceptionInfo(const ExceptionInfo&) = delete;
     ExceptionInfo& operator=(const ExceptionInfo&) = delete;

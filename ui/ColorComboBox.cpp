@@ -156,7 +156,7 @@ void CColorComboBox::DrawSwatch(const DRAWITEMSTRUCT& item, COLORREF color) {
     RECT swatch = item.rcItem;
     ::InflateRect(&swatch, -ScaledPixels(item.hDC, kSwatchMarginX), -ScaledPixels(item.hDC, kSwatchMarginY));
     swatch.left = ScaledPixels(item.hDC, kSwatchLeft);
-    const varnoke::GdiObject<HBRUSH> brush(::CreateSolidBrush(color));
+    const base::GdiObject<HBRUSH> brush(::CreateSolidBrush(color));
     ::SelectObject(item.hDC, ::GetStockObject(BLACK_PEN));
     const HGDIOBJ previous = ::SelectObject(item.hDC, brush.get());
     ::Rectangle(item.hDC, swatch.left, swatch.top, swatch.right, swatch.bottom);

@@ -145,8 +145,8 @@ void CSDLDlg::AddRow(const SSignObj& object, long position) {
     for (POSITION pos = m_columnKeys.GetHeadPosition(); pos; ++column) {
         const CString& key = m_columnKeys.GetNext(pos);
         if (column < kFirstAttributeColumn) continue;
-        const CString value = PropertyValue(object, key);
-        if (!value.IsEmpty()) m_grid.SetCellText(row, column, value);
+        const CString* value = FirstValue(object, key);
+        if (value && !value->IsEmpty()) m_grid.SetCellText(row, column, *value);
     }
 }
 

@@ -150,7 +150,7 @@ LRESULT CTransferDlg::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 
 LRESULT CTransferDlg::OnStep(TransferStep step, BSTR text) {
     m_worker.ReportTaken();
-    const OwnedBstr owned(text);
+    const base::OwnedBstr owned(text);
     return Guarded<LRESULT>(0, [&]() -> LRESULT {
         HandleStep(step, CString(text));
         m_display.DrawWhenDue();

@@ -14,10 +14,10 @@ const LONG kMostPosted = 128; // messages in the window's queue
 const DWORD kNoRoomWait = 2;  // ms
 
 // Null when there is no memory for the text.
-OwnedBstr MessageText(const CString& path) {
+base::OwnedBstr MessageText(const CString& path) {
     const UINT length = static_cast<UINT>(path.GetLength());
     const UINT room = length < kMessageTextRoom ? kMessageTextRoom : length;
-    OwnedBstr text(::SysAllocStringLen(nullptr, room));
+    base::OwnedBstr text(::SysAllocStringLen(nullptr, room));
     if (!text) return text;
     memset(text.get(), 0, room * sizeof(wchar_t));
     memcpy(text.get(), path.GetString(), length * sizeof(wchar_t));
@@ -43,13 +43,13 @@ bool CTransferWorker::Start(SSignFileDUL* list, HWND window) {
 }
 
 void CTransferWorker::ReportTaken() {
-    const ExclusiveLock lock(m_lock);
+    const base::ExclusiveLock lock(m_lock);
     --m_posted;
 }
 
 void CTransferWorker::Close() {
     {
-        const ExclusiveLock lock(m_lock);
+        const base::ExclusiveLock lock(m_lock);
         if (m_closed) return;
         m_closed = true;
     }
@@ -68,7 +68,7 @@ void CTransferWorker::TakeBackMessages() {
             quit = true;
             break;
         }
-        if (msg.hwnd == m_window) const OwnedBstr text(reinterpret_cast<BSTR>(msg.wParam));
+        if (msg.hwnd == m_window) const base::OwnedBstr text(reinterpret_cast<BSTR>(msg.wParam));
     }
     if (quit) {
         TakeBackMessages();
@@ -138,7 +138,7 @@ bool CTransferWorker::TransferItem(SSignFileDULItem& item, const CString& path) 
 
 // Returns false when there is no memory for the text or nobody to receive it.
 bool CTransferWorker::PostFile(TransferStep step, const CString& path) {
-    OwnedBstr text = MessageText(path);
+    base::OwnedBstr text = MessageText(path);
     if (!text || !Post(step, text.get())) return false;
     text.release(); // the dialog's now
     return true;
@@ -155,7 +155,7 @@ bool CTransferWorker::Post(TransferStep step, BSTR text) {
 }
 
 CTransferWorker::EPostResult CTransferWorker::TryPost(TransferStep step, BSTR text) {
-    const ExclusiveLock lock(m_lock);
+    const base::ExclusiveLock lock(m_lock);
     if (m_closed) return kNobodyThere;
     if (m_posted >= kMostPosted) return kNoRoom;
     const UINT message = m_variant.firstMessage + step;
@@ -167,6 +167,6 @@ CTransferWorker::EPostResult CTransferWorker::TryPost(TransferStep step, BSTR te
 }
 
 bool CTransferWorker::IsClosed() {
-    const ExclusiveLock lock(m_lock);
+    const base::ExclusiveLock lock(m_lock);
     return m_closed;
 }

@@ -46,10 +46,10 @@ private:
     const varnoke::TransferVariant& m_variant;
     SSignFileDUL* m_list = nullptr; // weak
     HWND m_window = nullptr;        // weak; not touched once closed
-    varnoke::KernelHandle m_thread;
+    base::KernelHandle m_thread;
     unsigned m_threadId = 0;
-    SRWLOCK m_lock = SRWLOCK_INIT;       // a post and closing exclude each other
-    bool m_closed = false;               // under m_lock
-    LONG m_posted = 0;                   // under m_lock; messages not yet handled
-    varnoke::KernelHandle m_closedEvent; // ends a wait for the window
+    SRWLOCK m_lock = SRWLOCK_INIT;    // a post and closing exclude each other
+    bool m_closed = false;            // under m_lock
+    LONG m_posted = 0;                // under m_lock; messages not yet handled
+    base::KernelHandle m_closedEvent; // ends a wait for the window
 };

@@ -17,11 +17,11 @@ int RoomOn(HWND window) {
     return CRect(info.rcWork).Height() * 3 / 4;
 }
 
-GdiObject<HFONT> BoxFont() {
+base::GdiObject<HFONT> BoxFont() {
     NONCLIENTMETRICSW metrics = {};
     metrics.cbSize = sizeof(metrics);
     ::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0);
-    return GdiObject<HFONT>(::CreateFontIndirectW(&metrics.lfMessageFont));
+    return base::GdiObject<HFONT>(::CreateFontIndirectW(&metrics.lfMessageFont));
 }
 
 int HeightOf(HDC dc, const CString& line) {
@@ -32,7 +32,7 @@ int HeightOf(HDC dc, const CString& line) {
 } // namespace
 
 size_t LinesThatFit(const std::vector<CString>& lines, HWND window) {
-    const GdiObject<HFONT> font = BoxFont();
+    const base::GdiObject<HFONT> font = BoxFont();
     const CClientDC dc(nullptr);
     const HGDIOBJ previous = ::SelectObject(dc, font.get());
     int left = RoomOn(window) - HeightOf(dc, L" ");

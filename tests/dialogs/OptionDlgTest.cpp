@@ -150,8 +150,8 @@ private:
     static constexpr BITMAPINFO kForm = {{sizeof(BITMAPINFOHEADER), 177, -16, 1, 32, BI_RGB, 0, 0, 0, 0, 0},
                                          {}};
     const HDC m_dc = CreateCompatibleDC(nullptr);
-    const varnoke::GdiObject<HBITMAP> m_bitmap;
-    const varnoke::GdiObject<HFONT> m_font;
+    const base::GdiObject<HBITMAP> m_bitmap;
+    const base::GdiObject<HFONT> m_font;
 };
 
 TEST_F(OptionDlg, Items_AreDrawnAsSwatchAndText) {
