@@ -80,8 +80,8 @@ bool SaveXml(IXMLDOMDocument* document, TextRef path) {
     // Not to the file itself: the parser may call a cut-off file a success.
     StreamPtr stream;
     CheckError(::CreateStreamOnHGlobal(nullptr, TRUE, &stream));
-    CheckError(document->save(_variant_t(static_cast<IUnknown*>(stream))));
-    return WriteWholeFile(path, BytesOf(stream));
+    return SUCCEEDED(document->save(_variant_t(static_cast<IUnknown*>(stream)))) &&
+           WriteWholeFile(path, BytesOf(stream));
 }
 
 } // namespace base

@@ -41,12 +41,4 @@ CString JoinPath(const CString& folder, const CString& name) {
     return CString(base::JoinPath(folder, name).c_str());
 }
 
-CString FullPath(const CString& path) {
-    return CString(base::FullPath(path).c_str());
-}
-
-CString FolderOfPath(const CString& path) {
-    return CString(base::FolderPrefix(path).c_str());
-}
-
 } // namespace varnoke

@@ -22,10 +22,4 @@ CString TemporaryFolder();
 /// Folder and name with exactly the backslash that is missing between them.
 CString JoinPath(const CString& folder, const CString& name);
 
-/// The absolute path, with backslashes only; empty on failure.
-CString FullPath(const CString& path);
-
-/// The path up to and including its last backslash; empty when it has none.
-CString FolderOfPath(const CString& path);
-
 } // namespace varnoke

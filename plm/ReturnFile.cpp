@@ -68,14 +68,14 @@ private:
 
 bool WriteReturnFile(const CStringList& signedNames, const CString& keyName, const CString& workFolder,
                      const CString& returnFile) {
-    DomDocument document = CreateDocument();
-    if (!LoadFile(document, KeptMessagePath(workFolder))) return false;
+    const DomDocument document = base::LoadXmlFile(KeptMessagePath(workFolder));
+    if (!document) return false;
     if (!RemoveNode(document, L"root/objs/type[@id=\"LoginInfo\"]")) return false;
     if (!RemoveNode(document, L"root/objs/type[@id=\"step\"]")) return false;
     const DomNode group = SelectNode(document, L"root/objs/type");
     if (!group) return false;
     if (!DocumentMarker(document, keyName, NonEmptyNames(signedNames)).MarkAll(group)) return false;
-    return SaveDocument(document, returnFile.Left(returnFile.ReverseFind(L'.')) + L"_Ret.Xml");
+    return base::SaveXml(document, returnFile.Left(returnFile.ReverseFind(L'.')) + L"_Ret.Xml");
 }
 
 } // namespace varnoke

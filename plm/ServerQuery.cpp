@@ -33,8 +33,8 @@ CString ReadProperty(const CString& xmlFile, const CString& name) {
     return Guarded(CString(), [&] {
         CString value;
         if (xmlFile.IsEmpty() || name.IsEmpty()) return value;
-        DomDocument document = CreateDocumentAsIs();
-        if (!LoadFile(document, xmlFile)) return value;
+        const DomDocument document = base::LoadXmlFile(xmlFile);
+        if (!document) return value;
         DomElement property(SelectNode(document, L"root/objs/type/obj/pro[@name=\"" + name + L"\"]"));
         if (property) AttributeReader(L"value").Read(property, value);
         return value;

@@ -3,7 +3,6 @@
 #include <afxwin.h>
 
 #include "plm/StartSignMerge.h"
-#include "base/WholeFile.h"
 #include "module/DocumentCopy.h"
 #include "module/Text.h"
 #include "plm/NoCase.h"
@@ -118,21 +117,20 @@ bool AddAttribute(const wchar_t* name, const wchar_t* value, IXMLDOMNamedNodeMap
 }
 
 bool MergeStartSignMessage(const wchar_t* xml, const CString& workFolder, StartSignRecords& records) {
-    DomDocument source = CreateDocument();
-    if (!LoadText(source, xml)) return false;
+    const DomDocument source = LoadMessage(xml);
+    if (!source) return false;
     MakeSignDataFolder(workFolder);
     const CString path = KeptMessagePath(workFolder);
-    if (!base::OpenForReading(path)) return false;
     MakeWritable(path);
-    DomDocument target = CreateDocument();
-    if (!LoadFile(target, path)) return false;
+    const DomDocument target = base::LoadXmlFile(path);
+    if (!target) return false;
 
     records.login = MergeLoginInfo(source, target);
     if (!records.login) return false;
     records.steps = MergeSignSteps(source, target);
     if (!records.steps) return false;
     records.files = MergeSignFiles(source, target);
-    return records.files && SaveDocument(target, path);
+    return records.files && base::SaveXml(target, path);
 }
 
 } // namespace varnoke

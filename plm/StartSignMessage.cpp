@@ -97,10 +97,10 @@ CString KeptMessagePath(const CString& workFolder) {
 }
 
 bool ParseStartSignMessage(const wchar_t* xml, const CString& workFolder, StartSignRecords& records) {
-    DomDocument document = CreateDocument();
-    if (!LoadText(document, xml)) return false;
+    const DomDocument document = LoadMessage(xml);
+    if (!document) return false;
     MakeSignDataFolder(workFolder);
-    if (!SaveDocument(document, KeptMessagePath(workFolder))) return false;
+    if (!base::SaveXml(document, KeptMessagePath(workFolder))) return false;
 
     records.login = ReadLoginInfo(document);
     if (!records.login) return false;

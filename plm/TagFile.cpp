@@ -3,23 +3,13 @@
 
 #include "plm/TagFile.h"
 #include "base/WholeFile.h"
-#include "module/ModulePaths.h"
-#include "base/Owned.h"
 #include "plm/NoCase.h"
-#include "plm/TemporaryFile.h"
 
 #include <string>
 
 namespace varnoke {
 
 namespace {
-
-/// Empty for a missing file.
-std::string ReadWholeFile(const CString& path) {
-    std::string bytes;
-    base::ReadWholeFile(path, bytes);
-    return bytes;
-}
 
 /// The section's lines, each ended by a null character. A section is seldom longer than its file.
 std::wstring ReadSection(const CString& path, const CString& section, size_t fileSize) {
@@ -44,19 +34,6 @@ std::string FileBytes(const CString& section, const std::wstring& text) {
     ::WideCharToMultiByte(CP_ACP, 0, file.c_str(), length, &bytes[0], static_cast<int>(bytes.size()), nullptr,
                           nullptr);
     return bytes;
-}
-
-bool WriteWholeFile(const CString& path, const std::string& bytes) {
-    TemporaryFile temporary(FolderOfPath(path));
-    {
-        const base::FileHandle file = base::OwnFile(::CreateFileW(
-            temporary.Path(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-        const DWORD size = static_cast<DWORD>(bytes.size());
-        DWORD written = 0;
-        if (!file || !::WriteFile(file.get(), bytes.data(), size, &written, nullptr) || written != size)
-            return false;
-    }
-    return temporary.MoveTo(path);
 }
 
 /// Whether the profile functions read the key back as it was written and tell it from others as is done here:
@@ -113,7 +90,8 @@ void WriteTagEntries(const CString& path, const CString& section, const std::vec
     bool plain = true;
     for (const TagEntry& entry : entries)
         plain = plain && IsPlainKey(entry.key);
-    const std::string file = ReadWholeFile(path);
+    std::string file; // empty for a missing file
+    base::ReadWholeFile(path, file);
     const std::wstring text = ReadSection(path, section, file.size());
     // A file that holds anything but the section's plain lines, such as comments, would lose that by being
     // written as a whole.
@@ -126,7 +104,7 @@ void WriteTagEntries(const CString& path, const CString& section, const std::vec
     for (const TagEntry& entry : entries)
         lines.Set(entry);
     // The profile functions may look every key up from the first one on, which is too slow for long lists.
-    if (!WriteWholeFile(path, FileBytes(section, lines.Text()))) {
+    if (!base::WriteWholeFile(path, FileBytes(section, lines.Text()))) {
         ::WritePrivateProfileSectionW(section, lines.Text().c_str(), path);
     }
 }

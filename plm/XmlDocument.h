@@ -1,36 +1,24 @@
-// Documents of the system's XML parser: loading without references to the outside, saving without
-// half-written files. Failing calls of the parser raise _com_error unless stated otherwise.
+// Messages as documents of the system's XML parser, and their nodes. Failing calls of the parser raise
+// _com_error.
 #pragma once
 
 #include <afxwin.h>
-#include <comdef.h>
-#include <msxml2.h>
+
+#include "base/Xml.h"
 
 namespace varnoke {
 
-inline constexpr IID kDocument2Id = {
-    0x2933bf95, 0x7b36, 0x11d2, {0xb2, 0x0e, 0x00, 0xc0, 0x4f, 0x98, 0x3e, 0x60}};
-
-using DomDocument = _com_ptr_t<_com_IIID<IXMLDOMDocument2, &kDocument2Id>>;
-using DomNode = _com_ptr_t<_com_IIID<IXMLDOMNode, &IID_IXMLDOMNode>>;
-using DomElement = _com_ptr_t<_com_IIID<IXMLDOMElement, &IID_IXMLDOMElement>>;
-using DomNodeList = _com_ptr_t<_com_IIID<IXMLDOMNodeList, &IID_IXMLDOMNodeList>>;
+using DomDocument = base::XmlDocumentPtr;
+using DomNode = base::XmlNodePtr;
+using DomElement = base::XmlElementPtr;
+using DomNodeList = base::XmlNodeListPtr;
 
 /// Whether a call gave a result; raises _com_error when it failed.
 bool Succeeded(HRESULT result);
 
-/// A document that loads with its caller waiting for it.
-DomDocument CreateDocument();
-/// A document whose loading mode is the parser's own.
-DomDocument CreateDocumentAsIs();
-
-/// False for a text or file that is not well-formed or brings a document type definition.
-bool LoadText(DomDocument& document, const wchar_t* text);
-bool LoadFile(DomDocument& document, const CString& path);
-
-/// Writes a temporary file beside `path`, which then takes its place, read-only or not. On failure the old
-/// file stays and false is returned.
-bool SaveDocument(IXMLDOMDocument* document, const CString& path);
+/// Loads a text, whatever encoding its XML declaration names; null for one that is not well-formed or brings
+/// a document type definition.
+DomDocument LoadMessage(const wchar_t* text);
 
 /// First match of the path, or null.
 DomNode SelectNode(IXMLDOMNode* context, const wchar_t* path);
