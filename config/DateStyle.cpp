@@ -1,8 +1,6 @@
 // Rendering of dates in a date style.
 #include "config/DateStyle.h"
 
-#include <time.h>
-
 namespace varnoke {
 
 namespace {
@@ -31,10 +29,10 @@ const Token* TokenAt(const wchar_t* text) {
 } // namespace
 
 CalendarDate Today() {
-    const __time64_t now = _time64(nullptr);
-    tm local = {};
-    if (_localtime64_s(&local, &now) != 0) return CalendarDate();
-    return CalendarDate{local.tm_year + 1900, local.tm_mon + 1, local.tm_mday};
+    // Not from the run-time library, whose local time follows TZ by a grammar of its own.
+    SYSTEMTIME now = {};
+    ::GetLocalTime(&now);
+    return CalendarDate{now.wYear, now.wMonth, now.wDay};
 }
 
 DateStyleFault CheckDateStyle(const CString& style) {

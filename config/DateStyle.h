@@ -19,7 +19,7 @@ struct CalendarDate {
     int day = 0;   ///< from 1
 };
 
-/// Today in local time; zeros when the clock cannot be converted.
+/// Today in local time.
 CalendarDate Today();
 
 /// What a style lacks, in the order in which it is looked for.

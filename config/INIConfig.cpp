@@ -1,9 +1,14 @@
 // Reader and writer of the settings file: a table of all settings and thin accessors over it.
 #include "varnoke/INIConfig.h"
 
-#include <cwchar>
+#include <cfloat>
+#include <cstdlib>
+#include <cwctype>
+#include <locale.h>
+#include <string>
 
 #include "config/SettingDefaults.h"
+#include "config/SettingStore.h"
 #include "module/Guarded.h"
 #include "module/ModulePaths.h"
 
@@ -117,18 +122,48 @@ long Read(const CString& path, const IntegerSetting& setting) {
     return Read(path, setting, setting.fallback);
 }
 
+/// The decimal number that a text begins with; 0 without one or for one that is too large. The host's locale
+/// and what the run-time library takes for a number besides ("nan", "0x10") do not matter.
+double NumberOf(const wchar_t* text) {
+    static const _locale_t plain = ::_create_locale(LC_ALL, "C");
+    while (iswspace(*text))
+        ++text;
+    const wchar_t* end = text;
+    const auto skip = [&end](const wchar_t* set) {
+        const size_t length = wcsspn(end, set);
+        end += length;
+        return length;
+    };
+    constexpr wchar_t kDigits[] = L"0123456789";
+    if (*end == L'+' || *end == L'-') ++end;
+    size_t digits = skip(kDigits);
+    if (*end == L'.') {
+        ++end;
+        digits += skip(kDigits);
+    }
+    if (digits == 0) return 0.0;
+    const wchar_t* const mantissaEnd = end;
+    if (*end == L'e' || *end == L'E') {
+        ++end;
+        if (*end == L'+' || *end == L'-') ++end;
+        if (skip(kDigits) == 0) end = mantissaEnd;
+    }
+    const double value = ::_wtof_l(std::wstring(text, end).c_str(), plain);
+    return value >= -DBL_MAX && value <= DBL_MAX ? value : 0.0;
+}
+
 double Read(const CString& path, const NumberSetting& setting) {
     return varnoke::Guarded(0.0, [&] {
         if (path.IsEmpty()) return 0.0;
         wchar_t buffer[kBufferSize] = {};
         ::GetPrivateProfileStringW(setting.section, setting.key, L"0.00", buffer, kBufferSize, path);
-        return _wtof(buffer);
+        return NumberOf(buffer);
     });
 }
 
 template <class Setting>
 long WriteText(const CString& path, const Setting& setting, const CString& value) {
-    return !path.IsEmpty() && ::WritePrivateProfileStringW(setting.section, setting.key, value, path) ? 1 : 0;
+    return !path.IsEmpty() && varnoke::StoreSetting(path, setting.section, setting.key, value) ? 1 : 0;
 }
 
 long Write(const CString& path, const TextSetting& setting, const CString& value) {

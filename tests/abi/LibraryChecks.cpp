@@ -1,6 +1,7 @@
 // Varnoke.dll as another compiler's program uses it: records by offset, built on either side and released by
 // the library; CString by value; exceptions that must not come out.
 #include <afxwin.h>
+#include <locale.h>
 #include <malloc.h>
 #include "varnoke/Varnoke.h"
 #include "tests/abi/Checks.h"
@@ -125,6 +126,59 @@ void ExceptionsStayInside(CPLMInteract& plm) {
     }
 }
 
+template <class Field>
+Field FieldAt(const void* record, size_t offset) {
+    return *reinterpret_cast<const Field*>(static_cast<const char*>(record) + offset);
+}
+
+// The library's own file, read with the run-time library that is shipped: what it makes of numbers is not the
+// one of the other build.
+void Settings() {
+    CString path;
+    GetModuleFileNameW(GetModuleHandleW(L"Varnoke.dll"), path.GetBuffer(MAX_PATH), MAX_PATH);
+    path.ReleaseBuffer();
+    path = path.Left(path.ReverseFind(L'\\') + 1) + L"Varnoke.ini";
+    const auto set = [&](const wchar_t* section, const wchar_t* key, const wchar_t* value) {
+        CHECK(WritePrivateProfileStringW(section, key, value, path));
+    };
+    DeleteFileW(path);
+    set(L"Sign", L"Index", L"-3");
+    set(L"Sign", L"Pin", L" 55 ");
+    set(L"SignDate", L"DateStyle", L"D.M.YYYY%s");
+    set(L"SignDate", L"DateFontSize", L"15");
+    set(L"SignDate", L"DateTextColor", L"66");
+    set(L"SignDate", L"DateFontName", L"黑体");
+    set(L"DynDisp", L"ProgID", L"No.Such.Server");
+    CSignOpt sign;
+    CHECK(sign.Initialize(nullptr) == 0);
+    SSignInfo* info = nullptr;
+    CHECK(sign.GetSignInfoForBackSign(CString(L"a.dwg").GetBuffer(), &info) == 1);
+    if (!info) return;
+    CHECK(FieldAt<long>(info, 0x68) == -3 && TextAt(info, 0x70) == L"55" && TextAt(info, 0xA0) == L"黑体");
+    CHECK(FieldAt<double>(info, 0x90) == 15.0 && FieldAt<long>(info, 0x98) == 66);
+    SYSTEMTIME today;
+    GetLocalTime(&today);
+    CString date;
+    date.Format(L"%d.%d.%.4d%%s", today.wDay, today.wMonth, today.wYear);
+    CHECK(TextAt(info, 0x78) == date && TextAt(info, 0) == L"" && FieldAt<long>(info, 0xD8) == 0);
+    CHECK(Cmn_ReleaseSignInfo(info) == 1);
+
+    const struct {
+        const wchar_t* text;
+        double number;
+    } numbers[] = {{L"-1.5e1x", -15.0}, {L"nan", 0.0},   {L"inf", 0.0},
+                   {L"0x10", 0.0},      {L"9e999", 0.0}, {L"4,5", 4.0}};
+    CHECK(setlocale(LC_ALL, "de-DE"));
+    for (const auto& row : numbers) {
+        set(L"SignDate", L"DateOffsetY", row.text);
+        CHECK(sign.GetSignInfoForBackSign(CString(L"a.dwg").GetBuffer(), &info) == 1);
+        CHECK(FieldAt<double>(info, 0x88) == row.number && FieldAt<double>(info, 0x80) == 0.0);
+        CHECK(Cmn_ReleaseSignInfo(info) == 1);
+    }
+    setlocale(LC_ALL, "C");
+    DeleteFileW(path);
+}
+
 // The memory comes from this program; the destructor in the table, which frees it, is the library's.
 void DestructionThroughTheTable() {
     CCOMAPInvokeHelper* base = new CSignOpt;
@@ -143,5 +197,6 @@ void checks::Library() {
     Records(plm, folder);
     Strings(plm, folder);
     ExceptionsStayInside(plm);
+    Settings();
     DestructionThroughTheTable();
 }

@@ -1,5 +1,6 @@
 // Tests of the settings reader on real files.
 #include <afxwin.h>
+#include <locale.h>
 #include <gtest/gtest.h>
 #include "varnoke/INIConfig.h"
 #include "module/ModulePaths.h"
@@ -70,6 +71,19 @@ protected:
             EXPECT_EQ(setting.read(config), setting.*expected) << tests::ToUtf8(setting.key);
     }
 
+    // The written settings as they stand in the file.
+    std::wstring Written() const {
+        std::wstring texts;
+        for (const wchar_t* key :
+             {L"DateStyle", L"DateLocation", L"DateFontSize", L"DateTextColor", L"Scope"}) {
+            wchar_t text[100];
+            const wchar_t* section = key == std::wstring(L"Scope") ? L"SignScope" : L"SignDate";
+            GetPrivateProfileStringW(section, key, L"?", text, 100, m_file.c_str());
+            texts += text + std::wstring(L"|");
+        }
+        return texts;
+    }
+
     tests::TempFolder m_folder;
     const std::filesystem::path m_file = m_folder / L"设置.ini";
     CINIConfig m_config;
@@ -104,8 +118,7 @@ TEST_F(INIConfig, Stored_IsReadByEachGetterInBothEncodings) {
 TEST_F(INIConfig, Unusable_GivesTheDefaultAndLongIsCut) {
     const wchar_t* const kBlank[] = {L"", L"   ", L"\" \t \"", L"　"};
     std::vector<std::pair<std::wstring, const wchar_t*>> unusable = {
-        {L"Scope", L"0"},      {L"Scope", L"4"},        {L"DateOffsetX", L"abc"},
-        {L"DateOffsetX", L""}, {L"DateFontSize", L"0"}, {L"DateTextColor", L"-1"}};
+        {L"Scope", L"0"}, {L"Scope", L"4"}, {L"DateFontSize", L"0"}, {L"DateTextColor", L"-1"}};
     for (const wchar_t* blank : kBlank) {
         unusable.emplace_back(L"ServerIP", blank);
         Store(L"SignServer", L"王工", blank);
@@ -125,32 +138,72 @@ TEST_F(INIConfig, Unusable_GivesTheDefaultAndLongIsCut) {
     EXPECT_EQ(m_config.GetDynDisp(L""), L"");
 }
 
+TEST_F(INIConfig, Number_IsDecimalAndFiniteInAnyLocale) {
+    const std::pair<const wchar_t*, double> kNumbers[] = {
+        {L"-1.5", -1.5}, {L"+.5e1x", 5}, {L"2.", 2},  {L"3e", 3},    {L"4,5", 4}, {L"\" 6\"", 6}, {L"7d1", 7},
+        {L"0x10", 0},    {L"nan", 0},    {L"inf", 0}, {L"9e999", 0}, {L"abc", 0}, {L"-", 0},      {L"", 0}};
+    ASSERT_NE(setlocale(LC_NUMERIC, "German"), nullptr);
+    for (const auto& [text, number] : kNumbers) {
+        Store(L"SignDate", L"DateOffsetX", text);
+        EXPECT_EQ(m_config.GetDateOffsetX(), number) << tests::ToUtf8(text);
+    }
+    setlocale(LC_NUMERIC, "C");
+}
+
 TEST_F(INIConfig, Setters_StoreUsableValuesOnly) {
-    const auto written = [this] {
-        std::wstring texts;
-        for (const wchar_t* key :
-             {L"DateStyle", L"DateLocation", L"DateFontSize", L"DateTextColor", L"Scope"}) {
-            wchar_t text[100];
-            const wchar_t* section = key == std::wstring(L"Scope") ? L"SignScope" : L"SignDate";
-            GetPrivateProfileStringW(section, key, L"?", text, 100, m_file.c_str());
-            texts += text + std::wstring(L"|");
-        }
-        return texts;
-    };
     const auto write = [this](const wchar_t* style, long size, long color, long scope) {
         return m_config.SetDateStyle(style) + m_config.SetDateLocation(L"中中") +
                m_config.SetDateFontSize(size) + m_config.SetDateTextColor(color) + m_config.SetScope(scope);
     };
     EXPECT_EQ(write(L"D/M/YYYY", 48, 254, 3), 5);
-    EXPECT_EQ(written(), L"D/M/YYYY|中中|48|254|3|");
+    EXPECT_EQ(Written(), L"D/M/YYYY|中中|48|254|3|");
     EXPECT_EQ(write(L"", 0, -1, 5), 5);
-    EXPECT_EQ(written(), L"YYYY-MM-DD|中中|8|16777215|1|");
-    // A read-only file would not do: it does not stop the administrator under Wine.
+    EXPECT_EQ(Written(), L"YYYY-MM-DD|中中|8|16777215|1|");
+    EXPECT_EQ(m_config.SetDateLocation(L" \"右 上\" ") + m_config.SetDateStyle(L" "), 2);
+    EXPECT_EQ(m_config.GetDateLocation() + m_config.GetDateStyle(), L"右 上YYYY-MM-DD");
+}
+
+TEST_F(INIConfig, Setters_FailWithTheOldFileKept) {
+    Store(L"SignScope", L"Scope", L"2");
+    SetFileAttributesW(m_file.c_str(), FILE_ATTRIBUTE_READONLY);
+    EXPECT_EQ(m_config.SetScope(3), 0);
+    EXPECT_TRUE(GetFileAttributesW(m_file.c_str()) & FILE_ATTRIBUTE_READONLY);
+    SetFileAttributesW(m_file.c_str(), FILE_ATTRIBUTE_NORMAL);
     const HANDLE heldByAnother =
         CreateFileW(m_file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
-    EXPECT_EQ(write(L"D/M/YYYY", 48, 254, 3), 0);
-    EXPECT_EQ(written(), L"YYYY-MM-DD|中中|8|16777215|1|");
+    EXPECT_EQ(m_config.SetScope(3), 0);
     CloseHandle(heldByAnother);
+    EXPECT_EQ(m_config.GetScope(), 2);
+
+    const std::string old = tests::ReadBytes(m_file);
+    ASSERT_TRUE(CreateHardLinkW((m_folder / "link").c_str(), m_file.c_str(), nullptr));
+    EXPECT_EQ(m_config.SetScope(3), 1);
+    EXPECT_EQ(tests::ReadBytes(m_folder / "link"), old) << "the old file is never written to";
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(m_folder.Path()), {}), 2);
+}
+
+TEST_F(INIConfig, Setters_KeepTheFilesEncodingUnlessTextWouldBeLost) {
+    const std::string ansi = "[SignDate]\r\nDateFontName=\xBA\xDA\xCC\xE5\r\n[Own]\r\n;note\r\nx=\"1\"\r\n";
+    const std::string utf8 = "[SignDate]\r\nDateFontName=\xE9\xBB\x91\xE4\xBD\x93\r\n[Own]\r\nx=\"1\"\r\n";
+    const struct {
+        std::string bytes;
+        const wchar_t* location;
+        bool utf16;
+    } kCases[] = {{ansi, L"右下", false},
+                  {ansi, L"Ł", true},
+                  {utf8, L"右下", true},
+                  {"\xEF\xBB\xBF" + utf8, L"x", true}};
+    for (const auto& c : kCases) {
+        tests::WriteBytes(m_file, c.bytes);
+        EXPECT_EQ(m_config.SetDateLocation(c.location), 1);
+        EXPECT_EQ(m_config.GetDateLocation(), c.location);
+        EXPECT_EQ(m_config.GetDateFontName(), L"黑体") << c.bytes;
+        EXPECT_EQ(tests::ReadBytes(m_file).substr(0, 2) == "\xFF\xFE", c.utf16) << c.bytes;
+        EXPECT_EQ(GetPrivateProfileIntW(L"Own", L"x", 0, m_file.c_str()), 1u);
+    }
+    std::filesystem::remove(m_file);
+    EXPECT_EQ(m_config.SetDateLocation(L"Ł"), 1);
+    EXPECT_EQ(m_config.GetDateLocation(), L"Ł") << "a new file is UTF-16";
 }
 
 } // namespace
