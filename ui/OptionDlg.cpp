@@ -2,7 +2,7 @@
 
 #include "varnoke/INIConfig.h"
 #include "module/Guarded.h"
-#include "module/InfoMessage.h"
+#include "ui/InfoMessage.h"
 #include "module/ResourceText.h"
 
 BEGIN_MESSAGE_MAP(COptionDlg, CDialog)

@@ -5,7 +5,7 @@
 #include "config/EntryAttribute.h"
 #include "varnoke/ModelConfig.h"
 #include "module/Guarded.h"
-#include "module/InfoMessage.h"
+#include "ui/InfoMessage.h"
 #include "module/DocumentCopy.h"
 #include "neighbours/QORGridIds.h"
 #include "module/ResourceText.h"

@@ -2,7 +2,7 @@
 
 #include "varnoke/INIConfig.h"
 #include "module/Guarded.h"
-#include "module/InfoMessage.h"
+#include "ui/InfoMessage.h"
 #include "config/DateStyle.h"
 #include "module/ResourceText.h"
 #include "ui/SignScope.h"

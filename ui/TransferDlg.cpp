@@ -1,7 +1,7 @@
 #include "ui/TransferDlg.h"
 
 #include "module/Guarded.h"
-#include "module/InfoMessage.h"
+#include "ui/InfoMessage.h"
 #include "base/Owned.h"
 #include "module/ResourceText.h"
 #include "ui/WarningBox.h"
@@ -210,7 +210,7 @@ void CTransferDlg::OnFileDone(const CString& path) {
 
 void CTransferDlg::OnFileMissed(UINT complaint, const CString& path, TransferStep step) {
     m_resultCode = ResultAfter(m_resultCode, step);
-    m_warnings.push_back(WarningLine(path, ResourceText(complaint)));
+    m_warnings.push_back(ResourceText(IDS_WARNING_ABOUT) + path + L" " + ResourceText(complaint));
 }
 
 void CTransferDlg::ShowWarnings(size_t shown) {

@@ -24,10 +24,6 @@ CString LogLine(const CString& text, const tm* time) {
     return line + L" -> " + text + L"\r\n";
 }
 
-CString WarningLine(const CString& path, const CString& complaint) {
-    return L"文档：" + path + L" " + complaint;
-}
-
 CString CountText(const CString& label, int done, int count) {
     CString text;
     text.Format(L"\t%d / %d", done, count);

@@ -22,9 +22,6 @@ int ResultAfter(int result, TransferStep step);
 /// The line that is logged for a text at a local time, with its line end. Without a time each part is -1.
 CString LogLine(const CString& text, const tm* time);
 
-/// The warning about a file; `complaint` says what is wrong with it.
-CString WarningLine(const CString& path, const CString& complaint);
-
 /// "<label><tab>done / count"
 CString CountText(const CString& label, int done, int count);
 

@@ -68,6 +68,7 @@
 #define IDC_OPTION_COLOR_LABEL 4049
 
 // Sign dialog: what is wrong with the input
+#define IDS_INFO_CAPTION 5000
 #define IDS_NO_USER_NAME 5001
 #define IDS_NO_ROLE 5002
 #define IDS_NO_SEAL_NAME 5003
@@ -111,5 +112,6 @@
 #define IDS_UPLOAD_FAILED 5058
 #define IDS_TRANSFER_STOPPING 5060
 #define IDS_MORE_WARNINGS 5061
+#define IDS_WARNING_ABOUT 5062
 
 #endif

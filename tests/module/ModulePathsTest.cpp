@@ -2,7 +2,6 @@
 #include <afxwin.h>
 #include <gtest/gtest.h>
 #include "base/Paths.h"
-#include "module/InfoMessage.h"
 #include "module/ModulePaths.h"
 #include "module/NewGuid.h"
 #include "module/VarnokeApp.h"
@@ -26,10 +25,6 @@ TEST(ModulePaths, Files_LieBesideTheirModuleOrElsewhere) {
     EXPECT_STREQ(varnoke::ModelConfigPath(), (folder / "ModelConfig.Xml").c_str());
     FreeLibrary(module);
     EXPECT_EQ(varnoke::TemporaryFolder().Right(1), L"\\");
-}
-
-TEST(InfoMessage, WithoutTextNothingIsShown) {
-    EXPECT_EQ(varnoke::ShowInfo(CString(), nullptr), 0);
 }
 
 TEST(NewGuid, IsUpperCaseWithoutBracesAndFresh) {
