@@ -1,7 +1,10 @@
 // The sign log: which entries a signature or a deletion leaves in the record, and its way to the server.
 #include "plm/SignLog.h"
 
+#include <utility>
+
 #include "module/BstrText.h"
+#include "plm/RecordAppend.h"
 #include "plm/SignLogEntry.h"
 #include "plm/SignRecordFile.h"
 #include "plm/SignDataFolder.h"
@@ -39,8 +42,8 @@ LoggedEntries FindLogged(IQORDataModel* model, const SignLogSource& source) {
     for (long index = 0; index < count; ++index) {
         IQORDataEntryPtr entry;
         CheckError(entries->GetItem(index, &entry));
-        if (ReadProperty(entry, L"QORMROLE") != source.role) continue;
-        const bool deletion = ReadProperty(entry, L"QORMTYPE") == L"D";
+        if (EntryProperty(entry, L"QORMROLE") != source.role) continue;
+        const bool deletion = EntryProperty(entry, L"QORMTYPE") == L"D";
         IQORDataEntryPtr& place = deletion ? logged.deletion : logged.signature;
         if (place) Drop(logged, place);
         place = entry;
@@ -49,7 +52,7 @@ LoggedEntries FindLogged(IQORDataModel* model, const SignLogSource& source) {
 }
 
 // Brings the model to its intended state; false when it is in it already.
-bool Log(IQORDataModel* model, const SignLogSource& source) {
+bool LogInModel(IQORDataModel* model, const SignLogSource& source) {
     LoggedEntries logged = FindLogged(model, source);
     const bool signature = source.kind == L"N";
     const bool replaces = logged.signature;
@@ -63,6 +66,19 @@ bool Log(IQORDataModel* model, const SignLogSource& source) {
     return logged.dropped;
 }
 
+// Reads and, where the entry asks for it, writes the whole record.
+bool LogAnew(KnownRecord& known, const CString& signDataFolder, const SignLogSource& source) {
+    known = KnownRecord();
+    SignRecordFile record(signDataFolder);
+    if (!record.Read()) return false;
+    const bool changed = LogInModel(record.Model(), source);
+    known.index.Read(record.Model());
+    if (changed && !record.Save()) return false;
+    known.form = changed ? RecordForm::Written : RecordForm::Found;
+    known.Note(SignRecordPath(signDataFolder));
+    return true;
+}
+
 } // namespace
 
 long WriteDelOrSignLogToLocal(CModelConfig& config, const SSignObj* obj, const CString& folder,
@@ -74,17 +90,25 @@ long WriteDelOrSignLogToLocal(CModelConfig& config, const SSignObj* obj, const C
     if (!local || !map || !server) return 0;
 
     const SignLogSource source(*obj, kind, local, map);
-    SignRecordFile record;
-    if (!record.Create()) return 0;
-    record.Read(folder);
-    if (!Log(record.Model(), source)) return 1;
-    return record.Save() ? 1 : 0;
+    const CString signDataFolder = MakeSignDataFolder(folder);
+    RecordLock lock(signDataFolder);
+    if (!lock.IsHeld()) return 0;
+    FinishAnnounced(lock, SignRecordPath(signDataFolder));
+    KnownRecord known = TakeKnownRecord();
+    if (!LogInPlace(known, signDataFolder, source, lock) && !LogAnew(known, signDataFolder, source)) return 0;
+    KeepKnownRecord(std::move(known));
+    return 1;
 }
 
 long WriteSignLogToServer(const CString& folder) {
     if (folder.IsEmpty()) return 1;
     const CString signDataFolder = MakeSignDataFolder(folder);
     const CString record = SignRecordPath(signDataFolder);
+    const RecordLock lock(signDataFolder);
+    // Without a lock there is either no folder, which the server may say, or an entry being written.
+    if (lock.IsBusy()) return 1;
+    if (lock.IsHeld()) FinishAnnounced(lock, record);
+    TakeKnownRecord();
     const int result = dvl_SaveToServer(record, SignWorkPath(signDataFolder));
     // The log is sent once: it goes even when the server refused it, read-only or not.
     MakeWritable(record);

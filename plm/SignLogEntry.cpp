@@ -61,7 +61,7 @@ void MapToServer(NewEntry& entry, IQORObjMapConfig* map) {
         const CString server = EntryAttribute(map, index, L"server");
         if (server.IsEmpty()) continue;
         const CString client = EntryAttribute(map, index, L"client");
-        const CString value = ReadProperty(entry.local, client);
+        const CString value = EntryProperty(entry.local, client);
         CheckError(entry.entry->SetProperty(ToBstr(server), ToBstr(value)));
     }
 }
@@ -77,7 +77,7 @@ SignLogSource::SignLogSource(const SSignObj& obj, const CString& kind, IQORObjCo
     entryType = ToText(type);
 }
 
-CString ReadProperty(IQORDataObject* object, const wchar_t* name) {
+CString EntryProperty(IQORDataObject* object, const wchar_t* name) {
     _bstr_t value;
     CheckError(object->GetProperty(_bstr_t(name), value.GetAddress()));
     return ToText(value);

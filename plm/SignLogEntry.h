@@ -24,7 +24,7 @@ struct SignLogSource {
 };
 
 /// The value of an entry's property, empty when it has none.
-CString ReadProperty(QORMODEL::IQORDataObject* object, const wchar_t* name);
+CString EntryProperty(QORMODEL::IQORDataObject* object, const wchar_t* name);
 
 /// Adds a new entry to the model. Raises _com_error on failure, with the model unchanged.
 void AddEntry(QORMODEL::IQORDataModel* model, const SignLogSource& source);

@@ -1,11 +1,12 @@
-// The local record file of the sign log, DocSignRecord.xml.
 #include "plm/SignRecordFile.h"
 
+#include "base/WholeFile.h"
 #include "neighbours/qorparser.h"
 #include "plm/SignDataFolder.h"
-#include "plm/TemporaryFile.h"
 
 using _com_util::CheckError;
+using QORMODEL::IQORDataModel;
+using QORMODEL::IQORDataModelPtr;
 
 namespace varnoke {
 
@@ -13,6 +14,23 @@ namespace {
 
 bool IsThere(const CString& path) {
     return ::GetFileAttributesW(path) != INVALID_FILE_ATTRIBUTES;
+}
+
+bool SaveRecord(IQORDataModel* model, base::TextRef path) {
+    CQORXmlDataParser parser;
+    const int result = parser.saveToFile(model, path);
+    CheckError(result);
+    return result != 0;
+}
+
+// The parser library is not known to notice a full disk: a file counts as complete when it can be read back.
+bool HoldsEntriesOf(base::TextRef path, IQORDataModel* model) {
+    const IQORDataModelPtr written = NewDataModel();
+    if (!written || !ParseRecord(CString(path), written)) return false;
+    long wanted = 0, found = 0;
+    CheckError(model->GetCount(&wanted));
+    CheckError(written->GetCount(&found));
+    return found == wanted;
 }
 
 // Copies a file that can't be read as a record to a name of its own, so that writing a new record loses
@@ -38,31 +56,43 @@ CString SignWorkPath(const CString& signDataFolder) {
     return signDataFolder + L"DocTemt.xml";
 }
 
-bool SignRecordFile::Create() {
+IQORDataModelPtr NewDataModel() {
+    IQORDataModelPtr model;
     // With servers of every kind allowed, this puts the object into the running state, too.
-    return SUCCEEDED(m_model.CreateInstance(QORMODEL::CLSID_QORDataModel, nullptr, CLSCTX_ALL)) && m_model;
+    return SUCCEEDED(model.CreateInstance(QORMODEL::CLSID_QORDataModel, nullptr, CLSCTX_ALL)) ? model
+                                                                                              : nullptr;
 }
 
-void SignRecordFile::Read(const CString& folder) {
-    m_folder = MakeSignDataFolder(folder);
-    const CString path = SignRecordPath(m_folder);
-    MakeWritable(path);
+bool ParseRecord(const CString& path, IQORDataModel* model) {
     CQORXmlDataParser parser;
-    const int result = parser.parseDataFile(path, m_model, nullptr);
+    const int result = parser.parseDataFile(path, model, nullptr);
     CheckError(result);
-    m_unreadable = result == 0 && IsThere(path);
+    return result != 0;
+}
+
+std::string WrittenRecord(IQORDataModel* model, const CString& signDataFolder) {
+    std::string bytes;
+    const base::ReplacedFile temporary(SignRecordPath(signDataFolder));
+    const std::wstring& path = temporary.TemporaryPath();
+    if (!path.empty() && SaveRecord(model, path)) base::ReadWholeFile(path, bytes);
+    return bytes;
+}
+
+bool SignRecordFile::Read() {
+    m_model = NewDataModel();
+    if (!m_model) return false;
+    MakeWritable(m_path);
+    m_unreadable = !ParseRecord(m_path, m_model) && IsThere(m_path);
+    return true;
 }
 
 bool SignRecordFile::Save() {
-    TemporaryFile temporary(m_folder);
-    if (temporary.Path().IsEmpty()) return false;
-    CQORXmlDataParser parser;
-    const int result = parser.saveToFile(m_model, temporary.Path());
-    CheckError(result);
-    if (result == 0) return false;
+    base::ReplacedFile file(m_path);
+    const std::wstring& path = file.TemporaryPath();
+    if (path.empty() || !SaveRecord(m_model, path) || !HoldsEntriesOf(path, m_model)) return false;
     const CString copy = m_unreadable ? KeepCopy(m_folder) : CString();
     if (m_unreadable && copy.IsEmpty()) return false;
-    const bool replaced = temporary.MoveTo(SignRecordPath(m_folder));
+    const bool replaced = file.Replace();
     if (!replaced && m_unreadable) ::DeleteFileW(copy);
     return replaced;
 }

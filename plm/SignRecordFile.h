@@ -1,7 +1,8 @@
-// The local record file of the sign log, DocSignRecord.xml.
+// The local record file of the sign log, DocSignRecord.xml, through the parser library.
 #pragma once
 
 #include <afxwin.h>
+#include <string>
 
 #include "neighbours/qormodel.h"
 
@@ -11,18 +12,28 @@ namespace varnoke {
 CString SignRecordPath(const CString& signDataFolder);
 CString SignWorkPath(const CString& signDataFolder);
 
+/// An empty data model; null when there is none to be had.
+QORMODEL::IQORDataModelPtr NewDataModel();
+
+/// Appends a file's entries to the model; false for a file that is missing or isn't a record. Raises
+/// _com_error when the model fails, which may then hold a part of them.
+bool ParseRecord(const CString& path, QORMODEL::IQORDataModel* model);
+
+/// What the parser library writes for the model, by way of a temporary file in the folder; empty on failure.
+/// Raises _com_error when the model fails.
+std::string WrittenRecord(QORMODEL::IQORDataModel* model, const CString& signDataFolder);
+
 /// The data model of a record file. Failing calls of the model raise _com_error.
 class SignRecordFile {
 public:
-    SignRecordFile() = default;
+    /// Of SignData, with its trailing backslash.
+    explicit SignRecordFile(const CString& signDataFolder)
+        : m_folder(signDataFolder), m_path(SignRecordPath(signDataFolder)) {}
     SignRecordFile(const SignRecordFile&) = delete;
     SignRecordFile& operator=(const SignRecordFile&) = delete;
 
-    /// Creates an empty model; false when there is none to be had.
-    bool Create();
-    /// Reads the file of the documents' folder, making SignData where it is missing. A missing or unreadable
-    /// file leaves the model empty.
-    void Read(const CString& folder);
+    /// False when there is no model to be had. A missing or unreadable file leaves the model empty.
+    bool Read();
     /// Puts the model in the place of the file as a whole: after a failure (false) the old file is there
     /// unchanged. An unreadable old file is kept beside the new one.
     bool Save();
@@ -31,7 +42,8 @@ public:
 
 private:
     QORMODEL::IQORDataModelPtr m_model;
-    CString m_folder; // SignData, with its trailing backslash
+    CString m_folder;
+    CString m_path;
     bool m_unreadable = false;
 };
 

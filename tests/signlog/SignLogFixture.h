@@ -122,6 +122,13 @@ protected:
         return m_plm->WriteDelOrSignLogToLocal(&object, (m_folder.Text() + behindFolder).c_str(), kind);
     }
 
+    // Logs signatures of documents that have no entry yet.
+    void WriteSome(int count) {
+        for (int written = 0; written < count; ++written)
+            EXPECT_EQ(Write(L"N", L"SIGN_ROLE=r|ID=other " + std::to_wstring(++m_documents)), 1);
+    }
+
+    int m_documents = 0;
     const LocalServices m_services;
     const TempFolder m_folder;
     const std::filesystem::path m_signData = m_folder / L"SignData",

@@ -1,0 +1,60 @@
+// Measures whole silent runs, from the message to the return file, with 500 and with 5,000 documents, each
+// with and without a sign log, against the bare copying of the same files. The exit code is 1 when a limit is
+// exceeded.
+#include <afxwin.h>
+#include <objbase.h>
+
+#include "bench/SilentRun.h"
+#include "base/ComApartment.h"
+#include "base/Owned.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+using namespace bench;
+
+namespace {
+
+constexpr int kFew = 500;
+constexpr int kGrowth = 10; // the big run has so many times the documents of the small one
+constexpr double kGrowthLimit = 11;
+constexpr double kLogLimit = 1.0 / 3;
+
+bool Report(const char* what, double ratio, double limit) {
+    const bool kept = ratio <= limit;
+    std::printf("  %-40s %6.2f  limit %5.2f  %s\n", what, ratio, limit, kept ? "ok" : "EXCEEDED");
+    return kept;
+}
+
+void Print(const char* what, const Spent& small, const Spent& big) {
+    std::printf("%-24s user %8.0f ms, %8.0f ms   wall %8.0f ms, %8.0f ms\n", what, small.user, big.user,
+                small.wall, big.wall);
+}
+
+bool ReportAll(const RunCosts& small, const RunCosts& big) {
+    Print("bare copying", small.bare, big.bare);
+    Print("run without a log", small.silent, big.silent);
+    Print("run with a log", small.logged, big.logged);
+    std::printf("  %-40s %6.2f user, %.2f wall\n", "run : bare copying", big.logged.user / big.bare.user,
+                big.logged.wall / big.bare.wall);
+    bool kept = Report("growth, user", big.logged.user / small.logged.user, kGrowthLimit);
+    kept &= Report("growth, wall", big.logged.wall / small.logged.wall, kGrowthLimit);
+    kept &= Report("share of the log, user", 1 - big.silent.user / big.logged.user, kLogLimit);
+    kept &= Report("share of the log, wall", 1 - big.silent.wall / big.logged.wall, kLogLimit);
+    return kept;
+}
+
+} // namespace
+
+int wmain(int argc, wchar_t** argv) {
+    const base::ComApartment apartment;
+    if (FAILED(apartment.Result()) ||
+        !AfxWinInit(::GetModuleHandleW(nullptr), nullptr, ::GetCommandLineW(), 0))
+        return 2;
+    const int few = argc > 1 ? _wtoi(argv[1]) : kFew;
+    // Its folder is where the model configuration lies.
+    const base::LibraryHandle services(::LoadLibraryW(L"QORLocal.dll"));
+    MeasureRuns(20); // warms up
+    const RunCosts small = MeasureRuns(few);
+    return ReportAll(small, MeasureRuns(few * kGrowth)) ? 0 : 1;
+}
