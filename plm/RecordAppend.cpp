@@ -91,8 +91,9 @@ bool LogInPlace(KnownRecord& known, const CString& signDataFolder, const SignLog
     const CString path = SignRecordPath(signDataFolder);
     if (known.path != path.GetString()) return false;
     MakeWritable(path);
-    FileHandle file = base::OwnFile(::CreateFileW(path, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ,
-                                                  nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    base::FileHandle file =
+        base::OwnFile(::CreateFileW(path, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!file || !known.IsCurrent(file.get())) return false;
     const LogOutcome outcome = known.index.OutcomeOf(source);
     if (outcome == LogOutcome::Logged) return true;
@@ -120,7 +121,7 @@ void FinishAnnounced(const RecordLock& lock, const CString& recordPath) {
     if (!lock.ReadAnnounced(change)) return;
     const IQORDataModelPtr model = NewDataModel();
     if (!model || ParseRecord(recordPath, model)) return;
-    const FileHandle file =
+    const base::FileHandle file =
         base::OwnFile(::CreateFileW(recordPath, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, nullptr,
                                     OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     bool torn = false;

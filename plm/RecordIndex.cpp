@@ -75,7 +75,7 @@ LogOutcome RecordIndex::OutcomeOf(const SignLogSource& source) const {
 }
 
 void KnownRecord::Note(const CString& recordPath) {
-    const FileHandle file = base::OpenForReading(recordPath);
+    const base::FileHandle file = base::OpenForReading(recordPath);
     path = file && Look(file.get(), *this) ? recordPath : L"";
 }
 

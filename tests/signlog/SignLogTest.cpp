@@ -280,7 +280,7 @@ TEST_F(SignLogTest, LargeRecord_TakesAFurtherEntryAsQuickly) {
         WriteSome(2);
         const auto start = std::chrono::steady_clock::now();
         WriteSome(50);
-        EXPECT_EQ(ReadBytes(m_record).size() > 300 * static_cast<size_t>(others), true);
+        EXPECT_GT(ReadBytes(m_record).size(), 100 * static_cast<size_t>(others));
         return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     };
     const double few = seconds(10), many = seconds(10000);
