@@ -24,6 +24,13 @@ protected:
     // dialog of that caption.
     void ExpectBoxes(const wchar_t* owner, const std::vector<std::wstring>& texts) const;
 
+    // The colours are not drawn while another program is active.
+    static void ExpectRedrawOnActivation(HWND dialog, int control) {
+        ValidateRect(GetDlgItem(dialog, control), nullptr);
+        SendMessageW(dialog, WM_ACTIVATE, WA_ACTIVE, 0);
+        EXPECT_TRUE(GetUpdateRect(GetDlgItem(dialog, control), nullptr, FALSE));
+    }
+
     TempFolder m_folder;
     SettingsFile m_settings;
     HostWindow m_host, m_active;
