@@ -75,7 +75,8 @@ public:
     /// the settings at most twice its own length.
     long GetCancelSignDate(wchar_t* date);
 
-    /// Shows the option dialog; 1 when the user confirmed and what was chosen is stored.
+    /// Shows the option dialog; 1 when the user confirmed it, whether or not the settings file could
+    /// be written.
     long SetOption();
 
 private:

@@ -130,12 +130,13 @@ TEST_F(ServerDocuments, RowsWithoutACheckedOne_AreRefused) {
     m_driver.Next([](HWND dialog) {
         ShownGrid grid(dialog);
         grid.SetColumnCount(2);
-        grid.AppendRow();
+        for (int row = 0; row < 2; ++row)
+            grid.AppendRow();
         Click(dialog, Confirm);
         grid.SetCellText(0, 1, L"0");
         Click(dialog, Confirm);
-        grid.SetCellText(0, 1, L"1");
-        grid.SetRowValue(0, 1);
+        grid.SetCellText(1, 1, L"1");
+        grid.SetRowValue(1, 1);
         Click(dialog, Confirm);
     });
     Results results;

@@ -224,7 +224,7 @@ TEST_F(TransferDlg, ClosedEarly_StaysUntilTheFileInHandIsFinished) {
     AfterStep(kDownload, Begins, [&](HWND dialog) {
         for (int closing = 0; closing < 2; ++closing)
             SendMessageW(dialog, WM_CLOSE, 0, 0);
-        m_driver.Post(dialog, stillRuns);
+        m_driver.After(WM_TIMER, 4, stillRuns);
     });
     EXPECT_EQ(0, Transfer(kDownload, [](HWND) {}));
     EXPECT_EQ(1, first->m_nState) << "the call must not return while the worker writes to the list";
@@ -238,13 +238,17 @@ TEST_F(TransferDlg, ClosedEarly_StaysUntilTheFileInHandIsFinished) {
 
 TEST_F(TransferDlg, QuitDuringARun_IsServedAndReachesTheHost) {
     const auto* item = AddFile(L"a.dwg");
+    std::filesystem::remove(Path(L"a.dwg"));
     SetFault(L"DelayMs", L"500");
     bool served = false;
-    AfterStep(kUpload, Begins, [](HWND) { PostQuitMessage(7); });
+    AfterStep(kDownload, Begins, [](HWND) { PostQuitMessage(7); });
     m_driver.AtEnd([&](HWND dialog) { m_driver.Post(dialog, [&](HWND) { served = item->m_nState == 0; }); });
     m_driver.Next([](HWND) {});
-    Run(kUpload);
+    Run(kDownload);
     EXPECT_EQ(1, item->m_nState);
+    long changed = 7;
+    m_plm.GetDocSignTimeTag(Text(Local().wstring()), Text(L"a.dwg"), &changed);
+    EXPECT_EQ(0, changed) << "the time is recorded after the file in hand";
     EXPECT_TRUE(served);
     MSG quit = {};
     EXPECT_TRUE(PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
