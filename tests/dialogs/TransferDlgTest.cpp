@@ -116,6 +116,7 @@ protected:
     void Block() const {
         for (size_t before = 0, calls = 1; calls != before; calls = ServerCalls()) {
             before = calls;
+            Watchdog::Progress();
             Sleep(100);
         }
     }

@@ -165,6 +165,7 @@ void DialogDriver::Run(HWND window) {
         const Script script = std::move(posted->second);
         m_posted.erase(posted);
         script(window);
+        Progress();
         return;
     }
 }
