@@ -50,10 +50,9 @@ void CTransferDisplay::ShowStopping(const CString& text) {
 
 void CTransferDisplay::Log(const CString& text) {
     if (text.IsEmpty()) return;
-    const __time64_t now = _time64(nullptr);
-    tm local = {};
-    const bool known = _localtime64_s(&local, &now) == 0;
-    m_lines += LogLine(text, known ? &local : nullptr);
+    SYSTEMTIME now = {};
+    ::GetLocalTime(&now); // the run-time library's local time depends on TZ
+    m_lines += LogLine(text, now);
 }
 
 void CTransferDisplay::Draw() {

@@ -17,10 +17,9 @@ int ResultAfter(int result, TransferStep step) {
     }
 }
 
-CString LogLine(const CString& text, const tm* time) {
+CString LogLine(const CString& text, const SYSTEMTIME& time) {
     CString line;
-    line.Format(L"%.2d:%.2d:%.2d", time ? time->tm_hour : -1, time ? time->tm_min : -1,
-                time ? time->tm_sec : -1);
+    line.Format(L"%.2d:%.2d:%.2d", time.wHour, time.wMinute, time.wSecond);
     return line + L" -> " + text + L"\r\n";
 }
 

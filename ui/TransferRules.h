@@ -1,7 +1,6 @@
 #pragma once
 
 #include <afxwin.h>
-#include <time.h>
 #include "ui/TransferVariant.h"
 
 namespace varnoke {
@@ -19,8 +18,8 @@ enum TransferResult : int {
 /// The result after a step, given the result before it.
 int ResultAfter(int result, TransferStep step);
 
-/// The line that is logged for a text at a local time, with its line end. Without a time each part is -1.
-CString LogLine(const CString& text, const tm* time);
+/// The line that is logged for a text at a local time, with its line end.
+CString LogLine(const CString& text, const SYSTEMTIME& time);
 
 /// "<label><tab>done / count"
 CString CountText(const CString& label, int done, int count);

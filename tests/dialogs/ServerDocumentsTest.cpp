@@ -147,7 +147,7 @@ TEST_F(ServerDocuments, RowsWithoutACheckedOne_AreRefused) {
 
 TEST_F(ServerDocuments, Runs_LeaveNothingBehind) {
     Configure(kColumns);
-    ExpectNothingLeft([this] { EXPECT_EQ(1, StartSign()); });
+    ExpectNothingLeft([this] { EXPECT_EQ(1, StartSign()); }, 100);
 }
 
 } // namespace

@@ -96,7 +96,7 @@ protected:
             int hour = 0, minute = 0, second = 0, length = 0;
             EXPECT_EQ(3, swscanf(line.c_str(), L"%2d:%2d:%2d -> %n", &hour, &minute, &second, &length));
             EXPECT_EQ(12, length) << ToUtf8(line);
-            EXPECT_LE((now.wHour * 60 + now.wMinute - hour * 60 - minute + 1440) % 1440, 2) << ToUtf8(line);
+            EXPECT_LE((now.wHour * 60 + now.wMinute - hour * 60 - minute + 144000) % 1440, 2) << ToUtf8(line);
             lines.push_back(line.substr(std::min<size_t>(12, line.size())));
             start = end == std::wstring::npos ? m_log.size() : end + 2;
         }
@@ -179,7 +179,7 @@ TEST_P(EitherTransferDlg, AFailureInTheMiddle_IsToldAtTheEnd) {
 TEST_P(EitherTransferDlg, InjectedSteps_CountAndTheFirstResultStays) {
     const Variant& variant = *GetParam();
     AddFile(L"a.dwg");
-    SetFault(L"DelayMs", L"300"); // the file is still on its way
+    SetFault(L"DelayMs", L"1000"); // the file is still on its way
     AfterStep(variant, Started, [&](HWND dialog) {
         for (const wchar_t* ignored : {L"", static_cast<const wchar_t*>(nullptr)})
             PostStep(dialog, variant, Skipped, ignored);
@@ -217,7 +217,7 @@ TEST_F(TransferDlg, UnnamedItems_ArePassedOver) {
 TEST_F(TransferDlg, ClosedEarly_StaysUntilTheFileInHandIsFinished) {
     const auto* first = AddFile(L"a.dwg");
     const auto* second = AddFile(L"b.dwg");
-    SetFault(L"DelayMs", L"500");
+    SetFault(L"DelayMs", L"1500");
     const auto stillRuns = [&](HWND dialog) {
         EXPECT_TRUE(IsWindowVisible(dialog));
         EXPECT_EQ(0, first->m_nState) << "what is posted is served while the worker works";
@@ -240,7 +240,7 @@ TEST_F(TransferDlg, ClosedEarly_StaysUntilTheFileInHandIsFinished) {
 TEST_F(TransferDlg, QuitDuringARun_IsServedAndReachesTheHost) {
     const auto* item = AddFile(L"a.dwg");
     std::filesystem::remove(Path(L"a.dwg"));
-    SetFault(L"DelayMs", L"500");
+    SetFault(L"DelayMs", L"1500");
     bool served = false;
     AfterStep(kDownload, Begins, [](HWND) { PostQuitMessage(7); });
     m_driver.AtEnd([&](HWND dialog) { m_driver.Post(dialog, [&](HWND) { served = item->m_nState == 0; }); });
@@ -264,7 +264,7 @@ TEST_F(TransferDlg, ClosedBeforeTheRun_TransfersNothing) {
 
 TEST_F(TransferDlg, Activity_RunsWhileAFileIsOnItsWay) {
     AddFile(L"a.dwg");
-    SetFault(L"DelayMs", L"600");
+    SetFault(L"DelayMs", L"1000");
     const auto position = [](HWND dialog) {
         return SendDlgItemMessageW(dialog, kDownload.fileBar, PBM_GETPOS, 0, 0);
     };
