@@ -163,7 +163,9 @@ double Read(const CString& path, const NumberSetting& setting) {
 
 template <class Setting>
 long WriteText(const CString& path, const Setting& setting, const CString& value) {
-    return !path.IsEmpty() && varnoke::StoreSetting(path, setting.section, setting.key, value) ? 1 : 0;
+    if (path.IsEmpty() || varnoke::StoreSetting(path, setting.section, setting.key, value))
+        return path.IsEmpty() ? 0 : 1;
+    return varnoke::FailWithLastError(varnoke::Cause::SettingNotStored, path);
 }
 
 long Write(const CString& path, const TextSetting& setting, const CString& value) {

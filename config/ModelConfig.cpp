@@ -6,9 +6,13 @@
 #include "module/BstrText.h"
 #include "module/Guarded.h"
 #include "module/ModulePaths.h"
+#include "module/Trace.h"
+#include "base/Paths.h"
 
 using namespace QORMODEL;
 using _com_util::CheckError;
+using varnoke::Cause;
+using varnoke::Fail;
 using varnoke::Guarded;
 using varnoke::ToBstr;
 
@@ -27,8 +31,10 @@ CString ServerId(const CINIConfig& settings) {
 }
 
 IQORObjConfigPtr FindObjConfig(IQORConfigModel* model, const CString& id) {
+    if (!model) return Fail(Cause::ModelConfigNotLoaded);
     IQORObjConfigPtr config;
     CheckError(model->GetObjConfig(ToBstr(id), &config));
+    if (!config) Fail(Cause::ObjectConfigMissing, id);
     return config;
 }
 
@@ -49,7 +55,7 @@ IQORObjMapConfigPtr FindMap(IQORObjMapConfigs* maps, long count, const CString& 
         CheckError(map->GetServerObjConfigId(id.GetAddress()));
         if (id.length() > 0 && serverId.CompareNoCase(id) == 0) return map;
     }
-    return nullptr;
+    return Fail(Cause::ObjectMapMissing, serverId);
 }
 
 } // namespace
@@ -65,52 +71,53 @@ CModelConfig::~CModelConfig() {
 }
 
 long CModelConfig::Initialize(CWnd* parent) {
-    return Guarded(0L, [&] {
+    const auto initialize = [&]() -> long {
+        varnoke::ConfigureTrace();
         m_parentWnd = parent;
         const long result = m_iniConfig.Initialize(parent);
-        if (result == 0) return 0L;
+        if (result == 0) return 0;
         m_configPath = varnoke::ModelConfigPath();
-        return m_configPath.IsEmpty() ? 0L : result;
-    });
+        return m_configPath.IsEmpty() ? 0 : result;
+    };
+    return Guarded(0L, initialize, "CModelConfig::Initialize");
 }
 
 long CModelConfig::Load() {
-    return Guarded(0L, [&] {
+    return Guarded(0L, [&]() -> long {
+        if (m_configPath.IsEmpty()) return Fail(Cause::ModelConfigNotLoaded);
         CQORXmlConfigParser parser;
-        if (m_configPath.IsEmpty()) return 0L;
         m_model = nullptr;
         parser.parseDataFile(m_configPath, m_model);
-        return m_model ? 1L : 0L;
+        if (m_model) return 1;
+        return Fail(base::FileExists(m_configPath) ? Cause::ModelConfigUnreadable : Cause::ModelConfigMissing,
+                    m_configPath);
     });
 }
 
 long CModelConfig::Uninitialize() {
-    return Guarded(0L, [&] { return m_iniConfig.Uninitialize(); });
+    return Guarded(
+        0L, [&] { return m_iniConfig.Uninitialize(); }, "CModelConfig::Uninitialize");
 }
 
 IQORObjConfigPtr CModelConfig::GetLocalObjectConfig() {
-    return Guarded(IQORObjConfigPtr(), [&] {
-        return m_model ? FindObjConfig(m_model, LocalId(m_iniConfig)) : IQORObjConfigPtr();
-    });
+    return Guarded(IQORObjConfigPtr(), [&] { return FindObjConfig(m_model, LocalId(m_iniConfig)); });
 }
 
 IQORObjConfigPtr CModelConfig::GetServerObjectConfig() {
-    return Guarded(IQORObjConfigPtr(), [&] {
-        return m_model ? FindObjConfig(m_model, ServerId(m_iniConfig)) : IQORObjConfigPtr();
-    });
+    return Guarded(IQORObjConfigPtr(), [&] { return FindObjConfig(m_model, ServerId(m_iniConfig)); });
 }
 
 IQORObjMapConfigPtr CModelConfig::GetMapObjectConfig() {
     return Guarded(IQORObjMapConfigPtr(), [&]() -> IQORObjMapConfigPtr {
-        if (!m_model) return nullptr;
+        if (!m_model) return Fail(Cause::ModelConfigNotLoaded);
         IQORDomainConfigPtr domain;
         const CString domainName = OrDefault(m_iniConfig.GetDesignDoMain(), varnoke::kDefaultDesignDoMain);
         CheckError(m_model->GetDomainConfig(ToBstr(domainName), &domain));
-        if (!domain) return nullptr;
+        if (!domain) return Fail(Cause::DomainMissing, domainName);
         IQORObjMapConfigsPtr maps;
         CheckError(domain->GetObjMapConfigs(ToBstr(LocalId(m_iniConfig)), &maps));
         long count = 0;
         if (maps) CheckError(maps->GetCount(&count));
-        return count > 0 ? FindMap(maps, count, ServerId(m_iniConfig)) : IQORObjMapConfigPtr();
+        return FindMap(maps, count, ServerId(m_iniConfig));
     });
 }

@@ -27,13 +27,16 @@ void DeleteRecord(SSignFileDUL* record) {
     delete record;
 }
 
+/// No operation of its own: a cause that the host has yet to ask for stays.
 template <class Record>
 long Release(Record* record) {
-    return varnoke::Guarded(0L, [record] {
-        if (!record) return 0L;
-        DeleteRecord(record);
-        return 1L;
-    });
+    return varnoke::Guarded(
+        0L,
+        [record] {
+            if (record) DeleteRecord(record);
+            return record ? 1L : 0L;
+        },
+        nullptr);
 }
 
 } // namespace

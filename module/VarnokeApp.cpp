@@ -6,6 +6,7 @@
 
 #include "base/ComApartment.h"
 #include "module/Guarded.h"
+#include "module/Trace.h"
 #include "base/Paths.h"
 
 CVarnokeApp theApp;
@@ -18,6 +19,7 @@ std::optional<base::ComApartment> apartment;
 BOOL CVarnokeApp::InitInstance() {
     return varnoke::Guarded(FALSE, [this] {
         CWinApp::InitInstance();
+        varnoke::ConfigureTrace();
         apartment.emplace();
         AfxEnableControlContainer();
         FindModuleFolder();

@@ -29,14 +29,16 @@ CPLMInteract::~CPLMInteract() {
 }
 
 long CPLMInteract::Initialize(CWnd* parent) {
-    return Guarded(0L, [&] {
+    const auto initialize = [&] {
         m_parentWnd = parent;
         return m_modelConfig.Initialize(parent) ? m_modelConfig.Load() : 0L;
-    });
+    };
+    return Guarded(0L, initialize, "CPLMInteract::Initialize");
 }
 
 long CPLMInteract::Uninitialize() {
-    return Guarded(0L, [&] { return m_modelConfig.Uninitialize(); });
+    return Guarded(
+        0L, [&] { return m_modelConfig.Uninitialize(); }, "CPLMInteract::Uninitialize");
 }
 
 long CPLMInteract::GetModelConfig(CModelConfig** modelConfig) {

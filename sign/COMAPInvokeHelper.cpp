@@ -8,12 +8,17 @@
 #include "module/Guarded.h"
 #include "base/Owned.h"
 #include "module/Text.h"
+#include "module/Trace.h"
 
 namespace {
 
+using varnoke::Cause;
+using varnoke::Fail;
+using varnoke::HasText;
+
 constexpr int kNameSize = 1024; // of a method name, with its terminator
 
-/// Takes what a failing method tells about itself; nobody reads it, but it is the caller's to free.
+/// What a failing method tells about itself; the texts are the caller's to free.
 struct ExceptionInfo : EXCEPINFO {
     ExceptionInfo() : EXCEPINFO() {}
     ~ExceptionInfo() {
@@ -22,18 +27,36 @@ struct ExceptionInfo : EXCEPINFO {
     }
     ExceptionInfo(const ExceptionInfo&) = delete;
     ExceptionInfo& operator=(const ExceptionInfo&) = delete;
+
+    /// "source: description", as far as the server gives them.
+    CString Explanation() {
+        if (pfnDeferredFillIn) pfnDeferredFillIn(this);
+        CString text(bstrSource);
+        if (bstrSource && bstrDescription) text += L": ";
+        return text + CString(bstrDescription);
+    }
 };
 
 /// The status that a method returned: its 32-bit integer, whatever type the server chose for it; 0 when it is
 /// none. An object is not asked for a value.
-long StatusOf(VARIANT& value) {
+long StatusOf(VARIANT& value, const wchar_t* method) {
     if (value.vt == VT_UI4 || value.vt == VT_UINT) return static_cast<long>(value.ulVal);
     _variant_t integer;
     const HRESULT hr = ::VariantChangeType(&integer, &value, VARIANT_NOVALUEPROP, VT_I4);
-    return SUCCEEDED(hr) ? integer.lVal : 0;
+    if (FAILED(hr)) return Fail(Cause::MethodResultUnusable, method, hr);
+    return integer.lVal;
 }
 
 static_assert(sizeof(_variant_t) == sizeof(VARIANT), "owned arguments go to the server as they lie");
+
+/// A line for one call of the server; its arguments are nobody's business.
+void TraceCall(const wchar_t* method, long status, ULONGLONG started) {
+    if (!varnoke::IsTracing(varnoke::TraceLevel::Calls)) return;
+    CString line;
+    line.Format(L"signing server: %ls = %ld, %lu ms", method, status,
+                static_cast<DWORD>(::GetTickCount64() - started));
+    varnoke::WriteTrace(line);
+}
 
 } // namespace
 
@@ -43,34 +66,32 @@ CCOMAPInvokeHelper::~CCOMAPInvokeHelper() {
 }
 
 long CCOMAPInvokeHelper::CreateFromProgID(const wchar_t* progID) {
-    if (!varnoke::HasText(progID)) return 0;
+    if (!varnoke::IsGiven(progID, L"ProgID")) return 0;
     CLSID clsid = {};
-    if (FAILED(::CLSIDFromProgID(progID, &clsid))) return 0;
+    HRESULT hr = ::CLSIDFromProgID(progID, &clsid);
+    if (FAILED(hr)) return Fail(Cause::SigningServerNotRegistered, progID, hr);
     _com_ptr_t<_com_IIID<IUnknown, &IID_IUnknown>> spObject;
-    if (FAILED(::CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown,
-                                  reinterpret_cast<void**>(&spObject))) ||
-        !spObject) {
-        return 0;
-    }
+    hr = ::CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown,
+                            reinterpret_cast<void**>(&spObject));
+    if (FAILED(hr) || !spObject) return Fail(Cause::SigningServerNotCreated, progID, hr);
     m_method = 0;
     // Taking the address gives the previous server back.
-    if (FAILED(spObject->QueryInterface(IID_IDispatch, reinterpret_cast<void**>(&m_server)))) {
-        m_server.Detach();
-    }
-    return m_server ? 1 : 0;
+    hr = spObject->QueryInterface(IID_IDispatch, reinterpret_cast<void**>(&m_server));
+    if (FAILED(hr)) m_server.Detach();
+    return m_server ? 1 : Fail(Cause::SigningServerNotAutomation, progID, hr);
 }
 
 long CCOMAPInvokeHelper::SelectMethod(const wchar_t* name) {
-    if (!varnoke::HasText(name) || wcsnlen(name, kNameSize) == kNameSize || !m_server) return 0;
+    if (!m_server) return Fail(Cause::SigningServerNotConnected);
+    if (!HasText(name) || wcsnlen(name, kNameSize) == kNameSize) return Fail(Cause::MethodMissing, name);
     m_method = 0;
     wchar_t buffer[kNameSize] = {};
     ::lstrcpynW(buffer, name, kNameSize);
     LPOLESTR names[] = {buffer};
     DISPID method = 0;
-    if (SUCCEEDED(m_server->GetIDsOfNames(IID_NULL, names, 1, ::GetUserDefaultLCID(), &method)) &&
-        method > 0) {
-        m_method = method;
-    }
+    const HRESULT hr = m_server->GetIDsOfNames(IID_NULL, names, 1, ::GetUserDefaultLCID(), &method);
+    if (FAILED(hr) || method <= 0) return Fail(Cause::MethodMissing, name, hr);
+    m_method = method;
     return m_method;
 }
 
@@ -80,13 +101,12 @@ long CCOMAPInvokeHelper::Invoke(VARIANT* arguments, unsigned count, VARIANT* res
     _variant_t returned;
     ExceptionInfo exception;
     UINT faultyArgument = 0;
-    if (FAILED(m_server->Invoke(m_method, IID_NULL, ::GetUserDefaultLCID(), DISPATCH_METHOD, &parameters,
-                                &returned, &exception, &faultyArgument))) {
-        return 0;
-    }
-    if (result) {
-        *result = returned.Detach();
-    }
+    const HRESULT hr = m_server->Invoke(m_method, IID_NULL, ::GetUserDefaultLCID(), DISPATCH_METHOD,
+                                        &parameters, &returned, &exception, &faultyArgument);
+    if (FAILED(hr))
+        return Fail(Cause::MethodFailed, exception.Explanation(),
+                    hr == DISP_E_EXCEPTION && FAILED(exception.scode) ? exception.scode : hr);
+    if (result) *result = returned.Detach();
     return 1;
 }
 
@@ -101,7 +121,13 @@ long CCOMAPInvokeHelper::Call(const wchar_t* method, std::initializer_list<const
     for (auto text = std::rbegin(texts); text != std::rend(texts); ++text) {
         arguments.emplace_back(*text);
     }
+    const ULONGLONG started = ::GetTickCount64();
     _variant_t result;
-    if (Invoke(arguments.data(), static_cast<unsigned>(arguments.size()), &result) == 0) return 0;
-    return StatusOf(result);
+    long status = 0;
+    if (Invoke(arguments.data(), static_cast<unsigned>(arguments.size()), &result)) {
+        status = StatusOf(result, method);
+        if (status == 0) Fail(Cause::MethodRefused, method);
+    }
+    TraceCall(method, status, started);
+    return status;
 }

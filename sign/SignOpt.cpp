@@ -2,15 +2,25 @@
 #include "varnoke/SignOpt.h"
 
 #include "module/Guarded.h"
-#include "module/Text.h"
+#include "module/Trace.h"
 
+using varnoke::Cause;
+using varnoke::Fail;
 using varnoke::Guarded;
-using varnoke::HasText;
+using varnoke::IsGiven;
 
 namespace {
 
-bool IsComplete(IDispatch* document, const wchar_t* text) {
-    return document && HasText(text);
+bool IsGivenPointer(const void* pointer, const wchar_t* name) {
+    return pointer || Fail(Cause::ArgumentMissing, name);
+}
+
+bool AreGiven(IDispatch* document, const wchar_t* text, const wchar_t* name) {
+    return IsGivenPointer(document, L"document") && IsGiven(text, name);
+}
+
+bool AreGiven(IDispatch* document, const SSignInfo* info) {
+    return IsGivenPointer(document, L"document") && IsGivenPointer(info, L"info");
 }
 
 } // namespace
@@ -20,21 +30,24 @@ CSignOpt::CSignOpt() = default;
 CSignOpt::~CSignOpt() = default;
 
 long CSignOpt::Initialize(CWnd* parent) {
-    return Guarded(0L, [&]() -> long {
+    const auto initialize = [&]() -> long {
+        varnoke::ConfigureTrace();
         m_parentWnd = parent;
-        if (m_config.Initialize(parent) == 0) return 0;
-        const CString progID = m_config.GetProgID();
-        return progID.IsEmpty() ? 0 : CreateFromProgID(progID);
-    });
+        return m_config.Initialize(parent) ? CreateFromProgID(m_config.GetProgID()) : 0;
+    };
+    return Guarded(0L, initialize, "CSignOpt::Initialize");
 }
 
 long CSignOpt::Uninitialize() {
-    return Guarded(0L, [] { return 1L; });
+    return Guarded(
+        0L, [] { return 1L; }, "CSignOpt::Uninitialize");
 }
 
 long CSignOpt::Login(wchar_t* plmUser, wchar_t* password, wchar_t* serverAddress) {
     return Guarded(0L, [&]() -> long {
-        if (!HasText(plmUser) || !password || !HasText(serverAddress)) return 0;
+        if (!IsGiven(plmUser, L"plmUser") || !IsGivenPointer(password, L"password") ||
+            !IsGiven(serverAddress, L"serverAddress"))
+            return 0;
         const CString address = m_config.GetServerIP();
         m_signUser = m_config.GetSignServer(plmUser);
         m_serverAddress = address.IsEmpty() ? CString(serverAddress) : address;
@@ -64,7 +77,7 @@ long CSignOpt::Sign(IDispatch* document, SSignInfo* info) {
 
 long CSignOpt::SignForBackSign(IDispatch* document, SSignInfo* info) {
     return Guarded(0L, [&]() -> long {
-        if (!document || !info) return 0;
+        if (!AreGiven(document, info)) return 0;
         m_config.GetDelPre(); // reserved: read, without a meaning yet
         const SSignInfo& i = *info;
         return Call(m_config.GetDynDisp(L"Sign"),
@@ -75,7 +88,7 @@ long CSignOpt::SignForBackSign(IDispatch* document, SSignInfo* info) {
 
 long CSignOpt::DeleteSignForBackSign(IDispatch* document, SSignInfo* info) {
     return Guarded(0L, [&]() -> long {
-        if (!document || !info) return 0;
+        if (!AreGiven(document, info)) return 0;
         return Call(m_config.GetDynDisp(L"SignatureDelete"),
                     {info->m_strFirstText, info->m_strUserName, info->m_strRole});
     });
@@ -83,29 +96,34 @@ long CSignOpt::DeleteSignForBackSign(IDispatch* document, SSignInfo* info) {
 
 long CSignOpt::DeleteAllSignForBackSign(IDispatch* document, wchar_t* text) {
     return Guarded(0L, [&] {
-        return IsComplete(document, text) ? Call(m_config.GetDynDisp(L"DeleteAllSign"), {text}) : 0L;
+        return AreGiven(document, text, L"text") ? Call(m_config.GetDynDisp(L"DeleteAllSign"), {text}) : 0L;
     });
 }
 
 long CSignOpt::SignatureValidateForBackSign(IDispatch* document, wchar_t* text) {
     return Guarded(0L, [&] {
-        return IsComplete(document, text) ? Call(m_config.GetDynDisp(L"SignatureValidate"), {text}) : 0L;
+        return AreGiven(document, text, L"text") ? Call(m_config.GetDynDisp(L"SignatureValidate"), {text})
+                                                 : 0L;
     });
 }
 
 long CSignOpt::ClearInvalidSignForBackSign(IDispatch* document, wchar_t* text) {
     return Guarded(0L, [&] {
-        return IsComplete(document, text) ? Call(m_config.GetDynDisp(L"SignatureInvalidDelete"), {text}) : 0L;
+        return AreGiven(document, text, L"text")
+                   ? Call(m_config.GetDynDisp(L"SignatureInvalidDelete"), {text})
+                   : 0L;
     });
 }
 
 long CSignOpt::ClearInvalidSign(IDispatch* document, wchar_t* text) {
-    return Guarded(0L, [&] { return IsComplete(document, text) ? 1L : 0L; });
+    return Guarded(0L, [&] { return AreGiven(document, text, L"text"); });
 }
 
 long CSignOpt::CancelSign(IDispatch* document, wchar_t* firstText, wchar_t* userName, wchar_t* role) {
     return Guarded(0L, [&]() -> long {
-        if (!document || !HasText(firstText) || !HasText(userName) || !HasText(role)) return 0;
+        if (!AreGiven(document, firstText, L"firstText") || !IsGiven(userName, L"userName") ||
+            !IsGiven(role, L"role"))
+            return 0;
         // The configured name only has to be there: what is called is always the deletion of a signature.
         if (m_config.GetDynDisp(L"CancelSign").IsEmpty()) return 0;
         return Call(L"SignatureDelete", {firstText, userName, role});
@@ -113,12 +131,13 @@ long CSignOpt::CancelSign(IDispatch* document, wchar_t* firstText, wchar_t* user
 }
 
 long CSignOpt::ExistSignature(IDispatch* document, wchar_t* firstText, wchar_t* /*userName*/) {
-    return Guarded(0L, [&] { return IsComplete(document, firstText) ? 1L : 0L; });
+    return Guarded(0L, [&] { return AreGiven(document, firstText, L"firstText"); });
 }
 
 long CSignOpt::HasInvalidSign(IDispatch* document, long* invalidCount) {
     return Guarded(0L, [&]() -> long {
-        if (!document || !invalidCount) return 0;
+        if (!IsGivenPointer(document, L"document") || !IsGivenPointer(invalidCount, L"invalidCount"))
+            return 0;
         *invalidCount = 0;
         return 1;
     });

@@ -4,14 +4,15 @@
 #include "module/Guarded.h"
 #include "module/ModulePaths.h"
 #include "varnoke/OwnedRecord.h"
-#include "module/Text.h"
 #include "neighbours/durvell.h"
 #include "config/DateStyle.h"
 #include "ui/OptionDlg.h"
 #include "ui/SignDlg.h"
 
+using varnoke::Cause;
+using varnoke::Fail;
 using varnoke::Guarded;
-using varnoke::HasText;
+using varnoke::IsGiven;
 using varnoke::OwnedRecord;
 
 namespace {
@@ -20,9 +21,14 @@ constexpr int kShareInfoSize = 1024; // of each buffer of the shared login, with
 
 /// Prepares an out-pointer, which stays null on failure. Returns whether there is one.
 bool ClearOut(SSignInfo** info) {
-    if (!info) return false;
+    if (!info) return Fail(Cause::ArgumentMissing, L"info");
     *info = nullptr;
     return true;
+}
+
+/// Whether a dialog ended with OK.
+bool IsConfirmed(INT_PTR result) {
+    return result == IDOK || Fail(result == IDCANCEL ? Cause::Cancelled : Cause::DialogFailed);
 }
 
 /// Asks for the shared login; texts that are not delivered come out empty.
@@ -73,7 +79,7 @@ void FillSealAndDateForm(SSignInfo& info, const CINIConfig& config) {
 
 long CSignOpt::GetSignUserName(wchar_t* userName) {
     return Guarded(0L, [&]() -> long {
-        if (!userName) return 0;
+        if (!userName) return Fail(Cause::ArgumentMissing, L"userName");
         FetchSharedLogin(m_plmUser, m_password, m_serverAddress);
         ::lstrcpynW(userName, m_plmUser, kShareInfoSize);
         return 1;
@@ -82,7 +88,7 @@ long CSignOpt::GetSignUserName(wchar_t* userName) {
 
 long CSignOpt::GetSignInfo(wchar_t* documentPath, long scopeSelectable, wchar_t* role, SSignInfo** info) {
     return Guarded(0L, [&]() -> long {
-        if (!ClearOut(info) || !HasText(documentPath) || !HasText(role)) return 0;
+        if (!ClearOut(info) || !IsGiven(documentPath, L"documentPath") || !IsGiven(role, L"role")) return 0;
         FetchSharedLogin(m_plmUser, m_password, m_serverAddress);
         const CString key = m_plmUser + L"_" + role;
         const CString drawing = varnoke::JoinPath(varnoke::TemporaryFolder(), key + L".dwg");
@@ -93,7 +99,7 @@ long CSignOpt::GetSignInfo(wchar_t* documentPath, long scopeSelectable, wchar_t*
         dialog.SetRole(role);
         dialog.SetSealDrawingPath(drawing);
         dialog.SetSettings(&m_config);
-        if (dialog.DoModal() != IDOK) return 0;
+        if (!IsConfirmed(dialog.DoModal())) return 0;
         OwnedRecord<SSignInfo> made(new SSignInfo);
         FillFromDialog(*made, dialog);
         FillLocations(*made, m_config);
@@ -106,7 +112,7 @@ long CSignOpt::GetSignInfo(wchar_t* documentPath, long scopeSelectable, wchar_t*
 
 long CSignOpt::GetSignInfoForBackSign(wchar_t* documentPath, SSignInfo** info) {
     return Guarded(0L, [&]() -> long {
-        if (!ClearOut(info) || !HasText(documentPath)) return 0;
+        if (!ClearOut(info) || !IsGiven(documentPath, L"documentPath")) return 0;
         OwnedRecord<SSignInfo> made(new SSignInfo);
         FillSealAndDateForm(*made, m_config);
         made->m_strDateText = varnoke::RenderDate(m_config.GetDateStyle(), varnoke::Today());
@@ -117,7 +123,7 @@ long CSignOpt::GetSignInfoForBackSign(wchar_t* documentPath, SSignInfo** info) {
 
 long CSignOpt::GetCancelSignDate(wchar_t* date) {
     return Guarded(0L, [&]() -> long {
-        if (!date) return 0;
+        if (!date) return Fail(Cause::ArgumentMissing, L"date");
         CString style = m_config.GetDateStyle();
         if (varnoke::CheckDateStyle(style) != varnoke::DateStyleFault::None) {
             style = varnoke::kDefaultDateStyle;
@@ -131,6 +137,6 @@ long CSignOpt::SetOption() {
     return Guarded(0L, [&]() -> long {
         COptionDlg dialog(m_parentWnd);
         dialog.SetSettings(&m_config);
-        return dialog.DoModal() == IDOK ? 1 : 0;
+        return IsConfirmed(dialog.DoModal());
     });
 }
