@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Tests the reference host of a build folder end to end with the mingw build's test program.
-# usage: check-end-to-end.sh BUILD-FOLDER [TEST-PROGRAM]
+# usage: check-end-to-end.sh BUILD-FOLDER [TEST-PROGRAM [ARGUMENT...]]
 # Exit code 77 when there is no test program.
 set -euo pipefail
 
@@ -13,4 +13,4 @@ if [ ! -f "$program" ]; then
 fi
 VARNOKE_BIN=Z:${build//\//\\}\\bin
 export VARNOKE_BIN
-exec "$root/scripts/wine-run.sh" "$build" "$program"
+exec "$root/scripts/wine-run.sh" "$build" "$program" "${@:3}"

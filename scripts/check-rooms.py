@@ -25,6 +25,7 @@ ARROWS = {
     "plm": ["ui", "config"],
     "standins": ["neighbours", "base"],
     "host": ["include", "base"],
+    "doctor": ["neighbours", "base"],
 }
 # These see what they test, measure or are built beside.
 OBSERVERS = {"tests", "bench"}

@@ -37,7 +37,12 @@ bool HostResult::Said(const std::string& line) const {
 
 HostResult RunHost(const std::vector<std::wstring>& arguments,
                    const std::function<void(DWORD)>& whileRunning) {
-    std::wstring line = L"\"" + BinFolder() + L"\\varnoke-host.exe\"";
+    return RunProgram(BinFolder() + L"\\varnoke-host.exe", arguments, whileRunning);
+}
+
+HostResult RunProgram(const std::wstring& program, const std::vector<std::wstring>& arguments,
+                      const std::function<void(DWORD)>& whileRunning) {
+    std::wstring line = L"\"" + program + L"\"";
     for (const std::wstring& argument : arguments)
         line += L" \"" + argument + L"\"";
     const TempFolder outputs;
@@ -49,7 +54,8 @@ HostResult RunHost(const std::vector<std::wstring>& arguments,
     PROCESS_INFORMATION process;
     if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
                         &process))
-        throw std::runtime_error("varnoke-host.exe does not start: error " + std::to_string(GetLastError()));
+        throw std::runtime_error(ToUtf8(program) + " does not start: error " +
+                                 std::to_string(GetLastError()));
     while (WaitForSingleObject(process.hProcess, 50) == WAIT_TIMEOUT)
         if (whileRunning) whileRunning(process.dwProcessId);
     HostResult result;

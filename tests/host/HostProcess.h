@@ -21,7 +21,10 @@ struct HostResult {
 // The folder of the binaries under test: VARNOKE_BIN, else this program's own.
 std::wstring BinFolder();
 
-// Runs varnoke-host.exe to its end; `whileRunning` is called about every 50 ms with its process identifier.
+// Runs a program to its end; `whileRunning` is called about every 50 ms with its process identifier.
+HostResult RunProgram(const std::wstring& program, const std::vector<std::wstring>& arguments,
+                      const std::function<void(DWORD)>& whileRunning = nullptr);
+// Runs varnoke-host.exe of the binaries under test.
 HostResult RunHost(const std::vector<std::wstring>& arguments,
                    const std::function<void(DWORD)>& whileRunning = nullptr);
 
