@@ -1,7 +1,5 @@
 #include "base/Text.h"
 
-#include <windows.h>
-
 #include <cwchar>
 
 namespace base {
@@ -19,10 +17,10 @@ std::string ToUtf8(TextRef text) {
     return bytes;
 }
 
-bool FromUtf8(std::string_view bytes, std::wstring& text) {
+bool FromCodePage(UINT codePage, std::string_view bytes, std::wstring& text) {
     const int size = static_cast<int>(bytes.size());
-    text.resize(::MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, bytes.data(), size, nullptr, 0));
-    return size == 0 || ::MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, bytes.data(), size, &text[0],
+    text.resize(::MultiByteToWideChar(codePage, MB_ERR_INVALID_CHARS, bytes.data(), size, nullptr, 0));
+    return size == 0 || ::MultiByteToWideChar(codePage, MB_ERR_INVALID_CHARS, bytes.data(), size, &text[0],
                                               static_cast<int>(text.size())) > 0;
 }
 

@@ -1,6 +1,8 @@
 // Texts without a framework's string type.
 #pragma once
 
+#include <windows.h>
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -30,7 +32,10 @@ bool SameText(std::wstring_view a, std::wstring_view b);
 /// UTF-8 without a byte order mark.
 std::string ToUtf8(TextRef text);
 
-/// False for bytes that are not UTF-8; a byte order mark stays as a character.
-bool FromUtf8(std::string_view bytes, std::wstring& text);
+/// False for bytes that the code page does not have; a byte order mark stays as a character.
+bool FromCodePage(UINT codePage, std::string_view bytes, std::wstring& text);
+inline bool FromUtf8(std::string_view bytes, std::wstring& text) {
+    return FromCodePage(CP_UTF8, bytes, text);
+}
 
 } // namespace base

@@ -20,13 +20,6 @@ bool StartsWith(std::string_view bytes, std::string_view start) {
     return bytes.substr(0, start.size()) == start;
 }
 
-bool FromCodePage(UINT codePage, std::string_view bytes, std::wstring& text) {
-    const int size = static_cast<int>(bytes.size());
-    text.resize(::MultiByteToWideChar(codePage, MB_ERR_INVALID_CHARS, bytes.data(), size, nullptr, 0));
-    return size == 0 || ::MultiByteToWideChar(codePage, MB_ERR_INVALID_CHARS, bytes.data(), size, &text[0],
-                                              static_cast<int>(text.size())) > 0;
-}
-
 bool IsValidIn(UINT codePage, std::string_view bytes) {
     std::wstring text;
     return FromCodePage(codePage, bytes, text);

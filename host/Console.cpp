@@ -4,18 +4,12 @@
 #include <algorithm>
 #include <string>
 
+#include "base/Text.h"
 #include "host/Console.h"
 
 namespace host {
 
 namespace {
-
-std::string ToUtf8(const CString& text) {
-    const int size = ::WideCharToMultiByte(CP_UTF8, 0, text, text.GetLength(), nullptr, 0, nullptr, nullptr);
-    std::string bytes(static_cast<size_t>(size), '\0');
-    ::WideCharToMultiByte(CP_UTF8, 0, text, text.GetLength(), &bytes[0], size, nullptr, nullptr);
-    return bytes;
-}
 
 /// Control characters, which names from outside may hold, must not break a line up.
 CString Printable(CString line) {
@@ -34,7 +28,7 @@ void Print(DWORD stream, const CString& line) {
         ::WriteConsoleW(output, text, static_cast<DWORD>(text.GetLength()), &written, nullptr);
         return;
     }
-    const std::string bytes = ToUtf8(text);
+    const std::string bytes = base::ToUtf8(text);
     ::WriteFile(output, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
 }
 

@@ -2,13 +2,12 @@
 #include <afxwin.h>
 
 #include "base/Owned.h"
+#include "base/Paths.h"
 #include "host/Paths.h"
 
 namespace host {
 
 namespace {
-
-constexpr int kMaxPath = 32768;
 
 template <class Visit>
 void ForEachEntry(const CString& folder, Visit visit) {
@@ -21,38 +20,26 @@ void ForEachEntry(const CString& folder, Visit visit) {
     } while (::FindNextFileW(search.get(), &entry));
 }
 
-bool IsKindOfEntry(const CString& path, bool folder) {
-    const DWORD attributes = ::GetFileAttributesW(path);
-    return attributes != INVALID_FILE_ATTRIBUTES && ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) == folder;
-}
-
 } // namespace
 
 CString JoinPath(const CString& folder, const CString& name) {
-    return folder.Right(1) == L"\\" ? folder + name : folder + L"\\" + name;
+    return CString(base::JoinPath(folder, name).c_str());
 }
 
 CString FullPath(const CString& path) {
-    CString full;
-    const DWORD length = ::GetFullPathNameW(path, kMaxPath, full.GetBuffer(kMaxPath), nullptr);
-    full.ReleaseBuffer(length < static_cast<DWORD>(kMaxPath) ? static_cast<int>(length) : 0);
-    while (full.GetLength() > 3 && full.Right(1) == L"\\") {
-        full = full.Left(full.GetLength() - 1);
-    }
-    return full;
+    return CString(base::WithoutBackslash(base::FullPath(path)).c_str());
 }
 
 CString ParentFolder(const CString& path) {
-    const int slash = path.ReverseFind(L'\\');
-    return slash < 0 ? CString() : path.Left(slash);
+    return CString(base::WithoutBackslash(base::FolderPrefix(path)).c_str());
 }
 
 bool FolderExists(const CString& path) {
-    return IsKindOfEntry(path, true);
+    return base::FolderExists(path);
 }
 
 bool FileExists(const CString& path) {
-    return IsKindOfEntry(path, false);
+    return base::FileExists(path);
 }
 
 bool EnsureFolder(const CString& path) {
@@ -77,10 +64,7 @@ void RemoveFolder(const CString& path) {
 }
 
 CString ModuleFolder(const wchar_t* module) {
-    CString path;
-    const DWORD length = ::GetModuleFileNameW(::GetModuleHandleW(module), path.GetBuffer(kMaxPath), kMaxPath);
-    path.ReleaseBuffer(static_cast<int>(length));
-    return ParentFolder(path);
+    return ParentFolder(base::ModulePath(::GetModuleHandleW(module)).c_str());
 }
 
 CString SignDataFile(const CString& folder, const wchar_t* name) {

@@ -11,7 +11,7 @@ CString JoinPath(const CString& folder, const CString& name);
 /// The absolute path, without a trailing backslash unless it is a root. Empty when the path can't be formed.
 CString FullPath(const CString& path);
 
-/// The path up to its last backslash, without it; empty when there is none.
+/// The path up to its last backslash, without it unless it is a root; empty when there is none.
 CString ParentFolder(const CString& path);
 
 bool FolderExists(const CString& path);

@@ -1,6 +1,7 @@
 // The signer's signature drawing.
 #include <afxwin.h>
 
+#include "base/Paths.h"
 #include "host/DocumentName.h"
 #include "host/Paths.h"
 #include "host/Records.h"
@@ -12,9 +13,8 @@ SignatureDrawing::SignatureDrawing(CPLMInteract& plm, const CString& user, const
     // The role comes with the message: it must not lead out of the temporary folder.
     const CString name = user + L"_" + role + L".dwg";
     if (CheckDocumentName(name) != NameFault::None) return;
-    wchar_t folder[MAX_PATH + 1];
-    if (!plm.DownloadSignFileEx(InText(user), InText(role)) || !::GetTempPathW(MAX_PATH + 1, folder)) return;
-    m_path = JoinPath(folder, name);
+    if (!plm.DownloadSignFileEx(InText(user), InText(role))) return;
+    m_path = JoinPath(base::TemporaryFolderPrefix().c_str(), name);
 }
 
 SignatureDrawing::~SignatureDrawing() {

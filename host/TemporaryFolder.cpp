@@ -1,14 +1,15 @@
 // A private temporary folder.
 #include <afxwin.h>
 
+#include "base/Paths.h"
 #include "host/Paths.h"
 #include "host/TemporaryFolder.h"
 
 namespace host {
 
 TemporaryFolder::TemporaryFolder() {
-    wchar_t root[MAX_PATH + 1];
-    if (!::GetTempPathW(MAX_PATH + 1, root)) return;
+    const CString root(base::TemporaryFolderPrefix().c_str());
+    if (root.IsEmpty()) return;
     // Only a folder that didn't exist before is ours to remove, so a taken name means trying the next one.
     for (DWORD attempt = 0; attempt < 100; ++attempt) {
         CString name;

@@ -1,6 +1,7 @@
 // varnoke-samples.exe: makes a server folder, messages and settings to try the reference host with.
 #include <afxwin.h>
 
+#include "base/TextEncoding.h"
 #include "base/WholeFile.h"
 #include "host/Console.h"
 #include "host/Paths.h"
@@ -13,13 +14,6 @@ using host::JoinPath;
 namespace samples {
 
 namespace {
-
-/// UTF-16 with a byte order mark, in which the profile functions keep any text.
-std::string Utf16Of(const CString& text) {
-    const CString marked = CString(L'\xFEFF') + text;
-    return std::string(reinterpret_cast<const char*>(marked.GetString()),
-                       static_cast<size_t>(marked.GetLength()) * sizeof(wchar_t));
-}
 
 /// Writes a server file, with the folders that its name asks for.
 bool WriteServerFile(const CString& files, CString remoteName, const std::string& bytes) {
@@ -51,7 +45,8 @@ bool WriteVault(const CString& vault) {
     return host::EnsureFolder(vault) && host::EnsureFolder(files) && host::EnsureFolder(objects) &&
            WriteDrawings(files) &&
            base::WriteWholeFile(JoinPath(objects, L"USER.xml"), base::ToUtf8(UserObjects())) &&
-           base::WriteWholeFile(JoinPath(vault, L"session.ini"), Utf16Of(SessionSettings()));
+           base::WriteWholeFile(JoinPath(vault, L"session.ini"),
+                                base::ToUtf16File(SessionSettings().GetString()));
 }
 
 bool WriteSamples(const CString& folder) {
@@ -59,7 +54,8 @@ bool WriteSamples(const CString& folder) {
            host::EnsureFolder(JoinPath(folder, L"work")) &&
            base::WriteWholeFile(JoinPath(folder, L"message.xml"), base::ToUtf8(StartMessage())) &&
            base::WriteWholeFile(JoinPath(folder, L"message-append.xml"), base::ToUtf8(FurtherMessage())) &&
-           base::WriteWholeFile(JoinPath(folder, L"Varnoke.ini"), Utf16Of(LibrarySettings()));
+           base::WriteWholeFile(JoinPath(folder, L"Varnoke.ini"),
+                                base::ToUtf16File(LibrarySettings().GetString()));
 }
 
 } // namespace
