@@ -24,27 +24,38 @@ CString TagFileName(const wchar_t* kind) {
     return CString(kind) + L".ini";
 }
 
-bool WriteTag(const wchar_t* kind, const CString& signData, const wchar_t* key, const CString& value) {
+bool Store(const wchar_t* kind, const CString& signData, const std::vector<TagEntry>& entries) {
+    if (entries.empty()) return true;
     const CString path = signData + TagFileName(kind);
     MakeWritable(path);
-    return ::WritePrivateProfileStringW(kind, key, value, path) != FALSE;
+    return WriteTags(path, kind, entries);
 }
 
-void WriteTags(const wchar_t* kind, const CString& signData, const std::vector<TagEntry>& entries) {
-    if (entries.empty()) return;
-    const CString path = signData + TagFileName(kind);
+CString Stored(const wchar_t* kind, const wchar_t* folder, const wchar_t* fileName) {
+    const CString path = SignDataFolder(folder) + TagFileName(kind);
     MakeWritable(path);
-    WriteTagEntries(path, kind, entries);
+    return ReadTag(path, kind, fileName);
+}
+
+/// Local by the system's time zone; the C run-time library would ask the environment first. A time before
+/// 1970 counts as the first second of that year.
+SYSTEMTIME LocalTime(FILETIME time) {
+    constexpr FILETIME kFirst = {0xD53E8000, 0x019DB1DE};
+    if (::CompareFileTime(&time, &kFirst) < 0) time = kFirst;
+    SYSTEMTIME utc = {}, local = {};
+    ::FileTimeToSystemTime(&time, &utc);
+    ::SystemTimeToTzSpecificLocalTime(nullptr, &utc, &local);
+    return local;
 }
 
 /// Empty when there is no such document.
 CString ModificationTime(const CString& folder, const CString& fileName) {
     CString text;
-    CFileStatus status;
-    if (CFile::GetStatus(JoinPath(folder, fileName), status)) {
-        const CTime& time = status.m_mtime;
-        text.Format(L"%.4d-%.2d-%.2d_%.2d:%.2d:%.2d", time.GetYear(), time.GetMonth(), time.GetDay(),
-                    time.GetHour(), time.GetMinute(), time.GetSecond());
+    WIN32_FILE_ATTRIBUTE_DATA facts = {};
+    if (::GetFileAttributesExW(JoinPath(folder, fileName), GetFileExInfoStandard, &facts)) {
+        const SYSTEMTIME time = LocalTime(facts.ftLastWriteTime);
+        text.Format(L"%.4d-%.2d-%.2d_%.2d:%.2d:%.2d", time.wYear, time.wMonth, time.wDay, time.wHour,
+                    time.wMinute, time.wSecond);
     }
     return text;
 }
@@ -69,15 +80,13 @@ bool SetTag(const wchar_t* kind, const wchar_t* folder, const wchar_t* fileName,
     if (!IsNamed(folder, fileName)) return false;
     CString text;
     text.Format(L"%d", static_cast<int>(value));
-    return WriteTag(kind, MakeSignDataFolder(folder), fileName, text);
+    return Store(kind, MakeSignDataFolder(folder), {{fileName, text}});
 }
 
 bool GetTag(const wchar_t* kind, const wchar_t* folder, const wchar_t* fileName, long* value) {
     if (!IsNamed(folder, fileName) || !value) return false;
     *value = 0;
-    const CString path = SignDataFolder(folder) + TagFileName(kind);
-    MakeWritable(path);
-    *value = static_cast<long>(::GetPrivateProfileIntW(kind, fileName, 0, path));
+    *value = wcstol(Stored(kind, folder, fileName), nullptr, 10);
     return true;
 }
 
@@ -85,16 +94,13 @@ bool SetTimeTag(const wchar_t* folder, const wchar_t* fileName) {
     if (!IsNamed(folder, fileName)) return false;
     const CString signData = MakeSignDataFolder(folder);
     const CString time = ModificationTime(folder, fileName);
-    return !time.IsEmpty() && WriteTag(kTimeTag, signData, fileName, time);
+    return !time.IsEmpty() && Store(kTimeTag, signData, {{fileName, time}});
 }
 
 bool HasChanged(const wchar_t* folder, const wchar_t* fileName, long* changed) {
     if (!IsNamed(folder, fileName) || !changed) return false;
     *changed = 0;
-    const CString path = SignDataFolder(folder) + TagFileName(kTimeTag);
-    MakeWritable(path);
-    wchar_t recorded[1024] = {};
-    ::GetPrivateProfileStringW(kTimeTag, fileName, L"", recorded, 1024, path);
+    const CString recorded = Stored(kTimeTag, folder, fileName);
     const CString time = ModificationTime(folder, fileName);
     if (time.IsEmpty() || time.CompareNoCase(recorded) == 0) return false;
     *changed = 1;
@@ -116,8 +122,8 @@ bool ResetTags(const SSignFileDUL* list, bool withLog) {
         entries.push_back({name, L"0"});
     if (entries.empty()) return true;
     const CString signData = MakeSignDataFolder(list->m_strFolder);
-    WriteTags(kSignTag, signData, entries);
-    if (withLog) WriteTags(kSignLogTag, signData, entries);
+    Store(kSignTag, signData, entries);
+    if (withLog) Store(kSignLogTag, signData, entries);
     return true;
 }
 
@@ -131,7 +137,7 @@ bool RecordTimes(const SSignFileDUL* list) {
         const CString time = ModificationTime(list->m_strFolder, name);
         if (!time.IsEmpty()) entries.push_back({name, time});
     }
-    WriteTags(kTimeTag, signData, entries);
+    Store(kTimeTag, signData, entries);
     return true;
 }
 

@@ -1,4 +1,4 @@
-// Writing of many keys to one section of an INI file at once.
+// The INI files of the sign tags: one section, a key for each document.
 #pragma once
 
 #include <afxwin.h>
@@ -12,7 +12,12 @@ struct TagEntry {
 };
 
 /// Leaves the file as writing the entries one after another with WritePrivateProfileStringW would leave it,
-/// but takes time in proportion to the size of the file. Keys are compared without regard to case.
-void WriteTagEntries(const CString& path, const CString& section, const std::vector<TagEntry>& entries);
+/// wholly or, with the result false, not at all. Differences: a new file, or one whose code page lacks a
+/// letter of a key, becomes UTF-16; and the file as a whole is written only where it is needed, so that a key
+/// more or a value of the same length costs the same in a long file. The file must not be read-only.
+bool WriteTags(const CString& path, const CString& section, const std::vector<TagEntry>& entries);
+
+/// The value of a key as GetPrivateProfileStringW gives it, empty when there is none.
+CString ReadTag(const CString& path, const CString& section, const CString& key);
 
 } // namespace varnoke
