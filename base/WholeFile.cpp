@@ -19,6 +19,18 @@ std::wstring TemporaryName() {
     return name;
 }
 
+/// Whether the process that a temporary file is named after still runs and had begun when it was written:
+/// numbers of processes are given out again.
+bool IsOwned(const WIN32_FIND_DATAW& file) {
+    unsigned long process = 0;
+    if (swscanf(file.cFileName, L"~varnoke-%lx-", &process) != 1) return true;
+    const KernelHandle owner(::OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION | SYNCHRONIZE, FALSE, process));
+    FILETIME began = {}, ignored;
+    return owner && ::WaitForSingleObject(owner.get(), 0) == WAIT_TIMEOUT &&
+           ::GetProcessTimes(owner.get(), &began, &ignored, &ignored, &ignored) &&
+           ::CompareFileTime(&began, &file.ftLastWriteTime) <= 0;
+}
+
 FileHandle OpenTemporary(const std::wstring& path, DWORD creation) {
     return OwnFile(
         ::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, creation, FILE_ATTRIBUTE_NORMAL, nullptr));
@@ -67,6 +79,15 @@ ReadResult ReadWholeFile(TextRef path, std::string& bytes, LONGLONG sizeLimit) {
 bool WriteWholeFile(TextRef path, const std::string& bytes) {
     ReplacedFile file(path);
     return file.Write(bytes) && file.Replace();
+}
+
+void RemoveLeftFiles(TextRef folderPrefix) {
+    WIN32_FIND_DATAW file = {};
+    const std::wstring prefix(folderPrefix);
+    const FindHandle find = OwnFind(::FindFirstFileW((prefix + L"~varnoke-*.tmp").c_str(), &file));
+    for (bool found = find != nullptr; found; found = ::FindNextFileW(find.get(), &file)) {
+        if (!IsOwned(file)) ::DeleteFileW((prefix + file.cFileName).c_str());
+    }
 }
 
 ReplacedFile::ReplacedFile(TextRef target) : m_target(target) {

@@ -25,6 +25,10 @@ ReadResult ReadWholeFile(TextRef path, std::string& bytes, LONGLONG sizeLimit = 
 /// Puts a file with these bytes in the place of `path`, as ReplacedFile does it.
 bool WriteWholeFile(TextRef path, const std::string& bytes);
 
+/// Removes from a folder (with its trailing backslash) the temporary files of ReplacedFile whose process has
+/// come to its end.
+void RemoveLeftFiles(TextRef folderPrefix);
+
 /// A file that is written beside its target, under a temporary name in the same folder, before it takes the
 /// target's place as a whole: whatever fails, the old file stays. The temporary file goes with this object.
 /// Only the end of the process can leave it, under a name like "~varnoke-1a2b-3c4d5e6f.tmp", unique in its

@@ -1,29 +1,37 @@
-// Hash sets and maps of texts that are equal without regard to case.
+// Hash sets and maps of texts that are equal as file names are: ordinal, without regard to case.
 #pragma once
 
 #include <afxwin.h>
-#include <wctype.h>
 #include <cstddef>
 #include <unordered_map>
 #include <unordered_set>
+
+#include "base/Text.h"
 
 namespace varnoke {
 
 struct NoCaseEqual {
     bool operator()(const CString& left, const CString& right) const {
-        return left.CompareNoCase(right) == 0;
+        return base::SameText(left.GetString(), right.GetString());
     }
 };
 
-/// Folds at least what CompareNoCase folds, so that equal texts meet in one bucket.
+/// Folds what the comparison folds, so that equal texts meet in one bucket.
 struct NoCaseHash {
     std::size_t operator()(const CString& text) const {
         std::size_t hash = 14695981039346656037u;
         const wchar_t* characters = text;
         for (int i = 0; i < text.GetLength(); ++i) {
-            hash = (hash ^ towlower(characters[i])) * 1099511628211u;
+            hash = (hash ^ Upper(characters[i])) * 1099511628211u;
         }
         return hash;
+    }
+
+private:
+    static std::size_t Upper(wchar_t character) {
+        if (character < 0x80) return character >= L'a' && character <= L'z' ? character - 32 : character;
+        const auto asText = reinterpret_cast<wchar_t*>(static_cast<std::size_t>(character));
+        return reinterpret_cast<std::size_t>(::CharUpperW(asText));
     }
 };
 

@@ -47,7 +47,7 @@ CString CPLMInteract::GetRemoteFileName(wchar_t* userName, wchar_t*) {
 }
 
 CString CPLMInteract::GetProValue(CString xmlFile, CString propertyName) {
-    return varnoke::ReadProperty(xmlFile, propertyName);
+    return varnoke::ReadObjectProperty(xmlFile, propertyName);
 }
 
 long CPLMInteract::SetDocSignTag(wchar_t* folder, wchar_t* fileName, long value) {

@@ -2,6 +2,8 @@
 #include <afxwin.h>
 
 #include "plm/ReturnFile.h"
+#include "base/Paths.h"
+#include "base/WholeFile.h"
 #include "plm/NoCase.h"
 #include "plm/StartSignMessage.h"
 #include "plm/XmlDocument.h"
@@ -75,7 +77,9 @@ bool WriteReturnFile(const CStringList& signedNames, const CString& keyName, con
     const DomNode group = SelectNode(document, L"root/objs/type");
     if (!group) return false;
     if (!DocumentMarker(document, keyName, NonEmptyNames(signedNames)).MarkAll(group)) return false;
-    return base::SaveXml(document, returnFile.Left(returnFile.ReverseFind(L'.')) + L"_Ret.Xml");
+    const CString path = returnFile.Left(returnFile.ReverseFind(L'.')) + L"_Ret.Xml";
+    base::RemoveLeftFiles(base::FolderPrefix(path));
+    return base::SaveXml(document, path);
 }
 
 } // namespace varnoke

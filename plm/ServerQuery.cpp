@@ -24,12 +24,12 @@ CString QueryDrawingName(const CString& userName) {
     const CString resultFile = JoinPath(ModuleFolder(), L"USER.Xml");
     ::DeleteFileW(resultFile);
     dvl_QueryObjs(L"USER", L"", L"-1", L"0", L"", filter, L"", resultFile);
-    const CString location = ReadProperty(resultFile, L"LOCATION");
+    const CString location = ReadObjectProperty(resultFile, L"LOCATION");
     ::DeleteFileW(resultFile);
     return location;
 }
 
-CString ReadProperty(const CString& xmlFile, const CString& name) {
+CString ReadObjectProperty(const CString& xmlFile, const CString& name) {
     return Guarded(CString(), [&] {
         CString value;
         if (xmlFile.IsEmpty() || name.IsEmpty()) return value;

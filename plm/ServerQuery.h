@@ -9,6 +9,6 @@ namespace varnoke {
 CString QueryDrawingName(const CString& userName);
 
 /// The value of the first property of that name in an object XML file; empty on failure. Throws nothing.
-CString ReadProperty(const CString& xmlFile, const CString& name);
+CString ReadObjectProperty(const CString& xmlFile, const CString& name);
 
 } // namespace varnoke

@@ -9,6 +9,7 @@ namespace varnoke {
 CString SignDataFolder(const CString& folder);
 
 /// The same, after creating it where it is missing and hiding it; failures show when a file is written there.
+/// Temporary files that a killed process left there go when a process turns to the folder.
 CString MakeSignDataFolder(const CString& folder);
 
 /// Resets a file's attributes to normal, so that it can be replaced; a missing file is no error.

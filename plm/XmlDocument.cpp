@@ -4,18 +4,37 @@
 #include "plm/XmlDocument.h"
 
 #include <cwchar>
-#include <cwctype>
+#include <string>
 
 namespace varnoke {
 
 namespace {
 
-/// The text behind its XML declaration: an encoding named there is that of a file, while these are
-/// characters, and the parser would take it over into the file that it saves.
-const wchar_t* WithoutDeclaration(const wchar_t* text) {
-    if (wcsncmp(text, L"<?xml", 5) != 0 || !iswspace(text[5])) return text;
-    const wchar_t* end = wcsstr(text, L"?>");
-    return end ? end + 2 : text;
+/// The text without the encoding that its XML declaration names: that is one of a file, while these are
+/// characters, and the parser would take it over into the file that it saves. The rest of the declaration is
+/// the parser's to check; a declaration that names an encoding twice gives no text at all.
+std::wstring WithoutEncoding(std::wstring text) {
+    constexpr wchar_t kBlank[] = L" \t\r\n";
+    const size_t end = text.find(L"?>");
+    if (text.compare(0, 5, L"<?xml") != 0 || end == text.npos) return text;
+    const size_t name = text.find(L"encoding");
+    if (name > end || !wcschr(kBlank, text[name - 1])) return text;
+    const size_t equals = text.find_first_not_of(kBlank, name + 8);
+    const size_t open =
+        equals < end && text[equals] == L'=' ? text.find_first_not_of(kBlank, equals + 1) : end;
+    if (open >= end || (text[open] != L'"' && text[open] != L'\'')) return text;
+    const size_t close = text.find(text[open], open + 1);
+    if (close > end || text.substr(close, end - close).find(L"encoding") != text.npos) return std::wstring();
+    return text.erase(name, close + 1 - name);
+}
+
+/// XML has no half surrogate pairs; the parser would keep them as something else.
+bool HasWholeCharacters(const std::wstring& text) {
+    for (size_t i = 0; i < text.size(); ++i) {
+        if (IS_LOW_SURROGATE(text[i])) return false;
+        if (IS_HIGH_SURROGATE(text[i]) && (++i == text.size() || !IS_LOW_SURROGATE(text[i]))) return false;
+    }
+    return true;
 }
 
 void Require(IXMLDOMNode* node) {
@@ -30,7 +49,9 @@ bool Succeeded(HRESULT result) {
 }
 
 DomDocument LoadMessage(const wchar_t* text) {
-    return base::LoadXmlText(WithoutDeclaration(text));
+    constexpr wchar_t kByteOrderMark = 0xFEFF;
+    const std::wstring whole(text + (*text == kByteOrderMark ? 1 : 0));
+    return HasWholeCharacters(whole) ? base::LoadXmlText(WithoutEncoding(whole)) : nullptr;
 }
 
 DomNode SelectNode(IXMLDOMNode* context, const wchar_t* path) {

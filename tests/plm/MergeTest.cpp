@@ -23,6 +23,8 @@ TEST_F(MergeTest, AddsNewDocumentsOnly) {
     const struct {
         const wchar_t *kept, *added, *handedOut, *file;
     } cases[] = {
+        // Names are compared as the file system compares them.
+        {L"Ähre.dwg;Жук", L"äHRE.DWG;жУК;ß;SS", L"DOC:ß;SS", L"DOC:Ähre.dwg;Жук;ß;SS"},
         {L"A;B", L"a;C", L"DOC:C", L"DOC:A;B;C"},
         {L"A;B", L"b;a;A", L"DOC:", L"DOC:A;B"},
         // A name that is new twice is added twice; the first FNAME counts; without one an object is new.
@@ -69,6 +71,7 @@ TEST_F(MergeTest, KeptMessageMustBeThere) {
     SetFileAttributesW(m_kept.c_str(), FILE_ATTRIBUTE_READONLY);
     EXPECT_EQ(Merge(Documents(L"B"), merged), 1);
     EXPECT_EQ(DocumentsIn(m_kept), L"DOC:A;B");
+    EXPECT_EQ(GetFileAttributesW(m_kept.c_str()) & FILE_ATTRIBUTE_READONLY, 0u);
 }
 
 TEST_F(MergeTest, RecordsOfTheHost) {
@@ -125,9 +128,15 @@ TEST_F(ReturnFileTest, MarksDocuments) {
     ASSERT_EQ(Read(Documents(L"A.dwg;X=b.dwg,B.dwg;C.dwg,fname=1,FNAME=|OTHER:b.dwg")), 1);
     const std::string kept = Kept();
     WriteBytes(m_ret, "old");
+    const std::filesystem::path other = m_folder / L"other";
     for (const auto& run : cases) {
         SetFileAttributesW(m_ret.c_str(), FILE_ATTRIBUTE_READONLY);
+        std::filesystem::remove(other);
+        ASSERT_TRUE(CreateHardLinkW(other.c_str(), m_ret.c_str(), nullptr));
+        const std::string before = ReadBytes(other);
         ASSERT_EQ(Notify(run.names, L"fName", m_given), 1);
+        EXPECT_EQ(ReadBytes(other), before) << "the old file is replaced, not written to";
+        EXPECT_EQ(GetFileAttributesW(m_ret.c_str()) & FILE_ATTRIBUTE_READONLY, 0u);
         const std::wstring text = FromUtf8(ReadBytes(m_ret)), mark = L"<pro name=\"SignRet\" value=\"";
         std::wstring marks;
         for (size_t at = text.find(mark); at != std::wstring::npos; at = text.find(mark, at + 1))

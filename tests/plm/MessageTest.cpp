@@ -121,12 +121,54 @@ TEST_F(MessageTest, WorkFolders) {
     }
 }
 
-TEST_F(MessageTest, DeclaredEncodingIsNotThatOfTheKeptMessage) {
-    for (const wchar_t* encoding : {L"UTF-16", L"gbk", L"ISO-8859-1", L"GB2312", L"utf-8"}) {
-        const std::wstring declaration = std::wstring(L"<?xml version='1.0' encoding='") + encoding + L"'?>";
-        EXPECT_EQ(Read(declaration + Documents(L"图")), 1) << ToUtf8(encoding);
-        EXPECT_EQ(DocumentsIn(m_kept), L"DOC:图") << ToUtf8(encoding);
+TEST_F(MessageTest, Declarations) {
+    for (const wchar_t* mark : {L"", L"\xFEFF"}) {
+        for (const wchar_t* rest : {L"", L" encoding='UTF-16'", L" encoding = \"gbk\" standalone='yes'",
+                                    L"\tencoding='GB2312' ", L" encoding='utf-8'"}) {
+            SCOPED_TRACE(ToUtf8(rest));
+            const std::wstring declaration = std::wstring(mark) + L"<?xml version='1.0'" + rest + L"?>";
+            EXPECT_EQ(Read(declaration + Documents(L"图")), 1);
+            EXPECT_EQ(DocumentsIn(m_kept), L"DOC:图");
+            Results merged; // reads the kept message as a file
+            EXPECT_EQ(Merge(declaration + Documents(L"乙"), merged), 1);
+            EXPECT_EQ(DocumentsIn(m_kept), L"DOC:图;乙");
+        }
     }
+    EXPECT_EQ(Read(Documents(L"A")), 1);
+    for (const wchar_t* declaration :
+         {L"<?xml encoding='gbk'?>", L"<?xml version=1.0?>", L"<?xml version='1.0' encoding=gbk?>",
+          L"<?xml version='1.0' encoding='gbk' encoding='gbk'?>", L"<?xml nonsense?>",
+          L"<?xml version='1.0'?><?xml version='1.0'?>", L" <?xml version='1.0'?>"}) {
+        EXPECT_EQ(Read(declaration + Documents(L"B")), 0) << ToUtf8(declaration);
+        EXPECT_EQ(DocumentsIn(m_kept), L"DOC:A");
+    }
+    for (const wchar_t* text : {L"\xD800", L"\xDC00", L"\xD800x"})
+        EXPECT_EQ(Read(Documents(text)), 0) << "half a character";
+    EXPECT_EQ(Read(Documents(L"𠀀")), 1);
+}
+
+TEST_F(MessageTest, KeptMessage_IsReplacedAsAWhole) {
+    ASSERT_EQ(Read(Documents(L"A")), 1);
+    const std::filesystem::path other = m_folder / L"other",
+                                left = m_kept.parent_path() / L"~varnoke-7fff0-1.tmp";
+    ASSERT_TRUE(CreateHardLinkW(other.c_str(), m_kept.c_str(), nullptr));
+    const std::string before = Kept();
+    SetFileAttributesW(m_kept.c_str(), FILE_ATTRIBUTE_READONLY);
+    ASSERT_EQ(Read(Documents(L"B")), 1);
+    EXPECT_EQ(ReadBytes(other), before);
+    EXPECT_EQ(GetFileAttributesW(m_kept.c_str()) & FILE_ATTRIBUTE_READONLY, 0u);
+    Results merged, elsewhere;
+    std::filesystem::remove(other);
+    ASSERT_TRUE(CreateHardLinkW(other.c_str(), m_kept.c_str(), nullptr));
+    ASSERT_EQ(Merge(Documents(L"C"), merged), 1);
+    EXPECT_NE(ReadBytes(other), Kept());
+
+    // What a killed run left goes when a run turns to the folder.
+    const TempFolder folder;
+    ASSERT_EQ(Call(kRead, Documents(L"A"), elsewhere, folder.Text()), 1);
+    WriteBytes(left, "");
+    ASSERT_EQ(Read(Documents(L"B")), 1);
+    EXPECT_FALSE(exists(left));
 }
 
 TEST_F(MessageTest, RefusedMessagesLeaveNoRecords) {
