@@ -319,12 +319,13 @@ TEST_F(TransferDlg, Messages_AreFreedWhetherTakenOrNot) {
     const ObjectCounts before = CountObjects();
     EXPECT_GT(messages, MemoryGrowth(1, close));
     const ObjectCounts after = CountObjects();
+    EXPECT_EQ(L"正在停止，请等待当前文档完成...", m_fileLabel) << "what was waiting is not shown any more";
     EXPECT_EQ(before.windows, after.windows);
     EXPECT_EQ(before.kernel, after.kernel) << "threads and events";
 }
 
 TEST_F(TransferDlg, MissingLocalFiles_AreSkipped) {
-    const std::wstring longName = std::wstring(1100, L'x') + L".dwg";
+    const std::wstring longName = std::wstring(30000, L'x') + L".dwg";
     const auto* item = Add(L"a", L"a.dwg");
     Add(L"b", longName.c_str());
     EXPECT_EQ(3, Hurry(kUpload));
