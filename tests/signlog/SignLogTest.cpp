@@ -196,8 +196,8 @@ TEST_F(SignLogTest, RecordChangedByOthers_IsReadAgain) {
         bytes.replace(at + 1, id.size(), std::string(id.size(), 'z'));
     WriteBytes(m_record, bytes);
     fs::last_write_time(m_record, time);
-    EXPECT_EQ(Write(L"D", L"ID=" + FromUtf8(id)), 1);
-    EXPECT_EQ(ReadEntries(m_record).size(), 4u);
+    EXPECT_EQ(Write(L"N", L"SIGN_ROLE=r|ID=" + std::wstring(id.size(), L'z')), 1);
+    EXPECT_EQ(ReadEntries(m_record).size(), 3u) << "replaces the entry that others made";
 }
 
 // What a process that was killed in the middle of a change leaves.
