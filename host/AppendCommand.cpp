@@ -1,53 +1,54 @@
-// append: the merge of a further message.
+// append: merges a further message into the one that the work folder keeps.
 #include <afxwin.h>
 
-#include "host/AppendCommand.h"
+#include <string>
+
+#include "base/WholeFile.h"
+#include "host/Commands.h"
 #include "host/Console.h"
 #include "host/Document.h"
 #include "host/InteractiveSession.h"
-#include "host/MessageFile.h"
 #include "host/Paths.h"
+#include "host/RunInput.h"
+#include "host/RunLock.h"
 #include "host/Texts.h"
 
 namespace host {
 
-namespace {
-
-/// The text of a message file; empty when it can't be read.
-CString TextOf(const CString& file) {
-    CString text, error;
-    ReadMessageFile(file, text, error);
-    return text;
-}
-
-} // namespace
-
-std::vector<OptionRule> AppendCommand::Rules() {
+std::vector<OptionRule> AppendRules() {
     return MessageRules(InteractiveSession::Rules());
 }
 
-int AppendCommand::Run(const Options& options) {
+int RunAppend(const Options& options) {
     RunInput input;
-    if (!LoadRunInput(options, input)) return exitRefused;
+    if (!LoadRunInput(options, input)) return kExitRefused;
     const CString kept = SignDataFile(input.work, L"StartSign.Xml");
     if (!FileExists(kept)) {
         PrintError(Text(TextId::NothingKept, {input.work}));
-        return exitRefused;
+        return kExitRefused;
     }
     InteractiveSession session(options);
-    if (!session.Open()) return exitFailed;
-    const CString before = TextOf(kept);
+    if (!session.Open()) return kExitFailed;
+    const RunLock lock(input.work);
+    if (lock.State() != RunLock::Result::Held) {
+        session.Tell(Text(TextId::WorkFolderBusy, {input.work}));
+        return kExitBusy;
+    }
+    std::string before;
+    std::string after;
+    base::ReadWholeFile(kept, before);
     MessageRecords records;
     if (!StartMessage(session.Plm(), &CPLMInteract::AppendStartSign, input.message, input.work, records)) {
         // The library merges first and lets the user choose then.
-        PrintLine(Text(TextOf(kept) == before ? TextId::NothingMerged : TextId::MergedUnchosen));
-        return exitNone;
+        base::ReadWholeFile(kept, after);
+        session.Tell(Text(after == before ? TextId::NothingMerged : TextId::MergedUnchosen));
+        return kExitNone;
     }
     // The library adds every new document to the kept message, but hands only the first one out.
     for (const Document& document : DocumentsOf(*records.files)) {
         PrintLine(Text(TextId::Merged, {document.Name()}));
     }
-    return exitDone;
+    return kExitDone;
 }
 
 } // namespace host

@@ -1,69 +1,81 @@
 // The program's commands.
 #include <afxwin.h>
 
-#include "host/AppendCommand.h"
-#include "host/BackSignCommand.h"
-#include "host/CommandTable.h"
+#include "host/Commands.h"
 #include "host/Console.h"
-#include "host/LogCommand.h"
-#include "host/OptionCommand.h"
-#include "host/SignCommand.h"
-#include "host/StatusCommand.h"
+#include "host/Texts.h"
 
 namespace host {
 
 namespace {
 
-template <class T>
-std::unique_ptr<Command> Make() {
-    return std::make_unique<T>();
-}
-
-template <class T>
-constexpr CommandEntry Entry(const wchar_t* name, TextId purpose) {
-    return {name, purpose, &T::Rules, &Make<T>};
-}
-
-const CommandEntry kCommands[] = {
-    Entry<BackSignCommand>(L"back-sign", TextId::PurposeBackSign),
-    Entry<AppendCommand>(L"append", TextId::PurposeAppend),
-    Entry<LogCommand>(L"log", TextId::PurposeLog),
-    Entry<StatusCommand>(L"status", TextId::PurposeStatus),
-    Entry<SignCommand>(L"sign", TextId::PurposeSign),
-    Entry<OptionCommand>(L"option", TextId::PurposeOption),
+struct CommandEntry {
+    const wchar_t* name;
+    TextId purpose;
+    std::vector<OptionRule> (*rules)();
+    int (*run)(const Options& options);
 };
 
-void PrintUsage(void (*print)(const CString&)) {
-    print(Text(TextId::Usage));
-    for (const CommandEntry& command : kCommands) {
-        print(CString(L"  ") + command.name + UsageOf(command.rules()));
-        print(CString(L"      ") + Text(command.purpose));
+constexpr CommandEntry kCommands[] = {
+    {L"back-sign", TextId::PurposeBackSign, &BackSignRules, &RunBackSign},
+    {L"append", TextId::PurposeAppend, &AppendRules, &RunAppend},
+    {L"log", TextId::PurposeLog, &LogRules, &RunLog},
+    {L"status", TextId::PurposeStatus, &StatusRules, &RunStatus},
+    {L"sign", TextId::PurposeSign, &SignRules, &RunSign},
+    {L"option", TextId::PurposeOption, &OptionRules, &RunOption},
+};
+
+bool AsksForHelp(const CString& argument) {
+    for (const wchar_t* word : {L"--help", L"-h", L"/?", L"help"}) {
+        if (argument == word) return true;
     }
-    print(Text(TextId::UsageEnd));
+    return false;
+}
+
+void PrintHelp(const CommandEntry& command) {
+    PrintLine(CString(L"  ") + command.name + UsageOf(command.rules()));
+    PrintLine(CString(L"      ") + Text(command.purpose));
+}
+
+int PrintHelp() {
+    PrintLine(Text(TextId::Usage));
+    for (const CommandEntry& command : kCommands) {
+        PrintHelp(command);
+    }
+    PrintLine(Text(TextId::UsageEnd));
+    return kExitDone;
 }
 
 int RefuseUsage(const CString& error) {
-    if (!error.IsEmpty()) PrintError(error);
-    PrintUsage(PrintError);
-    return exitRefused;
+    PrintError(error);
+    PrintError(Text(TextId::UsageHint));
+    return kExitRefused;
+}
+
+int Run(const CommandEntry& command, const std::vector<CString>& arguments) {
+    for (const CString& argument : arguments) {
+        if (!AsksForHelp(argument)) continue;
+        PrintHelp(command);
+        return kExitDone;
+    }
+    Options options;
+    CString error;
+    return options.Parse(arguments, command.rules(), error) ? command.run(options) : RefuseUsage(error);
 }
 
 } // namespace
 
 int RunCommand(const std::vector<CString>& arguments) {
-    if (arguments.empty()) return RefuseUsage(CString());
+    if (arguments.empty()) return RefuseUsage(Text(TextId::Usage));
     const CString& name = arguments.front();
-    if (name == L"--help" || name == L"help") {
-        PrintUsage(PrintLine);
-        return exitDone;
+    if (AsksForHelp(name)) return PrintHelp();
+    if (name == L"--version") {
+        PrintLine(CString(L"varnoke-host ") + VARNOKE_VERSION);
+        return kExitDone;
     }
     for (const CommandEntry& command : kCommands) {
-        if (name != command.name) continue;
-        Options options;
-        CString error;
-        const std::vector<CString> rest(arguments.begin() + 1, arguments.end());
-        if (!options.Parse(rest, command.rules(), error)) return RefuseUsage(error);
-        return command.make()->Run(options);
+        if (name == command.name)
+            return Run(command, std::vector<CString>(arguments.begin() + 1, arguments.end()));
     }
     return RefuseUsage(Text(TextId::UnknownCommand, {name}));
 }

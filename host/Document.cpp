@@ -18,17 +18,17 @@ std::vector<CString> ValuesOf(const SSignObj& object, const wchar_t* name) {
     return values;
 }
 
-CString FirstValueOf(const SSignObj& object, const wchar_t* name, const CString& otherwise) {
+} // namespace
+
+CString PropertyNamed(const SSignObj& object, const wchar_t* name, const CString& otherwise) {
     const std::vector<CString> values = ValuesOf(object, name);
     return values.empty() || values.front().IsEmpty() ? otherwise : values.front();
 }
 
-} // namespace
-
 Document::Document(const SSignObj& object)
-    : m_object(&object), m_name(FirstValueOf(object, kNameProperty, CString())),
-      m_remoteName(FirstValueOf(object, L"LOCATION", m_name)), m_id(FirstValueOf(object, L"ID", m_name)),
-      m_role(FirstValueOf(object, L"SIGN_ROLE", kDefaultRole)), m_names(ValuesOf(object, kNameProperty)) {}
+    : m_object(&object), m_name(PropertyNamed(object, kNameProperty, CString())),
+      m_remoteName(PropertyNamed(object, L"LOCATION", m_name)), m_id(PropertyNamed(object, L"ID", m_name)),
+      m_role(PropertyNamed(object, L"SIGN_ROLE", kDefaultRole)), m_names(ValuesOf(object, kNameProperty)) {}
 
 std::vector<Document> DocumentsOf(const SSignType& files) {
     std::vector<Document> documents;

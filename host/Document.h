@@ -13,6 +13,9 @@ namespace host {
 /// Property of a document that holds its file name in the work folder; the result file is keyed by it too.
 constexpr wchar_t kNameProperty[] = L"FNAME";
 
+/// The first value of a property, regardless of the name's case; `otherwise` without one or for an empty one.
+CString PropertyNamed(const SSignObj& object, const wchar_t* name, const CString& otherwise);
+
 class Document {
 public:
     /// `object` is borrowed from the message's records, which must outlive this.

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "host/Command.h"
+#include "host/Commands.h"
 #include "host/Console.h"
 #include "host/DocumentLine.h"
 
@@ -78,8 +78,8 @@ void PrintDocumentLine(const std::vector<Document>& documents, size_t index, Tex
 }
 
 int ExitOfCount(size_t done, size_t all) {
-    if (done == 0) return exitNone;
-    return done == all ? exitDone : exitSome;
+    if (done == 0) return kExitNone;
+    return done == all ? kExitDone : kExitSome;
 }
 
 } // namespace host

@@ -38,4 +38,9 @@ bool InteractiveSession::Open() {
     return true;
 }
 
+void InteractiveSession::Tell(const CString& text) {
+    PrintError(text);
+    ::MessageBoxW(m_session.Window().GetSafeHwnd(), text, Text(TextId::WindowTitle), MB_OK | MB_ICONWARNING);
+}
+
 } // namespace host

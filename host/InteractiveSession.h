@@ -20,6 +20,9 @@ public:
     /// line.
     bool Open();
 
+    /// Says in a window, and on the console for who watches that, what keeps the signer from going on.
+    void Tell(const CString& text);
+
     MainWindow& Window() { return m_session.Window(); }
     CPLMInteract& Plm() { return m_session.Plm(); }
     CSignOpt& SignOpt() { return m_session.SignOpt(); }

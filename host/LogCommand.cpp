@@ -1,87 +1,62 @@
-// log: the unsent sign record as a table.
+// log: the signatures that wait to be sent, as a table.
 #include <afxwin.h>
 
-#include "neighbours/qorparser.h"
+#include "host/Commands.h"
 #include "host/Console.h"
-#include "host/LogCommand.h"
+#include "host/Document.h"
 #include "host/Paths.h"
+#include "host/Records.h"
 #include "host/Texts.h"
+#include "varnoke/PLMInteract.h"
 
 namespace host {
 
 namespace {
-
-CString PropertyOf(QORMODEL::IQORDataEntry& entry, const wchar_t* name) {
-    BSTR value = nullptr;
-    if (entry.GetProperty(_bstr_t(name), &value) != S_OK || !value) return CString();
-    return CString(static_cast<const wchar_t*>(_bstr_t(value, false)));
-}
-
-CString StateOf(QORMODEL::IQORDataEntry& entry) {
-    BSTR state = nullptr;
-    if (entry.GetState(&state) != S_OK || !state) return CString();
-    return CString(static_cast<const wchar_t*>(_bstr_t(state, false)));
-}
 
 /// A letter of the record in words; an unknown one as it stands.
 CString WordFor(const CString& letter, const wchar_t* known, TextId word) {
     return letter == known ? CString(Text(word)) : letter;
 }
 
+std::vector<CString> RowOf(const SSignObj& entry) {
+    const auto value = [&entry](const wchar_t* name) { return PropertyNamed(entry, name, CString()); };
+    const CString kind =
+        WordFor(WordFor(value(L"QORMTYPE"), L"N", TextId::KindSigned), L"D", TextId::KindDeleted);
+    CString document = value(L"QORMFILEID") + L" " + value(L"DOC_NAME");
+    return {document.Trim(), value(L"QORMROLE"), kind};
+}
+
 } // namespace
 
-std::vector<OptionRule> LogCommand::Rules() {
+std::vector<OptionRule> LogRules() {
     return {{L"--work", L"DIR", true}};
 }
 
-int LogCommand::Run(const Options& options) {
+int RunLog(const Options& options) {
     const CString folder = FullPath(options.Value(L"--work"));
     if (!FolderExists(folder)) {
         PrintError(Text(TextId::NoFolder, {options.Value(L"--work")}));
-        return exitRefused;
+        return kExitRefused;
     }
-    const CString file = SignRecordFile(folder);
-    if (!FileExists(file)) {
+    CPLMInteract plm;
+    SSignType* made = nullptr;
+    const long read = plm.GetUnsentSignLog(folder, &made);
+    const SignTypePtr entries(made);
+    if (!read || !entries) {
+        PrintError(Text(TextId::RecordUnreadable, {folder}));
+        return kExitFailed;
+    }
+    if (entries->m_lstObj.IsEmpty()) {
         PrintLine(Text(TextId::NoRecord));
-        return exitNone;
+        return kExitDone;
     }
-    try {
-        return PrintRecord(file);
-    } catch (const _com_error&) {
-        PrintError(Text(TextId::RecordUnreadable, {file}));
-        return exitFailed;
+    std::vector<std::vector<CString>> rows = {
+        {Text(TextId::ColumnDocument), Text(TextId::ColumnRole), Text(TextId::ColumnKind)}};
+    for (POSITION position = entries->m_lstObj.GetHeadPosition(); position;) {
+        rows.push_back(RowOf(*entries->m_lstObj.GetNext(position)));
     }
-}
-
-int LogCommand::PrintRecord(const CString& file) {
-    QORMODEL::IQORDataModelPtr model;
-    const HRESULT made = model.CreateInstance(QORMODEL::CLSID_QORDataModel);
-    if (FAILED(made)) _com_raise_error(made);
-    CQORXmlDataParser parser;
-    if (parser.parseDataFile(file, model, nullptr) != 1) _com_raise_error(E_FAIL);
-
-    m_rows = {{Text(TextId::ColumnDocument), Text(TextId::ColumnRole), Text(TextId::ColumnKind),
-               Text(TextId::ColumnState)}};
-    long count = 0;
-    model->GetCount(&count);
-    for (long i = 0; i < count; ++i) {
-        QORMODEL::IQORDataEntryPtr entry;
-        if (model->GetEntry(i, &entry) == S_OK && entry) AddRow(*entry);
-    }
-    if (m_rows.size() == 1) {
-        PrintLine(Text(TextId::NoRecord));
-        return exitNone;
-    }
-    PrintTable(m_rows);
-    return exitDone;
-}
-
-void LogCommand::AddRow(QORMODEL::IQORDataEntry& entry) {
-    CString kind = PropertyOf(entry, L"QORMTYPE");
-    kind = WordFor(WordFor(kind, L"N", TextId::KindSigned), L"D", TextId::KindDeleted);
-    CString document = PropertyOf(entry, L"QORMFILEID") + L" " + PropertyOf(entry, L"DOC_NAME");
-    m_rows.push_back({document.Trim(), PropertyOf(entry, L"QORMROLE"), kind,
-                      WordFor(StateOf(entry), L"N", TextId::StateNew)});
+    PrintTable(rows);
+    return kExitDone;
 }
 
 } // namespace host

@@ -1,17 +1,18 @@
-// Reading of a start-sign message file.
+// Reading of a start-sign message file. The library takes text, and not every XML parser knows the Chinese
+// encodings that the system knows.
 #include <afxwin.h>
 
 #include <string>
 
 #include "host/MessageFile.h"
 #include "host/Texts.h"
-#include "base/Owned.h"
+#include "base/WholeFile.h"
 
 namespace host {
 
 namespace {
 
-constexpr LONGLONG kMaxFileSize = 64LL * 1024 * 1024;
+constexpr LONGLONG kLargestFile = 64LL * 1024 * 1024;
 constexpr UINT kUtf16 = 1200;
 constexpr UINT kUtf16BigEndian = 1201;
 
@@ -26,25 +27,11 @@ constexpr EncodingName kEncodingNames[] = {
 };
 
 bool ReadBytes(const CString& path, std::string& bytes, CString& error) {
-    const base::FileHandle file = base::OwnFile(::CreateFileW(path, GENERIC_READ, FILE_SHARE_READ, nullptr,
-                                                              OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-    LARGE_INTEGER size;
-    if (!file || !::GetFileSizeEx(file.get(), &size)) {
-        error = Text(TextId::FileUnreadable, {path});
-        return false;
-    }
-    if (size.QuadPart > kMaxFileSize) {
-        error = Text(TextId::FileTooLarge, {path});
-        return false;
-    }
-    bytes.resize(static_cast<size_t>(size.QuadPart));
-    DWORD read = 0;
-    if (!::ReadFile(file.get(), &bytes[0], static_cast<DWORD>(bytes.size()), &read, nullptr) ||
-        read != bytes.size()) {
-        error = Text(TextId::FileUnreadable, {path});
-        return false;
-    }
-    return true;
+    const base::ReadResult result = base::ReadWholeFile(path, bytes, kLargestFile);
+    if (result == base::ReadResult::Done) return true;
+    const bool tooLarge = result == base::ReadResult::TooLarge;
+    error = Text(tooLarge ? TextId::FileTooLarge : TextId::FileUnreadable, {path});
+    return false;
 }
 
 /// The value of encoding="..." in the XML declaration, in lower case; empty without one.

@@ -3,23 +3,23 @@
 
 #include "host/Console.h"
 #include "host/InteractiveSession.h"
-#include "host/OptionCommand.h"
+#include "host/Commands.h"
 #include "host/Texts.h"
 
 namespace host {
 
-std::vector<OptionRule> OptionCommand::Rules() {
+std::vector<OptionRule> OptionRules() {
     return InteractiveSession::Rules();
 }
 
-int OptionCommand::Run(const Options& options) {
+int RunOption(const Options& options) {
     InteractiveSession session(options);
-    if (!session.Open()) return exitFailed;
+    if (!session.Open()) return kExitFailed;
     // The dialog needs the settings only, which connecting prepares whether the server is there or not.
     session.Library().ConnectSignServer();
     const bool confirmed = session.SignOpt().SetOption() != 0;
     PrintLine(Text(confirmed ? TextId::OptionStored : TextId::Cancelled));
-    return confirmed ? exitDone : exitNone;
+    return confirmed ? kExitDone : kExitNone;
 }
 
 } // namespace host

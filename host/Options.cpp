@@ -12,6 +12,16 @@ bool IsPositional(const OptionRule& rule) {
     return rule.name[0] != L'-';
 }
 
+bool IsNumberRule(const OptionRule& rule) {
+    return wcscmp(rule.value, L"N") == 0 || wcscmp(rule.value, L"SECONDS") == 0;
+}
+
+bool IsNumber(const CString& text) {
+    constexpr size_t kMostDigits = 7;
+    const size_t digits = wcsspn(text, L"0123456789");
+    return digits == static_cast<size_t>(text.GetLength()) && digits <= kMostDigits;
+}
+
 const OptionRule* FindRule(const std::vector<OptionRule>& rules, const CString& name) {
     for (const OptionRule& rule : rules) {
         if (!IsPositional(rule) && name == rule.name) return &rule;
@@ -40,7 +50,8 @@ bool Options::Parse(const std::vector<CString>& arguments, const std::vector<Opt
 
 bool Options::ParseOption(const std::vector<CString>& arguments, size_t& next,
                           const std::vector<OptionRule>& rules, CString& error) {
-    const CString& name = arguments[next];
+    const int equals = arguments[next].Find(L'=');
+    const CString name = equals < 0 ? arguments[next] : arguments[next].Left(equals);
     const OptionRule* rule = FindRule(rules, name);
     if (!rule) {
         error = Text(TextId::UnknownOption, {name});
@@ -50,16 +61,18 @@ bool Options::ParseOption(const std::vector<CString>& arguments, size_t& next,
         error = Text(TextId::RepeatedOption, {name});
         return false;
     }
-    CString value;
-    if (rule->value) {
-        if (next + 1 == arguments.size() || arguments[next + 1].IsEmpty()) {
-            error = Text(TextId::MissingValue, {name, rule->value});
-            return false;
-        }
-        value = arguments[++next];
+    CString value = equals < 0 ? CString() : arguments[next].Mid(equals + 1);
+    if (!rule->value) {
+        if (equals >= 0) error = Text(TextId::UnexpectedArgument, {arguments[next]});
+        m_values.emplace_back(name, value);
+        return equals < 0;
     }
+    if (equals < 0 && next + 1 < arguments.size()) value = arguments[++next];
+    if (value.IsEmpty()) error = Text(TextId::MissingValue, {name, rule->value});
+    if (!value.IsEmpty() && IsNumberRule(*rule) && !IsNumber(value))
+        error = Text(TextId::NotANumber, {name, value});
     m_values.emplace_back(name, value);
-    return true;
+    return error.IsEmpty();
 }
 
 bool Options::ParsePositional(const CString& argument, const std::vector<OptionRule>& rules, CString& error) {
@@ -87,6 +100,11 @@ bool Options::Has(const wchar_t* name) const {
 CString Options::Value(const wchar_t* name) const {
     const CString* value = Find(name);
     return value ? *value : CString();
+}
+
+long Options::Number(const wchar_t* name, long otherwise) const {
+    const CString* value = Find(name);
+    return value ? _wtol(*value) : otherwise;
 }
 
 CString UsageOf(const std::vector<OptionRule>& rules) {

@@ -12,7 +12,8 @@ namespace host {
 /// leading dashes stands for the one positional argument.
 struct OptionRule {
     const wchar_t* name;
-    const wchar_t* value; ///< name of the value in the usage text; null for a flag
+    const wchar_t*
+        value; ///< name of the value in the usage text; null for a flag. "N" and "SECONDS" are numbers
     bool required;
 };
 
@@ -24,6 +25,8 @@ public:
     bool Has(const wchar_t* name) const;
     /// Empty when the option was not given.
     CString Value(const wchar_t* name) const;
+    /// The number of an option whose value is one; `otherwise` when it was not given.
+    long Number(const wchar_t* name, long otherwise) const;
 
 private:
     bool ParseOption(const std::vector<CString>& arguments, size_t& next,

@@ -71,8 +71,4 @@ CString SignDataFile(const CString& folder, const wchar_t* name) {
     return JoinPath(JoinPath(folder, L"SignData"), name);
 }
 
-CString SignRecordFile(const CString& folder) {
-    return SignDataFile(folder, L"DocSignRecord.xml");
-}
-
 } // namespace host

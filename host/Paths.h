@@ -29,7 +29,4 @@ CString ModuleFolder(const wchar_t* module);
 /// Where the library keeps its own files about the documents of a folder.
 CString SignDataFile(const CString& folder, const wchar_t* name);
 
-/// The record of the signatures that have not been sent yet.
-CString SignRecordFile(const CString& folder);
-
 } // namespace host

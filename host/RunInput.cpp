@@ -11,15 +11,15 @@ namespace host {
 
 std::vector<OptionRule> MessageRules(const std::vector<OptionRule>& further) {
     std::vector<OptionRule> rules = {
-        {L"--message", L"FILE", true}, {L"--vault", L"DIR", true}, {L"--work", L"DIR", true}};
+        {L"--message", L"FILE", true}, {L"--vault", L"DIR", false}, {L"--work", L"DIR", true}};
     rules.insert(rules.end(), further.begin(), further.end());
     return rules;
 }
 
 bool LoadRunInput(const Options& options, RunInput& input) {
-    input.vault = FullPath(options.Value(L"--vault"));
+    if (options.Has(L"--vault")) input.vault = FullPath(options.Value(L"--vault"));
     input.work = FullPath(options.Value(L"--work"));
-    if (!FolderExists(input.vault)) {
+    if (options.Has(L"--vault") && !FolderExists(input.vault)) {
         PrintError(Text(TextId::NoVault, {options.Value(L"--vault")}));
         return false;
     }
@@ -28,7 +28,7 @@ bool LoadRunInput(const Options& options, RunInput& input) {
         PrintError(error);
         return false;
     }
-    ::SetEnvironmentVariableW(L"DURVELL_VAULT", input.vault);
+    if (!input.vault.IsEmpty()) ::SetEnvironmentVariableW(L"DURVELL_VAULT", input.vault);
     return true;
 }
 

@@ -14,7 +14,7 @@ namespace host {
 /// Message, vault and work folder as given on the command line, paths absolute.
 struct RunInput {
     CString message; ///< text of the message, not its path
-    CString vault;
+    CString vault;   ///< folder of the folder server; empty to use the server access library as it is set up
     CString work;
 };
 
@@ -25,7 +25,7 @@ struct MessageRecords {
     SignTypePtr files;
 };
 
-/// "--message FILE --vault DIR --work DIR", followed by a command's own rules.
+/// "--message FILE [--vault DIR] --work DIR", followed by a command's own rules.
 std::vector<OptionRule> MessageRules(const std::vector<OptionRule>& further);
 
 /// Checks the folders, reads the message and names the vault to the server access library, which looks at it

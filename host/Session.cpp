@@ -22,13 +22,27 @@ bool Session::Open(bool visible) {
 }
 
 bool Session::ConnectSignServer() {
+    if (m_connected) return true;
     m_signOptOpen = true;
-    return m_signOpt.Initialize(&m_window) != 0;
+    m_connected = m_signOpt.Initialize(&m_window) != 0;
+    return m_connected;
 }
 
 bool Session::Login(const SLoginInfo& login) {
     return m_signOpt.Login(InText(login.m_strUserName), InText(login.m_strPassword),
                            InText(login.m_strPLMServer)) != 0;
+}
+
+bool Session::HasSignMethods(CString& missing) {
+    constexpr int kNameSize = 1024; // as the library asks for it
+    const long found = m_signOpt.CheckMethods(missing.GetBuffer(kNameSize));
+    missing.ReleaseBuffer();
+    return found != 0;
+}
+
+bool Session::SignServerAnswers() {
+    CString missing;
+    return HasSignMethods(missing);
 }
 
 } // namespace host

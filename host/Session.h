@@ -20,9 +20,14 @@ public:
     /// Makes the main window and begins the exchange with the PLM side. False when there is no window. A
     /// missing model configuration only means that no sign log can be written; see HasModel().
     bool Open(bool visible);
-    /// Connects to the signing server that the settings name.
+    /// Connects to the signing server that the settings name; once is enough.
     bool ConnectSignServer();
     bool Login(const SLoginInfo& login);
+    /// Whether the connected server has every method that the settings name; else `missing` names the first
+    /// it lacks.
+    bool HasSignMethods(CString& missing);
+    /// False when the connected server has gone.
+    bool SignServerAnswers();
 
     bool HasModel() const { return m_hasModel; }
     MainWindow& Window() { return m_window; }
@@ -36,6 +41,7 @@ private:
     bool m_plmOpen = false;
     bool m_hasModel = false;
     bool m_signOptOpen = false;
+    bool m_connected = false;
 };
 
 } // namespace host

@@ -1,10 +1,15 @@
-// sign: the interactive run.
+// sign: signs the chosen document of a message with the library's dialogs.
 #include <afxwin.h>
 
+#include "host/Commands.h"
 #include "host/Console.h"
 #include "host/DocumentLine.h"
+#include "host/InteractiveSession.h"
 #include "host/Paths.h"
-#include "host/SignCommand.h"
+#include "host/RunInput.h"
+#include "host/RunLock.h"
+#include "host/RunState.h"
+#include "host/SignNotes.h"
 #include "host/Signature.h"
 #include "host/SignatureDrawing.h"
 #include "host/TransferList.h"
@@ -15,88 +20,127 @@ namespace {
 
 constexpr wchar_t kKeepLog[] = L"--keep-log";
 
-/// Room for the shared login's user name, as the library asks for it.
-constexpr int kUserNameLength = 1024;
+/// The road of one document, with a dialog at each station.
+class InteractiveRun {
+public:
+    /// All arguments are borrowed.
+    InteractiveRun(InteractiveSession& session, const SLoginInfo& login, const CString& work)
+        : m_session(session), m_login(login), m_work(work), m_state(work) {}
+
+    /// Signed, or the step that failed.
+    TextId Process(const Document& document);
+
+private:
+    bool Transfer(const Document& document, TextId step, long (CPLMInteract::*operation)(SSignFileDUL*));
+    TextId Sign(const Document& document, DocumentState& state);
+    SignInfoPtr AskSignInfo(const Document& document, const CString& path);
+
+    InteractiveSession& m_session;
+    const SLoginInfo& m_login;
+    const CString& m_work;
+    RunState m_state;
+};
+
+TextId InteractiveRun::Process(const Document& document) {
+    if (!m_state.Open()) return TextId::NotNoted;
+    if (!Transfer(document, TextId::StepDownload, &CPLMInteract::DownloadDoc)) return TextId::FailedDownload;
+    DocumentState state;
+    state.name = document.Name();
+    state.fingerprint = FingerprintOf(document, m_login.m_strUserName);
+    const TextId outcome = Sign(document, state);
+    if (outcome != TextId::Signed) return outcome;
+    if (!Transfer(document, TextId::StepUpload, &CPLMInteract::UploadDoc)) return TextId::FailedUpload;
+    const bool logged = LogSignature(m_session.Plm(), m_work, document, state.signature);
+    if (!logged) m_session.Tell(Text(TextId::LogNotWritten, {document.Name()}));
+    MarkSigned(m_session.Plm(), m_work, document, logged);
+    state.progress = logged ? Progress::Done : Progress::Uploaded;
+    m_state.Note(state);
+    return TextId::Signed;
+}
+
+bool InteractiveRun::Transfer(const Document& document, TextId step,
+                              long (CPLMInteract::*operation)(SSignFileDUL*)) {
+    m_session.Window().ShowStep(Text(step, {document.Name()}));
+    TransferList list(m_work, document);
+    (m_session.Plm().*operation)(list.Start());
+    // The dialog's result tells how the run went, the item whether the file was moved.
+    return list.Moved();
+}
+
+TextId InteractiveRun::Sign(const Document& document, DocumentState& state) {
+    m_session.Window().ShowStep(Text(TextId::StepSign, {document.Name()}));
+    if (!m_session.Library().ConnectSignServer()) return TextId::NoSignServer;
+    if (!m_session.Library().Login(m_login)) return TextId::NotLoggedIn;
+    const CString path = JoinPath(m_work, document.Name());
+    const SignInfoPtr info = AskSignInfo(document, path);
+    if (!info) return TextId::FailedSignInfo;
+    CompleteSignInfo(*info, document, path, m_login.m_strUserName);
+    state.progress = Progress::Signing;
+    state.signature = {info->m_strUserName, info->m_strRole, info->m_strDateText};
+    if (!m_state.Note(state)) return TextId::NotNoted;
+    if (!SignDrawing(m_session.SignOpt(), &CSignOpt::Sign, *info, path)) return TextId::FailedSign;
+    state.progress = Progress::Signed;
+    state.stamp = StampOf(path);
+    m_state.Note(state);
+    return TextId::Signed;
+}
+
+SignInfoPtr InteractiveRun::AskSignInfo(const Document& document, const CString& path) {
+    constexpr int kUserNameSize = 1024; // room for the shared login's user name, as the library asks for it
+    constexpr long kScopeSelectable = 1;
+    wchar_t user[kUserNameSize] = L"";
+    m_session.SignOpt().GetSignUserName(user);
+    const SignatureDrawing drawing(m_session.Plm(), user, document.Role());
+    SSignInfo* made = nullptr;
+    m_session.SignOpt().GetSignInfo(InText(path), kScopeSelectable, InText(document.Role()), &made);
+    return SignInfoPtr(made);
+}
 
 } // namespace
 
-std::vector<OptionRule> SignCommand::Rules() {
+std::vector<OptionRule> SignRules() {
     std::vector<OptionRule> rules = MessageRules(InteractiveSession::Rules());
     rules.push_back({kKeepLog, nullptr, false});
     return rules;
 }
 
-int SignCommand::Run(const Options& options) {
+int RunSign(const Options& options) {
     RunInput input;
-    if (!LoadRunInput(options, input) || !PrepareWorkFolder(input)) return exitRefused;
-    m_work = input.work;
+    if (!LoadRunInput(options, input) || !PrepareWorkFolder(input)) return kExitRefused;
     InteractiveSession session(options);
-    if (!session.Open()) return exitFailed;
+    if (!session.Open()) return kExitFailed;
+    const RunLock lock(input.work);
+    if (lock.State() != RunLock::Result::Held) {
+        session.Tell(Text(TextId::WorkFolderBusy, {input.work}));
+        return kExitBusy;
+    }
     session.Window().ShowStep(Text(TextId::StepStart));
     MessageRecords records;
-    if (!StartMessage(session.Plm(), &CPLMInteract::StartSign, input.message, m_work, records)) {
-        PrintError(Text(TextId::NothingChosen));
-        return exitRefused;
+    if (!StartMessage(session.Plm(), &CPLMInteract::StartSign, input.message, input.work, records)) {
+        session.Tell(Text(TextId::NothingChosen));
+        return kExitRefused;
     }
     const std::vector<Document> documents = DocumentsOf(*records.files);
-    if (documents.empty()) return exitNone;
+    if (documents.empty()) return kExitNone;
 
     TextId outcome = RefusalsOf(documents).front();
-    if (outcome == TextId::Ready) outcome = Process(session, *records.login, documents.front());
+    if (outcome == TextId::Ready)
+        outcome = InteractiveRun(session, *records.login, input.work).Process(documents.front());
     PrintDocumentLine(documents, 0, outcome);
-    if (outcome != TextId::Signed) return exitNone;
+    if (outcome != TextId::Signed) {
+        session.Tell(Text(outcome));
+        return kExitNone;
+    }
     if (options.Has(kKeepLog)) {
         PrintLine(Text(TextId::LogKept));
-    } else {
-        const bool sent = SignMarks(session.Plm(), m_work).SendLog();
-        PrintLine(Text(sent ? TextId::LogSent : TextId::LogNotSent));
+        return kExitDone;
     }
-    return exitDone;
-}
-
-TextId SignCommand::Process(InteractiveSession& session, const SLoginInfo& login, const Document& document) {
-    if (!Transfer(session, document, TextId::StepDownload, &CPLMInteract::DownloadDoc))
-        return TextId::FailedDownload;
-    SignMarks marks(session.Plm(), m_work);
-    const TextId outcome = Sign(session, login, document, marks);
-    if (outcome != TextId::Signed) return outcome;
-    if (Transfer(session, document, TextId::StepUpload, &CPLMInteract::UploadDoc)) return TextId::Signed;
-    marks.Withdraw(document);
-    return TextId::FailedUpload;
-}
-
-bool SignCommand::Transfer(InteractiveSession& session, const Document& document, TextId step,
-                           long (CPLMInteract::*operation)(SSignFileDUL*)) {
-    session.Window().ShowStep(Text(step, {document.Name()}));
-    TransferList list(m_work, document);
-    (session.Plm().*operation)(list.Start());
-    // The dialog's result tells how the run went, the item whether the file was moved.
-    return list.Moved();
-}
-
-TextId SignCommand::Sign(InteractiveSession& session, const SLoginInfo& login, const Document& document,
-                         SignMarks& marks) {
-    session.Window().ShowStep(Text(TextId::StepSign, {document.Name()}));
-    if (!session.Library().ConnectSignServer()) return TextId::NoSignServer;
-    if (!session.Library().Login(login)) return TextId::NotLoggedIn;
-    const CString path = JoinPath(m_work, document.Name());
-    const SignInfoPtr info = AskSignInfo(session, document, path);
-    if (!info) return TextId::FailedSignInfo;
-    CompleteSignInfo(*info, document, path, login.m_strUserName);
-    if (!SignDrawing(session.SignOpt(), &CSignOpt::Sign, *info, path)) return TextId::FailedSign;
-    if (!marks.Note(document, *info)) PrintError(Text(TextId::LogNotWritten, {document.Name()}));
-    return TextId::Signed;
-}
-
-SignInfoPtr SignCommand::AskSignInfo(InteractiveSession& session, const Document& document,
-                                     const CString& path) {
-    constexpr long scopeSelectable = 1;
-    wchar_t user[kUserNameLength] = L"";
-    session.SignOpt().GetSignUserName(user);
-    const SignatureDrawing drawing(session.Plm(), user, document.Role());
-    SSignInfo* made = nullptr;
-    session.SignOpt().GetSignInfo(InText(path), scopeSelectable, InText(document.Role()), &made);
-    return SignInfoPtr(made);
+    if (session.Plm().SendSignLog(input.work) != 0) {
+        session.Tell(Text(TextId::LogNotSent));
+        return kExitLog;
+    }
+    PrintLine(Text(TextId::LogSent));
+    return kExitDone;
 }
 
 } // namespace host

@@ -17,8 +17,11 @@ constexpr TextEntry kTexts[] = {
     {TextId::Usage, L"usage: varnoke-host.exe COMMAND [OPTION...]", L"用法：varnoke-host.exe 命令 [选项...]"},
     {TextId::UsageEnd,
      L"Exit codes: 0 all done, 1 the system failed, 2 bad usage or refused message, 3 some documents signed, "
-     L"4 none.",
-     L"退出码：0 全部完成，1 系统故障，2 用法错误或消息被拒绝，3 部分文档已签名，4 没有文档签名。"},
+     L"4 none, 5 sign log not written or sent, 6 another run is at work.",
+     L"退出码：0 全部完成，1 系统故障，2 用法错误或消息被拒绝，3 部分文档已签名，4 没有文档签名，5 "
+     L"签名日志未写入或未发送，6 另一次运行正在进行。"},
+    {TextId::UsageHint, L"try varnoke-host.exe --help, or a command with --help",
+     L"请使用 varnoke-host.exe --help，或在命令后加 --help"},
     {TextId::PurposeBackSign, L"signs every document of the message without showing anything",
      L"静默签名消息中的全部文档"},
     {TextId::PurposeAppend, L"merges a further message into the one kept in the work folder",
@@ -34,11 +37,15 @@ constexpr TextEntry kTexts[] = {
     {TextId::MissingOption, L"option %1 is required", L"缺少选项 %1"},
     {TextId::MissingValue, L"option %1 needs a value: %2", L"选项 %1 缺少值：%2"},
     {TextId::RepeatedOption, L"option %1 was given twice", L"选项 %1 重复"},
+    {TextId::NotANumber, L"option %1 needs a number: %2", L"选项 %1 需要数字：%2"},
     {TextId::UnexpectedArgument, L"unexpected argument: %1", L"多余的参数：%1"},
     {TextId::MissingArgument, L"argument %1 is required", L"缺少参数 %1"},
 
     {TextId::NoVault, L"the vault is not a folder: %1", L"服务端目录不存在：%1"},
     {TextId::NoWorkFolder, L"the work folder cannot be made: %1", L"无法创建工作目录：%1"},
+    {TextId::WorkFolderReadOnly, L"the work folder cannot be written: %1", L"无法写入工作目录：%1"},
+    {TextId::WorkFolderBusy, L"another run is at work in this folder: %1", L"该目录正在被另一次运行使用：%1"},
+    {TextId::PathTooLong, L"the path is too long: %1", L"路径过长：%1"},
     {TextId::NoReturnFolder, L"the return file has no folder: %1", L"返回文件的目录不存在：%1"},
     {TextId::NoPictureFolder, L"the folder of the pictures cannot be made: %1", L"无法创建图片目录：%1"},
     {TextId::NoTemporaryFolder, L"no temporary folder can be made", L"无法创建临时目录"},
@@ -59,20 +66,29 @@ constexpr TextEntry kTexts[] = {
      L"没有合并：签名人或签名步骤不同，或没有新文档"},
     {TextId::MergedUnchosen, L"merged, but no document was chosen", L"已合并，但没有选择文档"},
     {TextId::Merged, L"merged: %1", L"已合并：%1"},
-    {TextId::NoModel, L"no model configuration: the sign log cannot be written",
-     L"没有模型配置，无法写签名日志"},
+    {TextId::NoModel, L"no model configuration: the sign log cannot be written (--no-log does without it)",
+     L"没有模型配置，无法写签名日志（--no-log 表示不写）"},
 
+    {TextId::MissingMethod, L"the signing server has no method %1; see DynDisp in Varnoke.ini",
+     L"签名服务器没有方法 %1；请检查 Varnoke.ini 的 DynDisp"},
     {TextId::Document, L"(document %1)", L"（第 %1 个文档）"},
     {TextId::Signed, L"downloaded, signed, uploaded", L"已下载、已签名、已上传"},
+    {TextId::AlreadySigned, L"already signed", L"此前已签名"},
     {TextId::Ready, L"ready", L"可以签名"},
     {TextId::NoSignServer, L"not signed: the signing server is not available", L"未签名：签名服务器不可用"},
     {TextId::NotLoggedIn, L"not signed: the login to the signing server failed",
      L"未签名：登录签名服务器失败"},
+    {TextId::SignServerGone, L"not signed: the signing server has gone", L"未签名：签名服务器已退出"},
+    {TextId::SignServerSilent, L"not signed: the signing server does not answer",
+     L"未签名：签名服务器没有响应"},
+    {TextId::TimedOut, L"not signed: a call took longer than the time limit", L"未签名：调用超过时限"},
+    {TextId::NotTried, L"not tried: the run was stopped", L"未处理：运行已停止"},
+    {TextId::NotNoted, L"not signed: the run cannot be noted in the work folder",
+     L"未签名：无法在工作目录中记录运行"},
     {TextId::FailedDownload, L"not signed: the download failed", L"未签名：下载失败"},
     {TextId::FailedSignInfo, L"not signed: no sign parameters", L"未签名：没有签名参数"},
     {TextId::FailedSign, L"not signed: the signing server did not sign", L"未签名：签名服务器签名失败"},
     {TextId::FailedUpload, L"not signed: the upload failed", L"未签名：上传失败"},
-    {TextId::NotInVault, L"not ready: not in the vault", L"不能签名：服务端没有该文档"},
     {TextId::RefusedEmpty, L"refused: no file name", L"拒绝：没有文件名"},
     {TextId::RefusedPath, L"refused: the name leaves the work folder", L"拒绝：文件名超出工作目录"},
     {TextId::RefusedDevice, L"refused: the name is that of a device", L"拒绝：文件名是设备名"},
@@ -110,13 +126,11 @@ constexpr TextEntry kTexts[] = {
     {TextId::ColumnDocument, L"Document", L"文档"},
     {TextId::ColumnRole, L"Role", L"角色"},
     {TextId::ColumnKind, L"Kind", L"类型"},
-    {TextId::ColumnState, L"State", L"状态"},
     {TextId::ColumnSign, L"Sign tag", L"签名标记"},
     {TextId::ColumnLog, L"Log tag", L"日志标记"},
     {TextId::ColumnChange, L"File", L"文件"},
     {TextId::KindSigned, L"signed", L"签名"},
     {TextId::KindDeleted, L"deleted", L"删除"},
-    {TextId::StateNew, L"new", L"新增"},
     {TextId::Changed, L"changed", L"已修改"},
     {TextId::Unchanged, L"unchanged", L"未修改"},
     {TextId::Missing, L"missing", L"不存在"},
@@ -132,9 +146,10 @@ static_assert(sizeof kTexts / sizeof kTexts[0] == static_cast<size_t>(TextId::Co
               "one entry for each text");
 
 bool IsChineseUser() {
-    wchar_t language[8];
+    wchar_t language[16];
     const DWORD length = ::GetEnvironmentVariableW(L"VARNOKE_LANGUAGE", language, _countof(language));
-    if (length > 0 && length < _countof(language)) return _wcsicmp(language, L"zh") == 0;
+    // "zh", or "zh-CN" and the like.
+    if (length > 0) return length < _countof(language) && _wcsnicmp(language, L"zh", 2) == 0;
     return PRIMARYLANGID(::GetUserDefaultUILanguage()) == LANG_CHINESE;
 }
 

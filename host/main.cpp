@@ -1,8 +1,7 @@
 // varnoke-host.exe: a host program that uses Varnoke.dll as a drawing program does.
 #include <afxwin.h>
 
-#include "host/Command.h"
-#include "host/CommandTable.h"
+#include "host/Commands.h"
 #include "host/Console.h"
 #include "base/ComApartment.h"
 #include "base/Owned.h"
@@ -26,7 +25,7 @@ int wmain(int argc, wchar_t** argv) {
     const base::ComApartment apartment; // for the library's operations
     if (!AfxWinInit(::GetModuleHandleW(nullptr), nullptr, ::GetCommandLineW(), SW_SHOWNORMAL) ||
         FAILED(apartment.Result())) {
-        return host::exitFailed;
+        return host::kExitFailed;
     }
     const base::LibraryHandle localServices = LoadLocalServices();
     try {
@@ -36,5 +35,5 @@ int wmain(int argc, wchar_t** argv) {
     } catch (...) {
     }
     host::PrintError(host::Text(host::TextId::Unexpected));
-    return host::exitFailed;
+    return host::kExitFailed;
 }

@@ -102,3 +102,15 @@ long CPLMInteract::NotifyPLMSignForBackSignRet(CStringList& signedNames, wchar_t
                varnoke::WriteReturnFile(signedNames, keyProperty, workFolder, returnFile);
     });
 }
+
+long CPLMInteract::SendSignLog(CString folder) {
+    return Guarded(1L, [&] { return varnoke::SendSignLog(folder); });
+}
+
+long CPLMInteract::GetUnsentSignLog(CString folder, SSignType** entries) {
+    return Guarded(0L, [&] {
+        if (!entries) return 0L;
+        *entries = varnoke::ReadUnsentLog(folder).release();
+        return *entries ? 1L : 0L;
+    });
+}

@@ -3,7 +3,7 @@
 
 #include <afxwin.h>
 #include "varnoke/ModelConfig.h"
-#include "varnoke/SignRecords.h"
+#include "varnoke/OwnedRecord.h"
 
 namespace varnoke {
 
@@ -17,5 +17,12 @@ long WriteDelOrSignLogToLocal(CModelConfig& config, const SSignObj* obj, const C
 /// Sends the record file to the server and deletes it, whatever the server says. Returns 0 for success,
 /// else 1; an exported caller must give 1 for a caught exception, too.
 long WriteSignLogToServer(const CString& folder);
+
+/// The same, but the record stays when the server refuses it, and without one the server is not called. A
+/// record that an earlier host put aside while it was sent goes first.
+long SendSignLog(const CString& folder);
+
+/// The entries of the record file as objects; an empty list without a file, null for an unreadable one.
+OwnedRecord<SSignType> ReadUnsentLog(const CString& folder);
 
 } // namespace varnoke

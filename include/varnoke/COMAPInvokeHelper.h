@@ -24,6 +24,7 @@ protected:
     /// Creates the in-process server; a server created before is released once the new object exists.
     /// Returns 1 when the server's dispatch interface is held, else 0.
     long CreateFromProgID(const wchar_t* progID);
+    bool IsConnected() const { return m_server != nullptr; }
 
     /// Looks a method up by its name (at most 1023 characters). Returns its identifier, always positive, or
     /// 0. The method stays selected until the next call of this function or of CreateFromProgID.

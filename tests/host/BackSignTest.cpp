@@ -80,29 +80,136 @@ TEST_F(BackSignTest, NoneSigned_WhenLoginFails) {
     EXPECT_EQ(0, Calls("dvl_SaveToServer"));
 }
 
-TEST_F(BackSignTest, RefusedLog_IsKeptAndSentByTheNextRun) {
+TEST_F(BackSignTest, FailingLog_IsAResultAndMadeUpForByTheNextRun) {
     Prepare({{L"a.dwg"}});
+    const fs::path record = m_work / L"SignData/DocSignRecord.xml";
+    fs::create_directories(record);
+    HostResult result = BackSign();
+    EXPECT_EQ(5u, result.exitCode) << result.Text();
+    EXPECT_NE(std::string::npos, result.err.find("a.dwg: the sign log could not be written"));
+    EXPECT_EQ("1", ReturnValues()) << "the server has the signed drawing";
+    EXPECT_EQ(0, Tag(L"DocSignLogTag", L"a.dwg"));
+
+    fs::remove(record);
     Fault(L"SaveFail", L"*");
-    const HostResult result = BackSign();
-    EXPECT_EQ(0u, result.exitCode) << result.Text();
+    result = BackSign();
+    EXPECT_EQ(5u, result.exitCode) << result.Text();
     EXPECT_NE(std::string::npos, result.err.find("the sign log was not sent"));
-    const HostResult log = RunHost({L"log", L"--work", m_work});
-    EXPECT_EQ(0u, log.exitCode) << log.Text();
-    EXPECT_TRUE(log.Said("D1        校对  signed  new")) << log.Text();
+    EXPECT_EQ(1, Tag(L"DocSignLogTag", L"a.dwg"));
+    EXPECT_TRUE(RunHost({L"log", L"--work", m_work}).Said("D1        校对  signed"));
 
-    Fault(L"UploadFailNames", L"a.dwg");
-    EXPECT_EQ(4u, BackSign().exitCode);
-    EXPECT_EQ(log.out, RunHost({L"log", L"--work", m_work}).out) << "the earlier signature is on the server";
-
-    Fault(L"UploadFailNames", nullptr);
     Fault(L"SaveFail", nullptr);
-    fs::rename(m_work / L"SignData/DocSignRecord.xml", m_work / L"SignData/DocSignRecord.unsent.xml");
-    WriteBytes(m_message, ToUtf8(MessageText({{L"x.dwg"}, {L"b.dwg"}})));
-    Store(L"b.dwg");
-    EXPECT_EQ(3u, BackSign().exitCode);
+    EXPECT_EQ(0u, BackSign().exitCode);
     EXPECT_TRUE(ServerLogged("D1"));
-    EXPECT_TRUE(ServerLogged("D2"));
-    EXPECT_EQ(4u, RunHost({L"log", L"--work", m_work}).exitCode);
+    EXPECT_FALSE(fs::exists(record));
+    EXPECT_EQ(0u, RunHost({L"log", L"--work", m_work}).exitCode);
+    EXPECT_EQ(1, SignCalls("Sign"));
+}
+
+TEST_F(BackSignTest, Repeated_SignsOnlyWhatHasChanged) {
+    Prepare({{L"a.dwg"}, {L"b.dwg"}});
+    ASSERT_EQ(0u, BackSign().exitCode);
+    HostResult result = BackSign();
+    EXPECT_EQ(0u, result.exitCode) << result.Text();
+    EXPECT_TRUE(result.Said("b.dwg: already signed")) << result.Text();
+    EXPECT_EQ("11", ReturnValues());
+    EXPECT_EQ(2, SignCalls("Sign"));
+    EXPECT_EQ(2, Calls("dvl_UploadFile"));
+
+    WriteBytes(m_work / L"a.dwg", "edited");
+    result = BackSign();
+    EXPECT_TRUE(result.Said(std::string("a.dwg") + kDone)) << result.Text();
+    EXPECT_EQ(1, SignCalls("SignatureDelete", "\tD1\twang\t校对")) << "one signature is enough";
+    EXPECT_EQ(2, SignCalls("Sign", "\tD1\t"));
+
+    EXPECT_EQ(0u, BackSign({L"--again"}).exitCode);
+    EXPECT_EQ(1, SignCalls("SignatureDelete", "\tD2\t"));
+    EXPECT_EQ(2, SignCalls("Sign", "\tD2\t"));
+
+    std::string message = ReadBytes(m_message);
+    message.replace(message.find("'D2'"), 4, "'D9'");
+    WriteBytes(m_message, message);
+    EXPECT_EQ(0u, BackSign().exitCode);
+    EXPECT_EQ(1, SignCalls("Sign", "\tD9\t")) << "another document under the name of a signed one";
+}
+
+TEST_F(BackSignTest, Killed_IsGoneOnWithWhereItEnded) {
+    Prepare({{L"a.dwg"}, {L"b.dwg"}, {L"c.dwg"}});
+    Fault(L"DelayMs", L"400"); // before each transfer
+    const HostResult killed = BackSign({}, [&](DWORD process) {
+        if (SignCalls("Sign", "\tD2\t")) Kill(process);
+    });
+    EXPECT_EQ(9u, killed.exitCode) << killed.Text();
+    EXPECT_EQ("", ReturnValues());
+    Fault(L"DelayMs", nullptr);
+    const HostResult next = BackSign();
+    EXPECT_EQ(0u, next.exitCode) << next.Text();
+    EXPECT_TRUE(next.Said("a.dwg: already signed")) << next.Text();
+    EXPECT_EQ("111", ReturnValues());
+    EXPECT_EQ(3, SignCalls("Sign")) << "what was signed but not uploaded is uploaded";
+    EXPECT_EQ(0, SignCalls("SignatureDelete"));
+    for (const char* id : {"D1", "D2", "D3"})
+        EXPECT_TRUE(ServerLogged(id)) << id;
+
+    // As if the process had ended in the server's call, before the log, and in the middle of a note.
+    const fs::path notes = m_work / L"SignData/SignRun.log";
+    for (const auto& [step, deletions, signatures] : {std::tuple("signing", 1, 4), {"uploaded", 1, 4}}) {
+        std::string text = ReadBytes(notes);
+        text.replace(text.find("done"), 4, step);
+        WriteBytes(notes, text + "done\tcut");
+        EXPECT_EQ(0u, BackSign().exitCode) << step;
+        EXPECT_EQ(deletions, SignCalls("SignatureDelete", "\tD1\t")) << step;
+        EXPECT_EQ(signatures, SignCalls("Sign")) << step;
+    }
+    EXPECT_EQ(3, Calls("dvl_SaveToServer"));
+}
+
+TEST_F(BackSignTest, SecondRun_IsRefusedWhileTheFirstIsAlive) {
+    Prepare({{L"a.dwg"}});
+    Fault(L"DelayMs", L"1500");
+    HostResult second = {0, "", ""};
+    const HostResult first = BackSign({}, [&](DWORD) {
+        if (second.exitCode == 0 && fs::exists(m_work / L"SignData/SignRun.log")) second = BackSign();
+    });
+    EXPECT_EQ(6u, second.exitCode) << second.Text();
+    EXPECT_NE(std::string::npos, second.err.find("another run is at work in this folder"));
+    EXPECT_EQ(0u, first.exitCode) << first.Text();
+    EXPECT_EQ(1, SignCalls("Sign"));
+}
+
+TEST_F(BackSignTest, Preflight_RefusesBeforeTheFirstSignature) {
+    Prepare({{L"a.dwg"}});
+    const fs::path settings = fs::path(BinFolder()) / L"Varnoke.ini";
+    WriteBytes(settings, "[DynDisp]\r\nSign=Unterschreiben\r\n");
+    const HostResult result = BackSign();
+    const HostResult dry = BackSign({L"--dry-run"});
+    fs::remove(settings);
+    for (const HostResult& refused : {result, dry}) {
+        EXPECT_EQ(2u, refused.exitCode) << refused.Text();
+        EXPECT_NE(std::string::npos, refused.err.find("has no method Unterschreiben")) << refused.Text();
+    }
+    EXPECT_EQ(0, Calls("dvl_"));
+}
+
+TEST_F(BackSignTest, Failures_StopTheRunWhenThereAreEnough) {
+    Prepare({{L"a.dwg"}, {L"b.dwg"}, {L"c.dwg"}});
+    Fault(L"DownloadFail", L"*");
+    const HostResult result = BackSign({L"--max-failures", L"2"});
+    EXPECT_EQ(4u, result.exitCode) << result.Text();
+    EXPECT_TRUE(result.Said("b.dwg: not signed: the download failed")) << result.Text();
+    EXPECT_TRUE(result.Said("c.dwg: not tried: the run was stopped")) << result.Text();
+    EXPECT_EQ("000", ReturnValues());
+}
+
+TEST_F(BackSignTest, CallsThatDoNotReturn_AreGivenUpWithTheirDocument) {
+    Prepare({{L"a.dwg"}, {L"b.dwg"}});
+    ASSERT_EQ(0u, BackSign().exitCode);
+    WriteBytes(m_work / L"b.dwg", "edited");
+    Fault(L"DelayMs", L"60000");
+    const HostResult result = BackSign({L"--timeout", L"1"});
+    EXPECT_EQ(3u, result.exitCode) << result.Text();
+    EXPECT_TRUE(result.Said("b.dwg: not signed: a call took longer than the time limit")) << result.Text();
+    EXPECT_EQ("10", ReturnValues());
 }
 
 TEST_F(BackSignTest, DocumentsWithoutIdentifierAndRole_AreLoggedAsTheyWereSigned) {
@@ -169,12 +276,8 @@ TEST_F(BackSignTest, DryRun_LeavesEverythingAsItIs) {
     EXPECT_TRUE(result.Said("could be signed: 2 of 2"));
     EXPECT_EQ(before, Snapshot());
 
-    fs::remove(m_vault / L"files" / L"a.dwg");
-    result = BackSign({L"--dry-run"});
-    EXPECT_EQ(3u, result.exitCode) << result.Text();
-    EXPECT_TRUE(result.Said("a.dwg: not ready: not in the vault")) << result.Text();
     fs::remove(m_work);
-    EXPECT_EQ(3u, BackSign({L"--dry-run"}).exitCode);
+    EXPECT_EQ(0u, BackSign({L"--dry-run"}).exitCode);
     EXPECT_FALSE(fs::exists(m_work));
 }
 
@@ -194,9 +297,10 @@ TEST_F(BackSignTest, MissingNeighbours_StopTheDocumentsNotTheHost) {
         fs::copy_file(built / file, bare / file);
     Prepare({{L"a.dwg"}});
     SetEnvironmentVariableW(L"VARNOKE_BIN", bare.c_str());
+    EXPECT_EQ(2u, BackSign().exitCode) << "without a model there is no log";
     for (const bool incomplete : {false, true}) {
         if (incomplete) fs::copy_file(built / L"QORLocal.dll", bare / L"Durvell.dll");
-        const HostResult result = BackSign();
+        const HostResult result = BackSign({L"--no-log"});
         EXPECT_EQ(4u, result.exitCode) << result.Text();
         EXPECT_TRUE(result.Said("a.dwg: not signed: the download failed")) << result.Text();
         EXPECT_EQ("0", ReturnValues());

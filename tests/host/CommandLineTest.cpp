@@ -49,7 +49,9 @@ TEST_F(CommandLineTest, BadUsage_IsRefusedWithTheReason) {
     const std::vector<std::pair<std::vector<std::wstring>, std::string>> cases = {
         {{}, "usage: varnoke-host.exe"},
         {{L"resign"}, "unknown command: resign"},
-        {{L"back-sign", L"--message", L"m.xml"}, "option --vault is required"},
+        {{L"back-sign", L"--message=m.xml"}, "option --work is required"},
+        {{L"back-sign", L"--max-failures", L"few"}, "option --max-failures needs a number: few"},
+        {{L"back-sign", L"--again=1"}, "unexpected argument: --again=1"},
         {{L"log", L"--work", L"a", L"--work", L"b"}, "option --work was given twice"},
         {{L"log", L"--work"}, "option --work needs a value: DIR"},
         {{L"log", L"--fold", L"a"}, "unknown option: --fold"},
@@ -63,11 +65,12 @@ TEST_F(CommandLineTest, BadUsage_IsRefusedWithTheReason) {
         EXPECT_NE(std::string::npos, result.err.find(usage.second)) << result.Text();
         EXPECT_EQ("", result.out);
     }
-    const HostResult help = RunHost({L"--help"});
-    EXPECT_EQ(0u, help.exitCode);
-    EXPECT_NE(std::string::npos,
-              help.out.find("back-sign --message FILE --vault DIR --work DIR --return FILE [--dry-run]"));
-    SetEnvironmentVariableW(L"VARNOKE_LANGUAGE", L"zh");
+    for (const auto& asked : {std::vector<std::wstring>{L"/?"}, {L"log", L"-h"}}) {
+        const HostResult help = RunHost(asked);
+        EXPECT_EQ(0u, help.exitCode);
+        EXPECT_NE(std::string::npos, help.out.find("log --work DIR")) << help.Text();
+    }
+    SetEnvironmentVariableW(L"VARNOKE_LANGUAGE", L"zh-CN");
     EXPECT_NE(std::string::npos, RunHost({}).err.find("用法：varnoke-host.exe"));
 }
 
@@ -112,6 +115,15 @@ TEST_F(CommandLineTest, RefusedMessagesAndMissingFolders_SignNothing) {
     fs::remove(m_message);
     EXPECT_EQ(2u, BackSign().exitCode);
     WriteBytes(m_message, good);
+    const fs::path longName = m_folder / std::wstring(240, L'x');
+    fs::create_directory(m_folder / L"ret_Ret.Xml");
+    EXPECT_EQ(2u, BackSign().exitCode) << "the return file cannot be written";
+    fs::remove(m_folder / L"ret_Ret.Xml");
+    for (fs::path* option : {&m_work, &m_return}) {
+        const fs::path kept = std::exchange(*option, longName);
+        EXPECT_EQ(2u, BackSign().exitCode) << kept;
+        *option = kept;
+    }
     for (fs::path* option : {&m_vault, &m_work, &m_return}) {
         const fs::path kept = std::exchange(*option, m_folder / L"no/where");
         EXPECT_EQ(2u, BackSign().exitCode) << kept;
@@ -125,10 +137,10 @@ TEST_F(CommandLineTest, Append_AddsNewDocumentsToTheKeptMessage) {
     Prepare({{L"a.dwg"}});
     EXPECT_EQ(2u, Run(L"append").exitCode) << "no message is kept yet";
     ASSERT_EQ(0u, BackSign().exitCode);
-    EXPECT_EQ(4u, Run(L"append").exitCode) << "the document is kept already";
+    EXPECT_EQ(4u, Run(L"append", {L"--auto"}).exitCode) << "the document is kept already";
 
     WriteBytes(m_message, ToUtf8(MessageText({{L"A.DWG"}, {L"new.dwg"}})));
-    const HostResult merged = Run(L"append");
+    const HostResult merged = Run(L"append", {L"--auto"});
     EXPECT_EQ(0u, merged.exitCode) << merged.Text();
     EXPECT_TRUE(merged.Said("merged: new.dwg")) << merged.Text();
     const std::string kept = ReadBytes(m_work / L"SignData" / L"StartSign.Xml");

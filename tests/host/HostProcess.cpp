@@ -14,6 +14,23 @@ HANDLE NewOutput(const std::filesystem::path& file) {
     return CreateFileW(file.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, 0, nullptr);
 }
 
+// A host that a hung test leaves behind ends with the test program.
+HANDLE Leash() {
+    static const HANDLE job = [] {
+        JOBOBJECT_EXTENDED_LIMIT_INFORMATION limit = {};
+        limit.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+        const HANDLE made = CreateJobObjectW(nullptr, nullptr);
+        SetInformationJobObject(made, JobObjectExtendedLimitInformation, &limit, sizeof limit);
+        return made;
+    }();
+    return job;
+}
+
+// Wine says so of a child that the busy system ended before it ran.
+bool EndedBeforeItRan() {
+    return GetLastError() == ERROR_INTERNAL_ERROR;
+}
+
 BOOL CALLBACK CountWindow(HWND window, LPARAM counted) {
     auto& count = *reinterpret_cast<std::pair<DWORD, int>*>(counted);
     DWORD owner = 0;
@@ -52,10 +69,15 @@ HostResult RunProgram(const std::wstring& program, const std::vector<std::wstrin
     startup.hStdOutput = NewOutput(outputs / L"out");
     startup.hStdError = NewOutput(outputs / L"err");
     PROCESS_INFORMATION process;
-    if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
-                        &process))
+    const auto start = [&] {
+        return CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, CREATE_SUSPENDED, nullptr,
+                              nullptr, &startup, &process);
+    };
+    if (!start() && !(EndedBeforeItRan() && start()))
         throw std::runtime_error(ToUtf8(program) + " does not start: error " +
                                  std::to_string(GetLastError()));
+    AssignProcessToJobObject(Leash(), process.hProcess);
+    ResumeThread(process.hThread);
     while (WaitForSingleObject(process.hProcess, 50) == WAIT_TIMEOUT)
         if (whileRunning) whileRunning(process.dwProcessId);
     HostResult result;
@@ -65,6 +87,12 @@ HostResult RunProgram(const std::wstring& program, const std::vector<std::wstrin
     result.out = ReadBytes(outputs / L"out");
     result.err = ReadBytes(outputs / L"err");
     return result;
+}
+
+void Kill(DWORD process) {
+    const HANDLE handle = OpenProcess(PROCESS_TERMINATE, FALSE, process);
+    TerminateProcess(handle, 9);
+    CloseHandle(handle);
 }
 
 int VisibleWindows(DWORD process) {

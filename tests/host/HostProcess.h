@@ -28,6 +28,9 @@ HostResult RunProgram(const std::wstring& program, const std::vector<std::wstrin
 HostResult RunHost(const std::vector<std::wstring>& arguments,
                    const std::function<void(DWORD)>& whileRunning = nullptr);
 
+// Ends a process at once, with the exit code 9.
+void Kill(DWORD process);
+
 // How many windows of a process can be seen on the screen.
 int VisibleWindows(DWORD process);
 

@@ -1,0 +1,82 @@
+#include <afxwin.h>
+
+#include "base/WholeFile.h"
+#include "host/Commands.h"
+#include "host/Console.h"
+#include "host/DocumentLine.h"
+#include "host/Paths.h"
+#include "host/Preflight.h"
+#include "host/Texts.h"
+
+namespace host {
+
+namespace {
+
+/// Characters of the longest path with its terminator that the system takes from programs that don't ask for
+/// more; the profile functions and the neighbours never take more.
+constexpr int kPathSize = MAX_PATH;
+/// Room for the longest name that is used below SignData, temporary names included.
+constexpr int kOwnNames = 40;
+
+bool Refuse(TextId reason, const CString& about) {
+    PrintError(Text(reason, {about}));
+    return false;
+}
+
+bool FitsPath(const CString& path, int further = 0) {
+    return path.GetLength() + further < kPathSize || Refuse(TextId::PathTooLong, path);
+}
+
+/// Whether a file can be put in this place, tried with a temporary one.
+bool CanPlaceFile(const CString& path) {
+    if (FolderExists(path)) return false;
+    return !base::ReplacedFile(path).TemporaryPath().empty();
+}
+
+} // namespace
+
+bool Preflight::CheckPlaces(const CString& work, const CString& returnFile) {
+    if (!FitsPath(SignDataFile(work, L""), kOwnNames) || !FitsPath(returnFile, kOwnNames)) return false;
+    if (!FolderExists(ParentFolder(returnFile) + L"\\")) return Refuse(TextId::NoReturnFolder, returnFile);
+    if (!CanPlaceFile(returnFile)) return Refuse(TextId::ReturnFileFailed, returnFile);
+    return !FolderExists(work) || CanPlaceFile(JoinPath(work, L"probe.tmp")) ||
+           Refuse(TextId::WorkFolderReadOnly, work);
+}
+
+bool Preflight::Check(const std::vector<Document>& documents) {
+    for (const Document& document : documents) {
+        if (!FitsPath(JoinPath(m_work, document.Name()))) return false;
+    }
+    if (!m_session.HasModel() && m_log) return Refuse(TextId::NoModel, CString());
+    m_server = m_session.ConnectSignServer();
+    CString missing;
+    return !m_server || m_session.HasSignMethods(missing) || Refuse(TextId::MissingMethod, missing);
+}
+
+int Preflight::Report(const RunInput& input, const MessageRecords& records) {
+    const std::vector<Document> documents = DocumentsOf(*records.files);
+    PrintLine(Text(TextId::DryMessage, {records.login->m_strUserName, NumberText(documents.size())}));
+    if (!input.vault.IsEmpty()) PrintLine(Text(TextId::DryVault, {input.vault}));
+    PrintLine(Text(m_server ? TextId::DrySignServer : TextId::DryNoSignServer));
+    ReportSettings();
+    size_t ready = 0;
+    const std::vector<TextId> refusals = RefusalsOf(documents);
+    for (size_t i = 0; i < documents.size(); ++i) {
+        if (m_server && refusals[i] == TextId::Ready) ++ready;
+        PrintDocumentLine(documents, i, refusals[i]);
+    }
+    PrintLine(Text(TextId::DrySummary, {NumberText(ready), NumberText(documents.size())}));
+    return ExitOfCount(ready, documents.size());
+}
+
+void Preflight::ReportSettings() {
+    // The sign parameters come from the settings alone, so that assembling them shows what the run would use.
+    SSignInfo* made = nullptr;
+    const long assembled = m_session.SignOpt().GetSignInfoForBackSign(InText(m_work), &made);
+    const SignInfoPtr info(made);
+    const CString settings = JoinPath(ModuleFolder(L"Varnoke.dll"), L"Varnoke.ini");
+    PrintLine(Text(FileExists(settings) ? TextId::DrySettings : TextId::DryDefaults, {settings}));
+    if (assembled && info) PrintLine(Text(TextId::DryDate, {info->m_strDateText, info->m_strDateFontName}));
+}
+
+} // namespace host
