@@ -46,8 +46,8 @@ long SendSignLog(const CString& folder) {
     FinishAnnounced(lock, record);
     TakeKnownRecord();
     ::DeleteFileW(signDataFolder + L"DocSignRecord.before.xml");
-    const bool sent = Send(signDataFolder + L"DocSignRecord.unsent.xml", signDataFolder) &&
-                      Send(record, signDataFolder);
+    const bool sent =
+        Send(signDataFolder + L"DocSignRecord.unsent.xml", signDataFolder) && Send(record, signDataFolder);
     return sent ? 0 : 1;
 }
 

@@ -128,12 +128,12 @@ public:
     long NotifyPLMSignForBackSignRet(CStringList& signedNames, wchar_t* keyProperty, wchar_t* workFolder,
                                      wchar_t* returnFile);
 
-    /// Sends the local log as WriteSignLogToServer does, but keeps it when the server refuses it. A log that is
-    /// not there counts as sent. Returns 0 for success, 1 for failure.
+    /// Sends the local log as WriteSignLogToServer does, but keeps it when the server refuses it. A log that
+    /// is not there counts as sent. Returns 0 for success, 1 for failure.
     long SendSignLog(CString folder);
     /// Hands out the entries of the local log: an object each, with the entry's properties ("QORMFILEID", the
-    /// document's identifier; "QORMROLE"; "QORMTYPE", "N" or "D"; and those that the model configuration adds).
-    /// Without a log the list is empty. Returns 1, or 0 for a log that can't be read.
+    /// document's identifier; "QORMROLE"; "QORMTYPE", "N" or "D"; and those that the model configuration
+    /// adds). Without a log the list is empty. Returns 1, or 0 for a log that can't be read.
     long GetUnsentSignLog(CString folder, SSignType** entries);
 
 private:

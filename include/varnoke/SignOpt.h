@@ -79,9 +79,9 @@ public:
     /// be written.
     long SetOption();
 
-    /// Whether the connected server knows every method that the settings name. Returns 1; otherwise 0, with the
-    /// configured name of the first that it lacks in `missing`, which must hold 1024 characters: empty when no
-    /// server is connected. Calls nothing on the server.
+    /// Whether the connected server knows every method that the settings name. Returns 1; otherwise 0, with
+    /// the configured name of the first that it lacks in `missing`, which must hold 1024 characters: empty
+    /// when no server is connected. Calls nothing on the server.
     long CheckMethods(wchar_t* missing);
 
 private:
