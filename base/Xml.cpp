@@ -13,15 +13,29 @@ using _com_util::CheckError;
 using StreamPtr = _com_ptr_t<_com_IIID<IStream, &IID_IStream>>;
 using XmlDocumentTypePtr = _com_ptr_t<_com_IIID<IXMLDOMDocumentType, &IID_IXMLDOMDocumentType>>;
 
+using XmlParseErrorPtr = _com_ptr_t<_com_IIID<IXMLDOMParseError, &IID_IXMLDOMParseError>>;
+
 constexpr CLSID kDocument60 = {0x88d96a05, 0xf192, 0x11d4, {0xa6, 0x5f, 0x00, 0x40, 0x96, 0x32, 0x51, 0xe5}};
+
+void Tell(XmlFault& fault, IXMLDOMDocument2* document) {
+    IXMLDOMParseError* error = nullptr;
+    if (document->get_parseError(&error) != S_OK) return;
+    const XmlParseErrorPtr owner(error, false);
+    error->get_line(&fault.line);
+    error->get_linepos(&fault.column);
+    _bstr_t reason;
+    if (error->get_reason(reason.GetAddress()) == S_OK) fault.reason.assign(reason, reason.length());
+}
 
 /// Null unless the document was loaded. Not every version of the parser refuses a document type definition by
 /// itself.
-XmlDocumentPtr Accepted(const XmlDocumentPtr& document, VARIANT_BOOL loaded) {
+XmlDocumentPtr Accepted(const XmlDocumentPtr& document, VARIANT_BOOL loaded, XmlFault* fault) {
     IXMLDOMDocumentType* type = nullptr;
     const bool hasType = document->get_doctype(&type) == S_OK && type;
     const XmlDocumentTypePtr owner(type, false);
-    return loaded && !hasType ? document : nullptr;
+    if (loaded && !hasType) return document;
+    if (fault) Tell(*fault, document);
+    return nullptr;
 }
 
 /// The bytes as a variant from which a document can load: it would take a path for an address, in which some
@@ -60,20 +74,20 @@ XmlDocumentPtr NewXmlDocument() {
     return document;
 }
 
-XmlDocumentPtr LoadXmlText(TextRef text) {
+XmlDocumentPtr LoadXmlText(TextRef text, XmlFault* fault) {
     const XmlDocumentPtr document = NewXmlDocument();
     VARIANT_BOOL loaded = VARIANT_FALSE;
     CheckError(document->loadXML(_bstr_t(static_cast<const wchar_t*>(text)), &loaded));
-    return Accepted(document, loaded);
+    return Accepted(document, loaded, fault);
 }
 
-XmlDocumentPtr LoadXmlFile(TextRef path) {
+XmlDocumentPtr LoadXmlFile(TextRef path, XmlFault* fault) {
     std::string bytes;
     if (ReadWholeFile(path, bytes) != ReadResult::Done || bytes.empty()) return nullptr;
     const XmlDocumentPtr document = NewXmlDocument();
     VARIANT_BOOL loaded = VARIANT_FALSE;
     CheckError(document->load(ByteArray(bytes), &loaded));
-    return Accepted(document, loaded);
+    return Accepted(document, loaded, fault);
 }
 
 bool SaveXml(IXMLDOMDocument* document, TextRef path) {

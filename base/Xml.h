@@ -6,6 +6,8 @@
 #include <comdef.h>
 #include <msxml2.h>
 
+#include <string>
+
 #include "base/Text.h"
 
 namespace base {
@@ -23,12 +25,19 @@ using XmlNodeListPtr = _com_ptr_t<_com_IIID<IXMLDOMNodeList, &IID_IXMLDOMNodeLis
 /// and validates nothing.
 XmlDocumentPtr NewXmlDocument();
 
+/// Where and why the parser gave up.
+struct XmlFault {
+    long line = 0; ///< from 1; 0 when it was not the parser that refused the document
+    long column = 0;
+    std::wstring reason;
+};
+
 /// Null for a text that is not well-formed or has a document type definition. Its XML declaration, if any,
 /// must not name an encoding other than UTF-16.
-XmlDocumentPtr LoadXmlText(TextRef text);
+XmlDocumentPtr LoadXmlText(TextRef text, XmlFault* fault = nullptr);
 
 /// The same for a file, whose encoding the parser finds out; null also when the file can't be read.
-XmlDocumentPtr LoadXmlFile(TextRef path);
+XmlDocumentPtr LoadXmlFile(TextRef path, XmlFault* fault = nullptr);
 
 /// Puts the document, in the encoding that it declares, in the place of the file as WriteWholeFile does;
 /// false when that fails.

@@ -26,6 +26,7 @@ void Append(wchar_t (&text)[Size], const wchar_t* more) {
 struct State {
     int depth; // of operations that call operations
     Cause cause;
+    bool kept; // whatever the operation's result
     wchar_t text[500];
 };
 
@@ -109,6 +110,10 @@ Failed FailWithLastError(Cause cause, base::TextRef detail) noexcept {
     return Fail(cause, detail, error == 0 ? 0 : HRESULT_FROM_WIN32(error));
 }
 
+void KeepCause() noexcept {
+    state.kept = true;
+}
+
 bool IsGiven(const wchar_t* text, const wchar_t* name) noexcept {
     if (text && *text) return true;
     return Fail(Cause::ArgumentMissing, name);
@@ -130,6 +135,7 @@ Operation::Operation(const char* name) noexcept : m_name(state.depth == 0 ? name
     ++state.depth;
     if (!m_name) return;
     state.cause = Cause::None;
+    state.kept = false;
     state.text[0] = L'\0';
 }
 
@@ -139,7 +145,7 @@ Operation::~Operation() {
 
 void Operation::End(long result, bool failed) const noexcept {
     if (!m_name) return;
-    if (!failed) state.cause = Cause::None;
+    if (!failed && !state.kept) state.cause = Cause::None;
     const bool hasCause = state.cause != Cause::None;
     if (!IsTracing(hasCause ? TraceLevel::Failures : TraceLevel::Operations)) return;
     wchar_t line[700] = {};

@@ -23,6 +23,9 @@ Failed Fail(Cause cause, base::TextRef detail = L"", long number = 0) noexcept;
 /// The same with what the system's last error tells.
 Failed FailWithLastError(Cause cause, base::TextRef detail) noexcept;
 
+/// Keeps the stated cause although the operation's result is not its usual one for a failure.
+void KeepCause() noexcept;
+
 /// Whether a text was given; if not, that is the cause.
 bool IsGiven(const wchar_t* text, const wchar_t* name) noexcept;
 

@@ -2,6 +2,7 @@
 #include <afxwin.h>
 
 #include "plm/DocumentTransfer.h"
+#include "module/Failure.h"
 #include "module/ModulePaths.h"
 #include "plm/ServerQuery.h"
 #include "plm/SignTags.h"
@@ -23,20 +24,32 @@ void ForEachFile(const SSignFileDUL& list, Transfer transfer) {
     }
 }
 
-long RunDialog(SSignFileDUL* list, CTransferDlg& dialog) {
+long RunDialog(SSignFileDUL* list, CTransferDlg& dialog, Cause failed) {
     dialog.SetFileList(list);
     dialog.DoModal();
     int result = 0;
     dialog.GetResultCode(&result);
+    // The dialog's result, 1 for "all transferred".
+    if (result == 0 || result == 2) Fail(Cause::TransferInterrupted);
+    if (result == 3) Fail(Cause::TransferSkipped);
+    if (result == 4) Fail(failed);
+    if (result != 1) KeepCause();
     return result;
+}
+
+/// Calls one of the server access library's transfer functions; whether it succeeded.
+bool Transferred(int (*transfer)(const wchar_t*, const wchar_t*, int, int), const CString& localPath,
+                 const CString& remoteName, Cause failed) {
+    const int result = transfer(localPath, remoteName, 0, 0);
+    return result == 0 || Fail(failed, remoteName, result);
 }
 
 } // namespace
 
 long DownloadWithDialog(SSignFileDUL* list, CWnd* parent) {
     CDLDDlg dialog(parent);
-    if (!list) return 0;
-    const long result = RunDialog(list, dialog);
+    if (!list) return Fail(Cause::ListUnusable);
+    const long result = RunDialog(list, dialog, Cause::DownloadFailed);
     RecordTimes(list);
     ResetTags(list, true);
     return result;
@@ -44,17 +57,17 @@ long DownloadWithDialog(SSignFileDUL* list, CWnd* parent) {
 
 long UploadWithDialog(SSignFileDUL* list, CWnd* parent) {
     CULDDlg dialog(parent);
-    if (!list) return 0;
-    const long result = RunDialog(list, dialog);
+    if (!list) return Fail(Cause::ListUnusable);
+    const long result = RunDialog(list, dialog, Cause::UploadFailed);
     RecordTimes(list);
     return result;
 }
 
 bool DownloadSilently(SSignFileDUL* list) {
-    if (!HasDocuments(list)) return false;
+    if (!HasDocuments(list)) return Fail(Cause::ListUnusable);
     bool complete = true;
     ForEachFile(*list, [&complete](SSignFileDULItem& item, const CString& localPath) {
-        complete = dvl_DownloadFile(localPath, item.m_strRemoteName, 0, 0) == 0;
+        complete = Transferred(dvl_DownloadFile, localPath, item.m_strRemoteName, Cause::DownloadFailed);
         if (complete) item.m_nState = 1;
         return complete;
     });
@@ -63,10 +76,10 @@ bool DownloadSilently(SSignFileDUL* list) {
 }
 
 bool UploadSilently(SSignFileDUL* list) {
-    if (!HasDocuments(list)) return false;
+    if (!HasDocuments(list)) return Fail(Cause::ListUnusable);
     bool lastSent = true;
     ForEachFile(*list, [&lastSent](SSignFileDULItem& item, const CString& localPath) {
-        lastSent = dvl_UploadFile(localPath, item.m_strRemoteName, 0, 0) == 0;
+        lastSent = Transferred(dvl_UploadFile, localPath, item.m_strRemoteName, Cause::UploadFailed);
         if (lastSent) item.m_nState = 1;
         return true;
     });
@@ -76,12 +89,14 @@ bool UploadSilently(SSignFileDUL* list) {
 
 bool DownloadFile(const CString& localPath, const CString& remoteName) {
     ::DeleteFileW(localPath);
-    return dvl_DownloadFile(localPath, remoteName, 0, 0) == 0;
+    return Transferred(dvl_DownloadFile, localPath, remoteName, Cause::DownloadFailed);
 }
 
 bool DownloadSignatureDrawing(const CString& userName, const CString& sealName) {
     const CString path = JoinPath(TemporaryFolder(), userName + L"_" + sealName + L".dwg");
-    return DownloadFile(path, QueryDrawingName(userName));
+    const CString remoteName = QueryDrawingName(userName);
+    if (remoteName.IsEmpty()) Fail(Cause::DrawingNotFound, userName);
+    return DownloadFile(path, remoteName);
 }
 
 } // namespace varnoke

@@ -2,17 +2,18 @@
 #include <afxwin.h>
 
 #include "plm/StartSign.h"
-#include "module/Text.h"
+#include "module/Failure.h"
 #include "ui/SDLDlg.h"
 
 namespace varnoke {
 
 bool StartSignArguments::CheckAndClear() const {
-    if (!HasText(xml) || !HasText(workFolder) || !login) return false;
+    if (!IsGiven(xml, L"message") || !IsGiven(workFolder, L"workFolder")) return false;
+    if (!login) return Fail(Cause::ArgumentMissing, L"login");
     *login = nullptr;
-    if (!steps) return false;
+    if (!steps) return Fail(Cause::ArgumentMissing, L"steps");
     *steps = nullptr;
-    if (!files) return false;
+    if (!files) return Fail(Cause::ArgumentMissing, L"documents");
     *files = nullptr;
     return true;
 }
@@ -36,16 +37,17 @@ bool StartWithChosenDocument(const StartSignArguments& arguments, MessageReader 
     CSDLDlg dialog(parent);
     if (!arguments.CheckAndClear() || !read(arguments.xml, arguments.workFolder, records)) return false;
     // A merge may leave no new document; there is nothing to choose from then.
-    if (records.files->m_lstObj.IsEmpty()) return false;
+    if (records.files->m_lstObj.IsEmpty()) return Fail(Cause::NothingNew);
 
     dialog.SetSignFileType(records.files.get());
     dialog.SetModelConfig(&config);
-    if (dialog.DoModal() != IDOK) return false;
+    const INT_PTR result = dialog.DoModal();
+    if (result != IDOK) return Fail(result == IDCANCEL ? Cause::Cancelled : Cause::DialogFailed);
     SSignType* chosen = nullptr;
-    if (!dialog.GetSelectedSignFileType(&chosen)) return false;
-    StartSignRecords result{std::move(records.login), std::move(records.steps),
-                            OwnedRecord<SSignType>(chosen)};
-    arguments.HandOut(result);
+    if (!dialog.GetSelectedSignFileType(&chosen)) return Fail(Cause::NoDocumentChosen);
+    StartSignRecords handedOut{std::move(records.login), std::move(records.steps),
+                               OwnedRecord<SSignType>(chosen)};
+    arguments.HandOut(handedOut);
     return true;
 }
 

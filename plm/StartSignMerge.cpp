@@ -4,6 +4,7 @@
 
 #include "plm/StartSignMerge.h"
 #include "module/DocumentCopy.h"
+#include "module/Failure.h"
 #include "module/Text.h"
 #include "plm/NoCase.h"
 #include "plm/SignDataFolder.h"
@@ -52,12 +53,16 @@ bool AreSameSteps(const SSignType* source, const SSignType* target) {
 
 OwnedRecord<SLoginInfo> MergeLoginInfo(IXMLDOMDocument* source, IXMLDOMDocument* target) {
     OwnedRecord<SLoginInfo> login = ReadLoginInfo(source);
-    return login && IsSameSigner(login.get(), ReadLoginInfo(target).get()) ? std::move(login) : nullptr;
+    if (!login) return nullptr;
+    if (!IsSameSigner(login.get(), ReadLoginInfo(target).get())) return Fail(Cause::OtherSigner);
+    return login;
 }
 
 OwnedRecord<SSignType> MergeSignSteps(IXMLDOMDocument* source, IXMLDOMDocument* target) {
     OwnedRecord<SSignType> steps = ReadSignSteps(source);
-    return steps && AreSameSteps(steps.get(), ReadSignSteps(target).get()) ? std::move(steps) : nullptr;
+    if (!steps) return nullptr;
+    if (!AreSameSteps(steps.get(), ReadSignSteps(target).get())) return Fail(Cause::OtherSteps);
+    return steps;
 }
 
 OwnedRecord<SSignType> MergeSignFiles(IXMLDOMDocument* source, IXMLDOMDocument* target) {
@@ -106,7 +111,7 @@ bool AppendDocuments(IXMLDOMDocument* target, const SSignType& source) {
 
 bool AddAttribute(const wchar_t* name, const wchar_t* value, IXMLDOMNamedNodeMap* attributes,
                   IXMLDOMDocument* document) {
-    if (!HasText(name) || !value || !attributes || !document) return false;
+    if (!HasText(name) || !value || !attributes || !document) return Fail(Cause::ArgumentMissing);
     DomNode attribute;
     Succeeded(
         document->createNode(_variant_t(long(NODE_ATTRIBUTE)), _bstr_t(name), _bstr_t(L""), &attribute));
@@ -117,12 +122,12 @@ bool AddAttribute(const wchar_t* name, const wchar_t* value, IXMLDOMNamedNodeMap
 }
 
 bool MergeStartSignMessage(const wchar_t* xml, const CString& workFolder, StartSignRecords& records) {
-    const DomDocument source = LoadMessage(xml);
+    const DomDocument source = LoadNewMessage(xml);
     if (!source) return false;
     MakeSignDataFolder(workFolder);
     const CString path = KeptMessagePath(workFolder);
     MakeWritable(path);
-    const DomDocument target = base::LoadXmlFile(path);
+    const DomDocument target = LoadKeptMessage(workFolder);
     if (!target) return false;
 
     records.login = MergeLoginInfo(source, target);
@@ -130,7 +135,7 @@ bool MergeStartSignMessage(const wchar_t* xml, const CString& workFolder, StartS
     records.steps = MergeSignSteps(source, target);
     if (!records.steps) return false;
     records.files = MergeSignFiles(source, target);
-    return records.files && base::SaveXml(target, path);
+    return records.files && (base::SaveXml(target, path) || FailWithLastError(Cause::MessageNotKept, path));
 }
 
 } // namespace varnoke

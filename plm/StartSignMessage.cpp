@@ -2,6 +2,8 @@
 #include <afxwin.h>
 
 #include "plm/StartSignMessage.h"
+#include "base/Paths.h"
+#include "module/Failure.h"
 #include "plm/SignDataFolder.h"
 
 namespace varnoke {
@@ -16,11 +18,13 @@ OwnedRecord<SSignObj> ReadObject(IXMLDOMNode* node, const SSignObj* model, Prope
     for (DomNode child = FirstChild(node); child; MoveToNext(child)) {
         auto property = std::make_unique<SSignPro>();
         if (at) property->m_strName = model->GetNext(at)->m_strName;
-        if (!reader.Read(child, property->m_strName, property->m_strValue)) return nullptr;
+        if (!reader.Read(child, property->m_strName, property->m_strValue))
+            return Fail(Cause::PropertyIncomplete);
         object->AddTail(property.get());
         property.release();
     }
-    return object->IsEmpty() ? nullptr : std::move(object);
+    if (object->IsEmpty()) return Fail(Cause::ObjectEmpty);
+    return object;
 }
 
 bool AppendObject(SSignType& type, IXMLDOMNode* node, PropertyReader& reader) {
@@ -32,11 +36,18 @@ bool AppendObject(SSignType& type, IXMLDOMNode* node, PropertyReader& reader) {
     return true;
 }
 
+/// "line:column reason", as far as the parser tells.
+CString TextOf(const base::XmlFault& fault) {
+    CString text;
+    if (fault.line > 0) text.Format(L"%ld:%ld ", fault.line, fault.column);
+    return text + fault.reason.c_str();
+}
+
 } // namespace
 
 OwnedRecord<SLoginInfo> ReadLoginInfo(IXMLDOMDocument* document) {
     const DomNode object = SelectNode(document, L"root/objs/type[@id=\"LoginInfo\"]/obj");
-    if (!object) return nullptr;
+    if (!object) return Fail(Cause::LoginMissing);
 
     OwnedRecord<SLoginInfo> login(new SLoginInfo);
     const struct {
@@ -49,7 +60,7 @@ OwnedRecord<SLoginInfo> ReadLoginInfo(IXMLDOMDocument* document) {
     PropertyReader reader;
     for (DomNode child = FirstChild(object); child; MoveToNext(child)) {
         CString name, value;
-        if (!reader.Read(child, name, value)) return nullptr;
+        if (!reader.Read(child, name, value)) return Fail(Cause::PropertyIncomplete);
         for (const auto& slot : slots) {
             if (name.CompareNoCase(slot.name) == 0) {
                 slot.value = value;
@@ -57,7 +68,8 @@ OwnedRecord<SLoginInfo> ReadLoginInfo(IXMLDOMDocument* document) {
             }
         }
     }
-    return count == 3 ? std::move(login) : nullptr;
+    if (count != 3) return Fail(Cause::LoginIncomplete);
+    return login;
 }
 
 OwnedRecord<SSignType> ReadSignSteps(IXMLDOMDocument* document) {
@@ -67,7 +79,8 @@ OwnedRecord<SSignType> ReadSignSteps(IXMLDOMDocument* document) {
     while (const DomNode object = NextNode(objects)) {
         if (!AppendObject(*steps, object, reader)) return nullptr;
     }
-    return steps->m_lstObj.IsEmpty() ? nullptr : std::move(steps);
+    if (steps->m_lstObj.IsEmpty()) return Fail(Cause::StepsMissing);
+    return steps;
 }
 
 DomNode FindDocumentGroup(IXMLDOMDocument* document, CString& id) {
@@ -75,10 +88,10 @@ DomNode FindDocumentGroup(IXMLDOMDocument* document, CString& id) {
     DomNodeList groups = SelectNodes(document, L"root/objs/type");
     while (const DomNode group = NextNode(groups)) {
         DomElement element(group);
-        if (!element || !reader.Read(element, id)) return nullptr;
+        if (!element || !reader.Read(element, id)) return Fail(Cause::GroupWithoutId);
         if (id.CompareNoCase(L"LoginInfo") != 0 && id.CompareNoCase(L"Step") != 0) return group;
     }
-    return nullptr;
+    return Fail(Cause::DocumentsMissing);
 }
 
 OwnedRecord<SSignType> ReadSignFiles(IXMLDOMDocument* document) {
@@ -89,18 +102,36 @@ OwnedRecord<SSignType> ReadSignFiles(IXMLDOMDocument* document) {
     for (DomNode object = FirstChild(group); object; MoveToNext(object)) {
         if (!AppendObject(*files, object, reader)) return nullptr;
     }
-    return files->m_lstObj.IsEmpty() ? nullptr : std::move(files);
+    if (files->m_lstObj.IsEmpty()) return Fail(Cause::DocumentsMissing, files->m_strId);
+    return files;
 }
 
 CString KeptMessagePath(const CString& workFolder) {
     return SignDataFolder(workFolder) + L"StartSign.Xml";
 }
 
+DomDocument LoadNewMessage(const wchar_t* xml) {
+    base::XmlFault fault;
+    const DomDocument document = LoadMessage(xml, fault);
+    if (!document) Fail(Cause::MessageNotWellFormed, TextOf(fault));
+    return document;
+}
+
+DomDocument LoadKeptMessage(const CString& workFolder) {
+    const CString path = KeptMessagePath(workFolder);
+    base::XmlFault fault;
+    const DomDocument document = base::LoadXmlFile(path, &fault);
+    if (!document && !base::FileExists(path)) return Fail(Cause::KeptMessageMissing, path);
+    if (!document) Fail(Cause::KeptMessageUnreadable, TextOf(fault));
+    return document;
+}
+
 bool ParseStartSignMessage(const wchar_t* xml, const CString& workFolder, StartSignRecords& records) {
-    const DomDocument document = LoadMessage(xml);
+    const DomDocument document = LoadNewMessage(xml);
     if (!document) return false;
     MakeSignDataFolder(workFolder);
-    if (!base::SaveXml(document, KeptMessagePath(workFolder))) return false;
+    if (!base::SaveXml(document, KeptMessagePath(workFolder)))
+        return FailWithLastError(Cause::MessageNotKept, KeptMessagePath(workFolder));
 
     records.login = ReadLoginInfo(document);
     if (!records.login) return false;

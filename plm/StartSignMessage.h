@@ -27,6 +27,10 @@ DomNode FindDocumentGroup(IXMLDOMDocument* document, CString& id);
 /// Path of the kept message; the folder is not created.
 CString KeptMessagePath(const CString& workFolder);
 
+/// A message (XML text) and the kept one as documents; null, with the cause stated, on failure.
+DomDocument LoadNewMessage(const wchar_t* xml);
+DomDocument LoadKeptMessage(const CString& workFolder);
+
 /// Keeps the message (XML text) in the work folder, then reads it. A well-formed message replaces the kept
 /// one even when it turns out to be incomplete.
 bool ParseStartSignMessage(const wchar_t* xml, const CString& workFolder, StartSignRecords& records);

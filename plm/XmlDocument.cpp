@@ -48,10 +48,10 @@ bool Succeeded(HRESULT result) {
     return result == S_OK;
 }
 
-DomDocument LoadMessage(const wchar_t* text) {
+DomDocument LoadMessage(const wchar_t* text, base::XmlFault& fault) {
     constexpr wchar_t kByteOrderMark = 0xFEFF;
     const std::wstring whole(text + (*text == kByteOrderMark ? 1 : 0));
-    return HasWholeCharacters(whole) ? base::LoadXmlText(WithoutEncoding(whole)) : nullptr;
+    return HasWholeCharacters(whole) ? base::LoadXmlText(WithoutEncoding(whole), &fault) : nullptr;
 }
 
 DomNode SelectNode(IXMLDOMNode* context, const wchar_t* path) {

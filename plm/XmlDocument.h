@@ -18,7 +18,7 @@ bool Succeeded(HRESULT result);
 
 /// Loads a text, whatever encoding its XML declaration names; null for one that is not well-formed or brings
 /// a document type definition.
-DomDocument LoadMessage(const wchar_t* text);
+DomDocument LoadMessage(const wchar_t* text, base::XmlFault& fault);
 
 /// First match of the path, or null.
 DomNode SelectNode(IXMLDOMNode* context, const wchar_t* path);
