@@ -33,6 +33,19 @@ protected:
     }
     long DeleteAll() { return m_opt.DeleteAllSignForBackSign(m_drawing, Text(L"甲")); }
 
+    long DeleteAllAnswered(const _variant_t& value) {
+        m_server.m_answer = [value = _variant_t(value)](VARIANT& result, EXCEPINFO&) mutable {
+            return VariantCopy(&result, &value);
+        };
+        return DeleteAll();
+    }
+    static HRESULT Expired(VARIANT&, EXCEPINFO& exception) {
+        exception.bstrSource = SysAllocString(L"许可");
+        exception.bstrDescription = SysAllocString(L"已过期");
+        exception.scode = 0x80040201;
+        return DISP_E_EXCEPTION;
+    }
+
     tests::SettingsFile m_settings;
     tests::FakeServer m_server;
     CSignOpt m_opt;
@@ -47,12 +60,6 @@ TEST_F(Cause, EachFailureNamesItsOwn) {
     const auto initialize = [&](const std::wstring& progId) {
         m_settings.Set(L"DynDisp", L"ProgID", progId.c_str());
         return m_opt.Initialize(nullptr);
-    };
-    const auto answered = [&](const _variant_t& value) {
-        m_server.m_answer = [value = _variant_t(value)](VARIANT& result, EXCEPINFO&) mutable {
-            return VariantCopy(&result, &value);
-        };
-        return DeleteAll();
     };
     const struct {
         Cause cause;
@@ -78,17 +85,12 @@ TEST_F(Cause, EachFailureNamesItsOwn) {
         {Cause::ArgumentMissing, L"password", [&] { return m_opt.Login(Text(L"u"), nullptr, Text(L"s")); }},
         {Cause::MethodMissing, L"SignatureValidate",
          [&] { return m_opt.SignatureValidateForBackSign(m_drawing, Text(L"x")); }},
-        {Cause::MethodRefused, L"DeleteAllSign", [&] { return answered(0L); }},
-        {Cause::MethodResultUnusable, L"DeleteAllSign", [&] { return answered(L"ok"); }},
-        {Cause::None, L"", [&] { return answered(7L) - 7; }},
+        {Cause::MethodRefused, L"DeleteAllSign", [&] { return DeleteAllAnswered(0L); }},
+        {Cause::MethodResultUnusable, L"DeleteAllSign", [&] { return DeleteAllAnswered(L"ok"); }},
+        {Cause::None, L"", [&] { return DeleteAllAnswered(7L) - 7; }},
         {Cause::MethodFailed, L"许可: 已过期（0x80040201",
          [&] {
-             m_server.m_answer = [](VARIANT&, EXCEPINFO& exception) {
-                 exception.bstrSource = SysAllocString(L"许可");
-                 exception.bstrDescription = SysAllocString(L"已过期");
-                 exception.scode = 0x80040201;
-                 return DISP_E_EXCEPTION;
-             };
+             m_server.m_answer = Expired;
              return DeleteAll();
          }},
         {Cause::Unexpected, L"",
