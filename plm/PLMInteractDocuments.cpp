@@ -3,7 +3,6 @@
 
 #include "varnoke/PLMInteract.h"
 #include "module/Guarded.h"
-#include "module/Text.h"
 #include "plm/DocumentTransfer.h"
 #include "plm/ReturnFile.h"
 #include "plm/ServerQuery.h"
@@ -11,7 +10,7 @@
 #include "plm/SignTags.h"
 
 using varnoke::Guarded;
-using varnoke::HasText;
+using varnoke::IsGiven;
 
 long CPLMInteract::DownloadDoc(SSignFileDUL* list) {
     return Guarded(0L, [&] { return varnoke::DownloadWithDialog(list, m_parentWnd); });
@@ -31,13 +30,14 @@ long CPLMInteract::UploadDocForBackSign(SSignFileDUL* list) {
 
 long CPLMInteract::DownloadSignFile(wchar_t* localPath, wchar_t* remoteName) {
     return Guarded(0L, [&] {
-        return HasText(localPath) && HasText(remoteName) && varnoke::DownloadFile(localPath, remoteName);
+        return IsGiven(localPath, L"localPath") && IsGiven(remoteName, L"remoteName") &&
+               varnoke::DownloadFile(localPath, remoteName);
     });
 }
 
 long CPLMInteract::DownloadSignFileEx(wchar_t* userName, wchar_t* sealName) {
     return Guarded(0L, [&] {
-        return HasText(userName) && HasText(sealName) &&
+        return IsGiven(userName, L"userName") && IsGiven(sealName, L"sealName") &&
                varnoke::DownloadSignatureDrawing(userName, sealName);
     });
 }
@@ -98,7 +98,8 @@ long CPLMInteract::WriteSignLogToServer(CString folder) {
 long CPLMInteract::NotifyPLMSignForBackSignRet(CStringList& signedNames, wchar_t* keyProperty,
                                                wchar_t* workFolder, wchar_t* returnFile) {
     return Guarded(0L, [&] {
-        return HasText(keyProperty) && HasText(workFolder) && HasText(returnFile) &&
+        return IsGiven(keyProperty, L"keyProperty") && IsGiven(workFolder, L"workFolder") &&
+               IsGiven(returnFile, L"returnFile") &&
                varnoke::WriteReturnFile(signedNames, keyProperty, workFolder, returnFile);
     });
 }

@@ -4,6 +4,7 @@
 #include "plm/ReturnFile.h"
 #include "base/Paths.h"
 #include "base/WholeFile.h"
+#include "module/Failure.h"
 #include "plm/NoCase.h"
 #include "plm/StartSignMessage.h"
 #include "plm/XmlDocument.h"
@@ -38,7 +39,7 @@ public:
 
     bool MarkAll(IXMLDOMNode* group) {
         DomNode object = FirstChild(group);
-        if (!object) return false;
+        if (!object) return Fail(Cause::DocumentsMissing);
         for (; object; MoveToNext(object)) {
             bool isSigned = false;
             if (!LookUp(object, isSigned)) return false;
@@ -51,10 +52,10 @@ private:
     /// Whether a key property names a signed document; properties behind that one are not looked at.
     bool LookUp(IXMLDOMNode* object, bool& isSigned) {
         DomNode child = FirstChild(object);
-        if (!child) return false;
+        if (!child) return Fail(Cause::ObjectEmpty);
         for (; child && !isSigned; MoveToNext(child)) {
             CString name, value;
-            if (!m_reader.Read(child, name, value)) return false;
+            if (!m_reader.Read(child, name, value)) return Fail(Cause::PropertyIncomplete);
             isSigned = name.CompareNoCase(m_keyName) == 0 && m_signedNames.count(value) != 0;
         }
         return true;
@@ -70,16 +71,16 @@ private:
 
 bool WriteReturnFile(const CStringList& signedNames, const CString& keyName, const CString& workFolder,
                      const CString& returnFile) {
-    const DomDocument document = base::LoadXmlFile(KeptMessagePath(workFolder));
+    const DomDocument document = LoadKeptMessage(workFolder);
     if (!document) return false;
-    if (!RemoveNode(document, L"root/objs/type[@id=\"LoginInfo\"]")) return false;
-    if (!RemoveNode(document, L"root/objs/type[@id=\"step\"]")) return false;
+    if (!RemoveNode(document, L"root/objs/type[@id=\"LoginInfo\"]")) return Fail(Cause::LoginMissing);
+    if (!RemoveNode(document, L"root/objs/type[@id=\"step\"]")) return Fail(Cause::StepsMissing);
     const DomNode group = SelectNode(document, L"root/objs/type");
-    if (!group) return false;
+    if (!group) return Fail(Cause::DocumentsMissing);
     if (!DocumentMarker(document, keyName, NonEmptyNames(signedNames)).MarkAll(group)) return false;
     const CString path = returnFile.Left(returnFile.ReverseFind(L'.')) + L"_Ret.Xml";
     base::RemoveLeftFiles(base::FolderPrefix(path));
-    return base::SaveXml(document, path);
+    return base::SaveXml(document, path) || FailWithLastError(Cause::ReturnFileNotWritten, path);
 }
 
 } // namespace varnoke

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "module/BstrText.h"
+#include "module/Failure.h"
 #include "plm/RecordAppend.h"
 #include "plm/SignLogEntry.h"
 #include "plm/SignRecordFile.h"
@@ -70,20 +71,27 @@ bool LogInModel(IQORDataModel* model, const SignLogSource& source) {
 bool LogAnew(KnownRecord& known, const CString& signDataFolder, const SignLogSource& source) {
     known = KnownRecord();
     SignRecordFile record(signDataFolder);
-    if (!record.Read()) return false;
+    if (!record.Read()) return Fail(Cause::DataModelMissing);
     const bool changed = LogInModel(record.Model(), source);
     known.index.Read(record.Model());
-    if (changed && !record.Save()) return false;
+    if (changed && !record.Save())
+        return FailWithLastError(Cause::SignLogNotWritten, SignRecordPath(signDataFolder));
     known.form = changed ? RecordForm::Written : RecordForm::Found;
     known.Note(SignRecordPath(signDataFolder));
     return true;
+}
+
+// What sending gives for a failure.
+long Refused(Cause cause, const wchar_t* detail, long result = 0) {
+    Fail(cause, detail, result);
+    return 1;
 }
 
 } // namespace
 
 long WriteDelOrSignLogToLocal(CModelConfig& config, const SSignObj* obj, const CString& folder,
                               const CString& kind) {
-    if (!obj || folder.IsEmpty() || (kind != L"N" && kind != L"D")) return 0;
+    if (!obj || folder.IsEmpty() || (kind != L"N" && kind != L"D")) return Fail(Cause::ArgumentMissing);
     const IQORObjConfigPtr local = config.GetLocalObjectConfig();
     const IQORObjMapConfigPtr map = config.GetMapObjectConfig();
     const IQORObjConfigPtr server = config.GetServerObjectConfig();
@@ -92,7 +100,8 @@ long WriteDelOrSignLogToLocal(CModelConfig& config, const SSignObj* obj, const C
     const SignLogSource source(*obj, kind, local, map);
     const CString signDataFolder = MakeSignDataFolder(folder);
     RecordLock lock(signDataFolder);
-    if (!lock.IsHeld()) return 0;
+    if (!lock.IsHeld())
+        return Fail(lock.IsBusy() ? Cause::SignLogBusy : Cause::SignLogNotWritten, signDataFolder);
     FinishAnnounced(lock, SignRecordPath(signDataFolder));
     KnownRecord known = TakeKnownRecord();
     if (!LogInPlace(known, signDataFolder, source, lock) && !LogAnew(known, signDataFolder, source)) return 0;
@@ -101,19 +110,19 @@ long WriteDelOrSignLogToLocal(CModelConfig& config, const SSignObj* obj, const C
 }
 
 long WriteSignLogToServer(const CString& folder) {
-    if (folder.IsEmpty()) return 1;
+    if (folder.IsEmpty()) return Refused(Cause::ArgumentMissing, L"folder");
     const CString signDataFolder = MakeSignDataFolder(folder);
     const CString record = SignRecordPath(signDataFolder);
     const RecordLock lock(signDataFolder);
     // Without a lock there is either no folder, which the server may say, or an entry being written.
-    if (lock.IsBusy()) return 1;
+    if (lock.IsBusy()) return Refused(Cause::SignLogBusy, record);
     if (lock.IsHeld()) FinishAnnounced(lock, record);
     TakeKnownRecord();
     const int result = dvl_SaveToServer(record, SignWorkPath(signDataFolder));
     // The log is sent once: it goes even when the server refused it, read-only or not.
     MakeWritable(record);
     ::DeleteFileW(record);
-    return result != 0 ? 1 : 0;
+    return result == 0 ? 0 : Refused(Cause::SignLogNotSent, record, result);
 }
 
 } // namespace varnoke

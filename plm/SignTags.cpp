@@ -2,8 +2,8 @@
 #include <afxwin.h>
 
 #include "plm/SignTags.h"
+#include "module/Failure.h"
 #include "module/ModulePaths.h"
-#include "module/Text.h"
 #include "plm/SignDataFolder.h"
 #include "plm/TagFile.h"
 
@@ -17,7 +17,7 @@ namespace {
 const wchar_t kTimeTag[] = L"DocSignTimeTag";
 
 bool IsNamed(const wchar_t* folder, const wchar_t* fileName) {
-    return HasText(folder) && HasText(fileName);
+    return IsGiven(folder, L"folder") && IsGiven(fileName, L"fileName");
 }
 
 CString TagFileName(const wchar_t* kind) {
@@ -28,7 +28,7 @@ bool Store(const wchar_t* kind, const CString& signData, const std::vector<TagEn
     if (entries.empty()) return true;
     const CString path = signData + TagFileName(kind);
     MakeWritable(path);
-    return WriteTags(path, kind, entries);
+    return WriteTags(path, kind, entries) || FailWithLastError(Cause::TagNotWritten, path);
 }
 
 CString Stored(const wchar_t* kind, const wchar_t* folder, const wchar_t* fileName) {
@@ -56,6 +56,8 @@ CString ModificationTime(const CString& folder, const CString& fileName) {
         const SYSTEMTIME time = LocalTime(facts.ftLastWriteTime);
         text.Format(L"%.4d-%.2d-%.2d_%.2d:%.2d:%.2d", time.wYear, time.wMonth, time.wDay, time.wHour,
                     time.wMinute, time.wSecond);
+    } else {
+        FailWithLastError(Cause::DocumentMissing, fileName);
     }
     return text;
 }
@@ -84,7 +86,8 @@ bool SetTag(const wchar_t* kind, const wchar_t* folder, const wchar_t* fileName,
 }
 
 bool GetTag(const wchar_t* kind, const wchar_t* folder, const wchar_t* fileName, long* value) {
-    if (!IsNamed(folder, fileName) || !value) return false;
+    if (!IsNamed(folder, fileName)) return false;
+    if (!value) return Fail(Cause::ArgumentMissing, L"value");
     *value = 0;
     *value = wcstol(Stored(kind, folder, fileName), nullptr, 10);
     return true;
@@ -98,7 +101,8 @@ bool SetTimeTag(const wchar_t* folder, const wchar_t* fileName) {
 }
 
 bool HasChanged(const wchar_t* folder, const wchar_t* fileName, long* changed) {
-    if (!IsNamed(folder, fileName) || !changed) return false;
+    if (!IsNamed(folder, fileName)) return false;
+    if (!changed) return Fail(Cause::ArgumentMissing, L"changed");
     *changed = 0;
     const CString recorded = Stored(kTimeTag, folder, fileName);
     const CString time = ModificationTime(folder, fileName);
@@ -108,7 +112,8 @@ bool HasChanged(const wchar_t* folder, const wchar_t* fileName, long* changed) {
 }
 
 bool CopyModificationTime(const wchar_t* folder, const wchar_t* fileName, wchar_t* buffer) {
-    if (!IsNamed(folder, fileName) || !buffer) return false;
+    if (!IsNamed(folder, fileName)) return false;
+    if (!buffer) return Fail(Cause::ArgumentMissing, L"time");
     const CString time = ModificationTime(folder, fileName);
     if (time.IsEmpty()) return false;
     ::lstrcpyW(buffer, time);
@@ -116,7 +121,7 @@ bool CopyModificationTime(const wchar_t* folder, const wchar_t* fileName, wchar_
 }
 
 bool ResetTags(const SSignFileDUL* list, bool withLog) {
-    if (!HasDocuments(list)) return false;
+    if (!HasDocuments(list)) return Fail(Cause::ListUnusable);
     std::vector<TagEntry> entries;
     for (const CString& name : DocumentNames(*list))
         entries.push_back({name, L"0"});
@@ -128,7 +133,7 @@ bool ResetTags(const SSignFileDUL* list, bool withLog) {
 }
 
 bool RecordTimes(const SSignFileDUL* list) {
-    if (!HasDocuments(list)) return false;
+    if (!HasDocuments(list)) return Fail(Cause::ListUnusable);
     const std::vector<CString> names = DocumentNames(*list);
     if (names.empty()) return true;
     const CString signData = MakeSignDataFolder(list->m_strFolder);

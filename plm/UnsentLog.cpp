@@ -5,6 +5,8 @@
 #include "plm/RecordAppend.h"
 #include "plm/SignDataFolder.h"
 #include "plm/SignLog.h"
+
+#include "module/Failure.h"
 #include "plm/SignRecordFile.h"
 
 using namespace QORMODEL;
@@ -30,7 +32,8 @@ OwnedRecord<SSignObj> ObjectOf(IQORDataEntry* entry) {
 
 bool Send(const CString& record, const CString& signDataFolder) {
     if (!base::FileExists(record)) return true;
-    if (dvl_SaveToServer(record, SignWorkPath(signDataFolder)) != 0) return false;
+    const int result = dvl_SaveToServer(record, SignWorkPath(signDataFolder));
+    if (result != 0) return Fail(Cause::SignLogNotSent, record, result);
     MakeWritable(record);
     return ::DeleteFileW(record) != FALSE;
 }

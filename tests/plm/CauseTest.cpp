@@ -74,4 +74,30 @@ TEST_F(CauseTest, Transfer_NamesTheFileAndTheServersResult) {
     EXPECT_EQ(Last().first, Cause::DrawingNotFound);
 }
 
+TEST_F(CauseTest, Documents_NameWhatIsMissing) {
+    CStringList none;
+    SSignObj object;
+    const struct {
+        Cause cause;
+        std::function<long()> call;
+        long result = 0;
+    } kCases[] = {
+        {Cause::ArgumentMissing, [&] { return m_plm.SetDocSignTag(Text(m_folder.Text()), nullptr, 1); }},
+        {Cause::DocumentMissing,
+         [&] { return m_plm.SetDocSignTimeTag(Text(m_folder.Text()), Text(L"a.dwg")); }},
+        {Cause::ListUnusable, [&] { return m_plm.UpdateDocsSignTag(nullptr, 1); }},
+        {Cause::KeptMessageMissing,
+         [&] {
+             return m_plm.NotifyPLMSignForBackSignRet(none, Text(L"FNAME"), Text(m_folder.Text()),
+                                                      Text(L"r.xml"));
+         }},
+        {Cause::ModelConfigNotLoaded, [&] { return m_plm.WriteDelOrSignLogToLocal(&object, L"C:\\", L"N"); }},
+        {Cause::SignLogNotSent, [&] { return m_plm.WriteSignLogToServer(m_folder.Text().c_str()); }, 1},
+    };
+    for (const auto& c : kCases) {
+        EXPECT_EQ(c.call(), c.result);
+        EXPECT_EQ(Last().first, c.cause) << ToUtf8(Last().second);
+    }
+}
+
 } // namespace
