@@ -64,11 +64,19 @@ TEST_F(SignOpt, Initialize_ReplacesTheServerOnlyBySomethingCreated) {
 }
 
 TEST_F(SignOpt, Login_SendsTheMappedUserAndTheConfiguredAddress) {
-    const auto login = [this] { return m_opt.Login(m_text, m_empty, m_text); };
+    const auto login = [this] { return m_opt.Login(m_text, m_empty, Text(L"plm")); };
     EXPECT_EQ(Seen(login), L"1(甲||127.0.0.1|8089)");
     m_settings.Set(L"SignServer", L"甲", L" jia.sign ");
     m_settings.Set(L"SignServer", L"ServerIP", L"10.0.0.1");
-    EXPECT_EQ(Seen(login), L"1(jia.sign||10.0.0.1|8089)");
+    m_settings.Set(L"SignServer", L"ServerPort", L"81");
+    m_settings.Set(L"DynDisp", L"Login", L"Renamed");
+    EXPECT_EQ(Seen([this] { return m_opt.Login(m_text, Text(L"secret"), Text(L"plm")); }),
+              L"9(jia.sign|secret|10.0.0.1|81)");
+    // The five texts lie at the object's end.
+    const CString* texts = reinterpret_cast<const CString*>(reinterpret_cast<const char*>(&m_opt + 1)) - 5;
+    EXPECT_EQ(texts[0] + texts[1] + texts[2] + texts[3] + texts[4], L"甲jia.signsecret10.0.0.181");
+    EXPECT_EQ(m_opt.Logout(), 1);
+    EXPECT_EQ(texts[0] + texts[1] + texts[2] + texts[3] + texts[4], L"") << "the password above all";
 }
 
 TEST_F(SignOpt, Operations_CallTheirMethodByItsConfiguredName) {
@@ -106,21 +114,49 @@ TEST_F(SignOpt, Operations_CallTheirMethodByItsConfiguredName) {
 TEST_F(SignOpt, Arguments_MissingOnesAreRefusedWithoutACall) {
     long invalid = 7;
     SSignInfo* info = &m_info;
-    EXPECT_EQ(m_opt.Login(m_empty, m_text, m_text) + m_opt.Login(m_text, nullptr, m_text), 0);
-    EXPECT_EQ(m_opt.Login(m_text, m_text, m_empty) + m_opt.DeleteSignForBackSign(nullptr, &m_info), 0);
-    EXPECT_EQ(m_opt.Sign(nullptr, &m_info) + m_opt.SignForBackSign(m_drawing, nullptr), 0);
-    EXPECT_EQ(m_opt.DeleteAllSignForBackSign(m_drawing, m_empty), 0);
-    EXPECT_EQ(m_opt.SignatureValidateForBackSign(nullptr, m_text), 0);
-    EXPECT_EQ(m_opt.CancelSign(m_drawing, m_text, m_empty, m_text), 0);
-    EXPECT_EQ(m_opt.CancelSign(m_drawing, m_text, m_text, nullptr), 0);
-    EXPECT_EQ(m_opt.ClearInvalidSign(m_drawing, m_empty) + m_opt.ExistSignature(nullptr, m_text, m_text), 0);
-    EXPECT_EQ(m_opt.HasInvalidSign(nullptr, &invalid), 0);
-    EXPECT_EQ(m_opt.GetSignUserName(nullptr) + m_opt.GetCancelSignDate(nullptr), 0);
-    EXPECT_EQ(m_opt.GetSignInfoForBackSign(m_empty, &info) + m_opt.GetSignInfo(m_text, 1, m_empty, &info), 0);
-    EXPECT_TRUE(invalid == 7 && info == nullptr);
-    EXPECT_EQ(m_opt.ClearInvalidSign(m_drawing, m_text), 1);
-    EXPECT_EQ(m_opt.ExistSignature(m_drawing, m_text, nullptr), 1);
-    EXPECT_TRUE(m_opt.HasInvalidSign(m_drawing, &invalid) == 1 && invalid == 0);
+    const auto refused = [this](auto... arguments) {
+        return [this, arguments...](auto operation) { return (m_opt.*operation)(arguments...); };
+    };
+    wchar_t *const text = m_text, *const empty = m_empty, *const null = nullptr;
+    IDispatch* const none = nullptr;
+    SSignInfo* const noInfo = nullptr;
+    for (wchar_t* bad : {empty, null}) {
+        for (auto operation : {&CSignOpt::DeleteAllSignForBackSign, &CSignOpt::SignatureValidateForBackSign,
+                               &CSignOpt::ClearInvalidSignForBackSign, &CSignOpt::ClearInvalidSign}) {
+            EXPECT_EQ(refused(m_drawing, bad)(operation), 0);
+            EXPECT_EQ(refused(none, text)(operation), 0);
+        }
+        EXPECT_EQ(refused(bad, text, text)(&CSignOpt::Login), 0);
+        EXPECT_EQ(refused(text, text, bad)(&CSignOpt::Login), 0);
+        EXPECT_EQ(refused(m_drawing, bad, text, text)(&CSignOpt::CancelSign), 0);
+        EXPECT_EQ(refused(m_drawing, text, bad, text)(&CSignOpt::CancelSign), 0);
+        EXPECT_EQ(refused(m_drawing, text, text, bad)(&CSignOpt::CancelSign), 0);
+        EXPECT_EQ(refused(m_drawing, bad, text)(&CSignOpt::ExistSignature), 0);
+        info = &m_info;
+        EXPECT_EQ(m_opt.GetSignInfoForBackSign(bad, &info), 0);
+        EXPECT_EQ(std::exchange(info, &m_info), nullptr);
+        EXPECT_EQ(m_opt.GetSignInfo(bad, 1, text, &info), 0);
+        EXPECT_EQ(std::exchange(info, &m_info), nullptr);
+        EXPECT_EQ(m_opt.GetSignInfo(text, 1, bad, &info), 0);
+        EXPECT_EQ(info, nullptr);
+    }
+    for (auto operation : {&CSignOpt::Sign, &CSignOpt::SignForBackSign, &CSignOpt::DeleteSignForBackSign}) {
+        EXPECT_EQ(refused(none, &m_info)(operation), 0);
+        EXPECT_EQ(refused(m_drawing, noInfo)(operation), 0);
+    }
+    EXPECT_EQ(m_opt.Login(text, null, text), 0);
+    EXPECT_EQ(m_opt.CancelSign(none, text, text, text), 0);
+    EXPECT_EQ(m_opt.ExistSignature(none, text, text), 0);
+    EXPECT_EQ(m_opt.HasInvalidSign(none, &invalid), 0);
+    EXPECT_EQ(m_opt.HasInvalidSign(m_drawing, nullptr), 0);
+    EXPECT_EQ(m_opt.GetSignUserName(null), 0);
+    EXPECT_EQ(m_opt.GetCancelSignDate(null), 0);
+    EXPECT_EQ(m_opt.GetSignInfoForBackSign(text, nullptr), 0);
+    EXPECT_EQ(invalid, 7);
+    EXPECT_EQ(m_opt.ClearInvalidSign(m_drawing, text), 1);
+    EXPECT_EQ(m_opt.ExistSignature(m_drawing, text, null), 1);
+    EXPECT_EQ(m_opt.HasInvalidSign(m_drawing, &invalid), 1);
+    EXPECT_EQ(invalid, 0);
     EXPECT_EQ(m_server.LastSeen(), L"") << "none of these reaches the server";
 }
 
@@ -185,7 +221,12 @@ TEST_F(SignOpt, GetCancelSignDate_RendersACompleteStyleOrTheDefault) {
 }
 
 TEST_F(SignOpt, GetSignInfoForBackSign_FillsFromSettingsAlone) {
+    const SSignInfo fresh;
+    EXPECT_EQ(fresh.m_dDateFontSize, 1.0);
+    EXPECT_EQ(fresh.m_nDateTextColor, 200);
     m_settings.Set(L"Sign", L"Index", L"3");
+    m_settings.Set(L"Sign", L"Pin", L"55");
+    m_settings.Set(L"SignDate", L"DateFontSize", L"15");
     m_settings.Set(L"SignDate", L"DateStyle", L"无");
     m_settings.Set(L"SignDate", L"DateOffsetX", L"1.5");
     m_settings.Set(L"SignDate", L"DateOffsetY", L"2.5");
@@ -194,9 +235,12 @@ TEST_F(SignOpt, GetSignInfoForBackSign_FillsFromSettingsAlone) {
     SSignInfo* info = nullptr;
     ASSERT_EQ(m_opt.GetSignInfoForBackSign(m_text, &info), 1);
     EXPECT_EQ(info->m_strDateText, L"无") << "this run does not insist on a complete style";
-    EXPECT_EQ(info->m_strPin + info->m_strDateFontName, L"480317宋体");
-    EXPECT_TRUE(info->m_nSealIndex == 3 && info->m_dDateOffsetX == 1.5 && info->m_dDateOffsetY == 2.5);
-    EXPECT_TRUE(info->m_dDateFontSize == 8 && info->m_nDateTextColor == 255);
+    EXPECT_EQ(info->m_strPin + info->m_strDateFontName, L"55宋体");
+    EXPECT_EQ(info->m_nSealIndex, 3);
+    EXPECT_EQ(info->m_dDateOffsetX, 1.5);
+    EXPECT_EQ(info->m_dDateOffsetY, 2.5);
+    EXPECT_EQ(info->m_dDateFontSize, 15);
+    EXPECT_EQ(info->m_nDateTextColor, 255);
     EXPECT_EQ(info->m_nScope + info->m_nLocationStyle, 0) << "these stay as constructed";
     EXPECT_EQ(Cmn_ReleaseSignInfo(info), 1);
 }
