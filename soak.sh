@@ -5,9 +5,9 @@
 set -euo pipefail
 root=$(cd "$(dirname "$0")" && pwd)
 
-inputs=1000000
+inputs=1000000 kills=1000 short=
 if [ "${1:-}" = --short ]; then
-    inputs=${VARNOKE_SOAK_INPUTS:-1400}
+    inputs=${VARNOKE_SOAK_INPUTS:-1400} kills=${VARNOKE_SOAK_KILLS:-3} short=--short
     shift
 fi
 build=$(realpath -m "${1:-$root/build/mingw}")
@@ -16,7 +16,7 @@ if [ ! -f "$build/bin/varnoke-soak.exe" ]; then
     "$root/scripts/build.sh" "$(basename "$build")"
 fi
 if [ -z "${VARNOKE_DISPLAY:-}" ]; then
-    exec "$root/scripts/with-wine.sh" "$0" $([ "$inputs" = 1000000 ] || echo --short) "$build"
+    exec "$root/scripts/with-wine.sh" "$0" $short "$build"
 fi
 
 # In memory where that is possible: a million inputs are a million files.
@@ -34,3 +34,6 @@ export DURVELL_VAULT="Z:${place//\//\\}\\vault" SIGNSERVER_JOURNAL="Z:${place//\
 
 run app/varnoke-soak.exe faults
 run app/varnoke-soak.exe readers "$inputs" "${VARNOKE_SOAK_SEED:-1}"
+mkdir "$place/kills"
+cd "$place/kills"
+"$root/tests/soak/kills.py" "$build" "$kills"

@@ -96,12 +96,11 @@ def valid_signatures(journal):
     standing = collections.Counter()
     for line in journal.splitlines():
         fields = line.split("\t")
-        if fields[-1] != "=> 1":
-            continue
-        if fields[1] == "Sign":
+        if fields[1] == "Sign" and fields[-1] == "=> 1":
             standing[fields[2]] += 1
-        elif fields[1] == "SignatureDelete" and standing[fields[2]]:
-            standing[fields[2]] -= 1
+        elif fields[1] == "SignatureDelete":
+            # The stand-in forgets its signatures with its process and so finds none to delete.
+            standing[fields[2]] = 0
     return standing
 
 
