@@ -134,8 +134,22 @@ std::wstring MessageOf(const wchar_t* document) {
            document + L"'/></obj></type></objs></root>";
 }
 
+/// What a failed deletion left: the library removes it once this process has ended.
+void RemoveLeftFiles(const std::wstring& folder) {
+    WIN32_FIND_DATAW found = {};
+    const HANDLE find = ::FindFirstFileW((folder + L"\\~varnoke-*").c_str(), &found);
+    if (find == INVALID_HANDLE_VALUE) return;
+    do {
+        ::DeleteFileW((folder + L"\\" + found.cFileName).c_str());
+    } while (::FindNextFileW(find, &found));
+    ::FindClose(find);
+}
+
 /// The folder as an earlier run left it: every file of the steps is there and sound.
 void Prepare(Library& library) {
+    for (const wchar_t* folder : {L".", L"work", L"work\\SignData"}) {
+        RemoveLeftFiles(Path(folder));
+    }
     g_message = MessageOf(kDocument);
     WriteAll(Path(L"vault\\files\\a.dwg"), "a drawing");
     WriteAll(Path(L"work\\a.dwg"), "old");

@@ -57,6 +57,8 @@ class Place:
             pathlib.Path(folder).mkdir(parents=True)
         for name in self.names:
             shutil.copy("drawing.dwg", pathlib.Path("vault/files", name))
+        # Slow enough to be met at every step.
+        pathlib.Path("vault/Durvell.ini").write_text("[Fault]\r\nDelayMs=60\r\n")
         for file in ("journal.log", "return_Ret.Xml", "vault/journal.log"):
             pathlib.Path(file).unlink(missing_ok=True)
 
@@ -76,15 +78,15 @@ def check_whole_files():
     """Whatever was being written when the process ended."""
     files = list(pathlib.Path("work/SignData").glob("*")) + list(pathlib.Path(".").glob("*_Ret.Xml"))
     for file in files:
-        if file.name.startswith("~"):
-            continue  # a temporary file that nobody reads
+        if file.name.startswith("~") or file.suffix.lower() not in (".xml", ".ini"):
+            continue  # temporary files, locks, and notes of which whole lines count
         content = file.read_bytes()
         if file.suffix.lower() == ".xml":
             try:
                 xml.etree.ElementTree.fromstring(content)
             except xml.etree.ElementTree.ParseError as error:
                 fail(f"{file} is not whole: {error}")
-        elif file.suffix == ".ini":
+        else:
             text = content.decode("utf-16" if content[:2] == b"\xff\xfe" else "gbk")
             lines = text.splitlines()
             if not lines or not lines[0].startswith("[") or not text.endswith("\n"):
