@@ -202,8 +202,8 @@ TEST_F(INIConfig, Setters_KeepTheFilesEncodingUnlessTextWouldBeLost) {
         EXPECT_EQ(GetPrivateProfileIntW(L"Own", L"x", 0, m_file.c_str()), 1u);
     }
     std::filesystem::remove(m_file);
-    EXPECT_EQ(m_config.SetDateLocation(L"Ł"), 1);
-    EXPECT_EQ(m_config.GetDateLocation(), L"Ł") << "a new file is UTF-16";
+    EXPECT_EQ(m_config.SetDateLocation(L"右下"), 1);
+    EXPECT_EQ(tests::ReadBytes(m_file).substr(0, 2), "\xFF\xFE") << "a new file is UTF-16";
 }
 
 } // namespace

@@ -196,8 +196,12 @@ TEST_F(SignOpt, GetSignUserName_CopiesTheSharedLogin) {
     SetEnvironmentVariableW(L"DURVELL_VAULT", vault.Text().c_str());
     const std::wstring name(1100, L'名');
     WritePrivateProfileStringW(L"Session", L"UserName", name.c_str(), (vault / "session.ini").c_str());
+    WritePrivateProfileStringW(L"Session", L"Password", L"p", (vault / "session.ini").c_str());
+    WritePrivateProfileStringW(L"Session", L"Server", L"s", (vault / "session.ini").c_str());
     std::wstring buffer(1100, L'#');
     EXPECT_EQ(m_opt.GetSignUserName(buffer.data()), 1);
+    const CString* texts = reinterpret_cast<const CString*>(reinterpret_cast<const char*>(&m_opt + 1)) - 5;
+    EXPECT_EQ(texts[2] + L"/" + texts[3], L"p/s");
     EXPECT_EQ(buffer.c_str(), name.substr(0, 1023));
     EXPECT_EQ(buffer[1024], L'#') << "1023 characters and the terminator at most";
     SetEnvironmentVariableW(L"DURVELL_VAULT", nullptr);
