@@ -1,6 +1,8 @@
 // Marks what Varnoke.dll exports: exported while the library itself is built, imported by everybody else.
 #pragma once
 
+#include "varnoke/Requirements.h"
+
 #if defined(Varnoke_EXPORTS)
 #define VARNOKE_API __declspec(dllexport)
 #else
