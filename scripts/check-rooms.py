@@ -26,6 +26,7 @@ ARROWS = {
     "standins": ["neighbours", "base"],
     "host": ["include", "base"],
     "doctor": ["neighbours", "base"],
+    "packaging": ["include"],
 }
 # These see what they test, measure or are built beside.
 OBSERVERS = {"tests", "bench"}

@@ -1,5 +1,5 @@
-// What a host must be built as. The records hold MFC's strings and lists, in the layout and with the memory of
-// exactly one kind of MFC.
+// What a host must be built as. The records hold MFC's strings and lists, in the layout and with the memory
+// of exactly one kind of MFC.
 #pragma once
 
 #if !defined(_WIN64) || (defined(_MSC_VER) && !defined(_M_X64))
