@@ -5,6 +5,7 @@
 
 #include "base/Paths.h"
 #include "base/Text.h"
+#include "base/TextEncoding.h"
 #include "base/WholeFile.h"
 #include "doctor/Checks.h"
 #include "doctor/SettingTable.h"
@@ -15,16 +16,10 @@ namespace {
 
 /// The name of an encoding that the profile functions misread; empty when they read the bytes rightly.
 std::wstring MisreadEncoding(const std::string& bytes) {
-    const auto begins = [&bytes](const char* mark) { return bytes.rfind(mark, 0) == 0; };
-    if (begins("\xFF\xFE")) return L"";
-    if (begins("\xFE\xFF")) return L"UTF-16 BE";
-    if (begins("\xEF\xBB\xBF")) return L"UTF-8 with a byte order mark";
-    if (std::none_of(bytes.begin(), bytes.end(), [](char c) { return c & 0x80; })) return L"";
-    std::wstring text;
-    if (base::FromUtf8(bytes, text)) return ::GetACP() == CP_UTF8 ? L"" : L"UTF-8";
-    const int size = static_cast<int>(bytes.size());
-    const bool fits = ::MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, bytes.data(), size, nullptr, 0) > 0;
-    return fits ? L"" : L"in another code page";
+    const base::TextEncoding encoding = base::EncodingOf(bytes);
+    if (base::IsProfileEncoding(encoding)) return std::wstring();
+    if (encoding == base::TextEncoding::Utf8Mark) return L"UTF-8 with a byte order mark";
+    return encoding == base::TextEncoding::Utf8 ? L"UTF-8" : L"neither UTF-16 nor the system's code page";
 }
 
 /// The texts of a list in which each ends with a null character.
