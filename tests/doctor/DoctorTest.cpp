@@ -161,8 +161,9 @@ TEST(Doctor, EveryFault_IsNamedByItsCode) {
         // else is complained about.
         const char* further =
             std::string(fault.code) == "settings.unreadable" ? "server.refused" : "model.not-checked";
-        ASSERT_TRUE(lines.size() == 1 || (lines.size() == 2 && lines[1].find(further) != std::string::npos))
+        EXPECT_TRUE(lines.size() == 1 || (lines.size() == 2 && lines[1].find(further) != std::string::npos))
             << report.Text();
+        if (lines.empty()) continue;
         EXPECT_NE(std::string::npos, lines[0].find("\"code\":\"" + std::string(fault.code) + "\""))
             << lines[0];
         EXPECT_NE(std::string::npos, lines[0].find(fault.subject)) << lines[0];
