@@ -5,6 +5,7 @@
 #include "host/Console.h"
 #include "base/ComApartment.h"
 #include "base/Owned.h"
+#include "host/LocalClasses.h"
 #include "host/Paths.h"
 #include "host/Texts.h"
 
@@ -27,6 +28,7 @@ int wmain(int argc, wchar_t** argv) {
         FAILED(apartment.Result())) {
         return host::kExitFailed;
     }
+    const host::LocalClasses localClasses;
     const base::LibraryHandle localServices = LoadLocalServices();
     try {
         return host::RunCommand(std::vector<CString>(argv + 1, argv + argc));
