@@ -83,7 +83,6 @@ life_of() { # SUFFIX FOLDER REGISTRY-ROOT
     [ "$(registered "$3")" = 1.1.0 ] || fail "version 1.1.0$1 has not replaced the older one: $(registered "$3")"
     signed "$app/Varnoke.dll" || fail "the upgrade left the old library"
     grep -q '^zhang=zhang.san' "$app/Varnoke.ini" || fail "the upgrade lost the administrator's settings"
-    expect 67 msi /i "$work/old/varnoke-1.0.0$1.msi"
     expect 0 msi /x "$work/new/varnoke-1.1.0$1.msi"
     [ ! -e "$app" ] || fail "left: $(find "$app")"
     [ -z "$(registered "$3")" ] || fail "still registered"
@@ -112,6 +111,11 @@ wine wineboot >/dev/null
 signed "$drive/Program Files/Varnoke/Varnoke.dll" || fail "the file in use was not replaced at the next start"
 expect 0 msi /x "$work/new/varnoke-1.1.0.msi"
 
+# No step back. (Tried on a fresh installation: Wine's record of related products does not outlive an upgrade.)
+expect 0 msi /i "$work/new/varnoke-1.1.0.msi"
+expect 67 msi /i "$work/old/varnoke-1.0.0.msi"
+expect 0 msi /x "$work/new/varnoke-1.1.0.msi"
+
 # A folder that may not be written to: nothing is installed, nothing registered.
 WINEPREFIX=$place/wineprefix /usr/lib/wine/wineserver64 -k || true
 chmod 555 "$drive/Program Files"
@@ -120,6 +124,25 @@ expect 67 setpriv --bounding-set=-dac_override,-dac_read_search,-fowner --inh-ca
 chmod 755 "$drive/Program Files"
 [ -z "$(registered HKLM)" ] || fail "registered without rights"
 diff <(echo "$before") <(installed_files "$drive/Program Files") || fail "files were left"
+
+# The portable demo, where no stand-in is registered.
+rm "$place/wineprefix/registered"
+for name in QORParser SignServer QORGrid DwgViewer; do
+    expect 0 wine regsvr32 /u /s "Z:${place//\//\\}\\bin\\$name.dll"
+done
+VARNOKE_SIGN= "$root/packaging/make-demo.sh" "$build" "$work/demo" >/dev/null
+(
+    mkdir "$work/演示 folder"
+    cd "$work/演示 folder"
+    unzip -q "$work"/demo/*.zip
+    cd varnoke-demo-*
+    expect 0 wine cmd /c demo.cmd >"$work/demo.log" 2>&1
+    [ "$(grep -o 'name="SignRet" value="1"' demo-out/return_Ret.Xml | wc -l)" = 3 ] || fail "the demo has not signed all three"
+    cd demo-out
+    expect 0 wine ../varnoke-host.exe sign --message message.xml --vault vault --work work --auto >"$work/demo.log" 2>&1
+    mv ../varnoke-standins.manifest ../off
+    expect 2 wine ../varnoke-host.exe sign --message message.xml --vault vault --work work --auto >"$work/demo.log" 2>&1
+) || { cat "$work/demo.log"; fail "the portable demo"; }
 
 rm "$place/dirty"
 echo "$key" >"$place/passed"
