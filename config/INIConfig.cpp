@@ -8,7 +8,7 @@
 #include <string>
 
 #include "config/SettingDefaults.h"
-#include "config/SettingStore.h"
+#include "config/UserLayer.h"
 #include "module/Guarded.h"
 #include "module/ModulePaths.h"
 
@@ -20,6 +20,7 @@ struct TextSetting {
     const wchar_t* section;
     const wchar_t* key;
     const wchar_t* fallback;
+    bool choice = false; // the user's, in a dialog
 };
 
 struct IntegerSetting {
@@ -27,6 +28,7 @@ struct IntegerSetting {
     const wchar_t* key;
     long fallback;
     bool (*usable)(long value);
+    bool choice = false;
 
     long Normalized(long value) const { return usable(value) ? value : fallback; }
 };
@@ -68,17 +70,17 @@ constexpr TextSetting kServerObjectConfigId = {kSignLog, L"ServerObjectConfigId"
 constexpr IntegerSetting kIndex = {kSign, L"Index", 0, Any};
 constexpr TextSetting kPin = {kSign, L"Pin", L"480317"};
 constexpr IntegerSetting kDelPre = {kSign, L"DelPre", 0, Any};
-constexpr TextSetting kDateStyle = {kSignDate, L"DateStyle", varnoke::kDefaultDateStyle};
-constexpr TextSetting kDateLocation = {kSignDate, L"DateLocation", L"左上"};
-constexpr IntegerSetting kDateFontSize = {kSignDate, L"DateFontSize", 8, Positive};
-constexpr IntegerSetting kDateTextColor = {kSignDate, L"DateTextColor", 0xFFFFFF, NotNegative};
+constexpr TextSetting kDateStyle = {kSignDate, L"DateStyle", varnoke::kDefaultDateStyle, true};
+constexpr TextSetting kDateLocation = {kSignDate, L"DateLocation", L"左上", true};
+constexpr IntegerSetting kDateFontSize = {kSignDate, L"DateFontSize", 8, Positive, true};
+constexpr IntegerSetting kDateTextColor = {kSignDate, L"DateTextColor", 0xFFFFFF, NotNegative, true};
 // The dialogs start from white, a signature without a set colour is placed in red.
 constexpr IntegerSetting kSignDateTextColor = {kDateTextColor.section, kDateTextColor.key, 0x0000FF,
-                                               NotNegative};
+                                               NotNegative, true};
 constexpr NumberSetting kDateOffsetX = {kSignDate, L"DateOffsetX"};
 constexpr NumberSetting kDateOffsetY = {kSignDate, L"DateOffsetY"};
 constexpr TextSetting kDateFontName = {kSignDate, L"DateFontName", L"宋体"};
-constexpr IntegerSetting kScope = {kSignScope, L"Scope", 1, ScopeNumber};
+constexpr IntegerSetting kScope = {kSignScope, L"Scope", 1, ScopeNumber, true};
 constexpr IntegerSetting kLocationStyle = {kSignLocation, L"LocationStyle", 0, Any};
 constexpr NumberSetting kLocationXCheck = {kSignLocation, L"LocationXCheck"};
 constexpr NumberSetting kLocationYCheck = {kSignLocation, L"LocationYCheck"};
@@ -94,11 +96,17 @@ constexpr long kUnreadableColor = 200;
 
 constexpr DWORD kBufferSize = 1023; // with the terminator
 
+template <class Setting>
+CString FileOf(const CString& path, const Setting& setting) {
+    return setting.choice ? varnoke::ChoicePath(path, setting.section, setting.key) : path;
+}
+
 CString Read(const CString& path, const TextSetting& setting) {
     return varnoke::Guarded(CString(setting.fallback), [&] {
         if (path.IsEmpty()) return CString(setting.fallback);
         wchar_t buffer[kBufferSize] = {};
-        ::GetPrivateProfileStringW(setting.section, setting.key, setting.fallback, buffer, kBufferSize, path);
+        ::GetPrivateProfileStringW(setting.section, setting.key, setting.fallback, buffer, kBufferSize,
+                                   FileOf(path, setting));
         CString text(buffer);
         text.Trim();
         return text.IsEmpty() ? CString(setting.fallback) : text;
@@ -113,7 +121,8 @@ CString ReadNamed(const CString& path, const wchar_t* section, const CString& ke
 long Read(const CString& path, const IntegerSetting& setting, long failure) {
     return varnoke::Guarded(failure, [&] {
         if (path.IsEmpty()) return setting.fallback;
-        const UINT value = ::GetPrivateProfileIntW(setting.section, setting.key, setting.fallback, path);
+        const UINT value =
+            ::GetPrivateProfileIntW(setting.section, setting.key, setting.fallback, FileOf(path, setting));
         return setting.Normalized(static_cast<long>(value));
     });
 }
@@ -163,7 +172,7 @@ double Read(const CString& path, const NumberSetting& setting) {
 
 template <class Setting>
 long WriteText(const CString& path, const Setting& setting, const CString& value) {
-    if (path.IsEmpty() || varnoke::StoreSetting(path, setting.section, setting.key, value))
+    if (path.IsEmpty() || varnoke::StoreChoice(path, setting.section, setting.key, value))
         return path.IsEmpty() ? 0 : 1;
     return varnoke::FailWithLastError(varnoke::Cause::SettingNotStored, path);
 }

@@ -11,6 +11,7 @@ namespace doctor {
 constexpr Setting kSettings[] = {
     {L"SignServer", L"ServerIP", L"127.0.0.1", SettingKind::Text},
     {L"SignServer", L"ServerPort", L"8089", SettingKind::Port},
+    {L"Settings", L"UserLayer", L"0", SettingKind::NotNegative},
     {L"SignLog", L"DesignDoMain", L"standard", SettingKind::Text},
     {L"SignLog", L"LocalObjectConfigId", L"IQORM_OBJ_SIGN", SettingKind::Text},
     {L"SignLog", L"ServerObjectConfigId", L"SIGN", SettingKind::Text},

@@ -6,7 +6,8 @@ namespace host {
 
 LocalClasses::LocalClasses() {
     const CString manifest = JoinPath(ModuleFolder(nullptr), L"varnoke-standins.manifest");
-    ACTCTXW context = {sizeof(context)};
+    ACTCTXW context = {};
+    context.cbSize = sizeof(context);
     context.lpSource = manifest;
     m_context = ::CreateActCtxW(&context);
     if (m_context != INVALID_HANDLE_VALUE) ::ActivateActCtx(m_context, &m_cookie);

@@ -6,7 +6,8 @@ cd /d "%~dp0"
 if not exist demo-out mkdir demo-out
 cd demo-out
 set SIGNSERVER_JOURNAL=%CD%\sign-server.log
-..\varnoke-samples.exe . || goto failed
+..\varnoke-samples.exe .
+if errorlevel 1 goto failed
 del Varnoke.ini
 if "%1"=="interactive" (
     ..\varnoke-host.exe sign --message message.xml --vault vault --work work

@@ -1,6 +1,7 @@
 // Tests of the settings reader on real files.
 #include <afxwin.h>
 #include <locale.h>
+#include <shlobj.h>
 #include <gtest/gtest.h>
 #include "varnoke/INIConfig.h"
 #include "module/ModulePaths.h"
@@ -103,6 +104,32 @@ TEST_F(INIConfig, Default_WithoutPathFileOrValues) {
     EXPECT_EQ(m_config.SetScope(2) + m_config.SetDateStyle(L"x"), 0);
     settingsPath.Empty();
     EXPECT_EQ(m_config.Initialize(nullptr), 0);
+}
+
+TEST_F(INIConfig, Choice_GoesToTheUsersFileWhenTheAdministratorAsksForIt) {
+    wchar_t appData[MAX_PATH] = {};
+    ASSERT_EQ(::SHGetFolderPathW(nullptr, CSIDL_APPDATA, nullptr, 0, appData), S_OK);
+    const std::filesystem::path folder = std::filesystem::path(appData) / L"Varnoke";
+    std::filesystem::remove_all(folder);
+    Store(L"SignScope", L"Scope", L"2");
+    Store(L"Settings", L"UserLayer", L"1");
+    const std::string admin = tests::ReadBytes(m_file);
+    EXPECT_EQ(m_config.GetScope(), 2) << "without a choice the administrator's value counts";
+
+    EXPECT_EQ(m_config.SetScope(3) + m_config.SetDateTextColor(7), 2);
+    EXPECT_EQ(m_config.GetScope(), 3);
+    EXPECT_EQ(m_config.GetSignDateTextColor(), 7);
+    EXPECT_EQ(tests::ReadBytes(m_file), admin);
+    const std::filesystem::path user = folder / L"Varnoke.ini";
+    ASSERT_TRUE(WritePrivateProfileStringW(L"DynDisp", L"ProgID", L"Evil.Server", user.c_str()));
+    EXPECT_EQ(m_config.GetProgID(), L"Brevanix.Brevanix0") << "only choices are the user's";
+
+    ::SetFileAttributesW(user.c_str(), FILE_ATTRIBUTE_READONLY);
+    EXPECT_EQ(m_config.SetScope(1), 0);
+    ::SetFileAttributesW(user.c_str(), FILE_ATTRIBUTE_NORMAL);
+    Store(L"Settings", L"UserLayer", L"0");
+    EXPECT_EQ(m_config.GetScope(), 2);
+    std::filesystem::remove_all(folder);
 }
 
 TEST_F(INIConfig, Stored_IsReadByEachGetterInBothEncodings) {
