@@ -174,6 +174,7 @@ template <class Setting>
 long WriteText(const CString& path, const Setting& setting, const CString& value) {
     if (path.IsEmpty() || varnoke::StoreChoice(path, setting.section, setting.key, value))
         return path.IsEmpty() ? 0 : 1;
+    varnoke::KeepCause(); // the dialogs close all the same, with the user's answer
     return varnoke::FailWithLastError(varnoke::Cause::SettingNotStored, path);
 }
 

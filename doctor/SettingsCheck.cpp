@@ -138,7 +138,10 @@ void CheckSettings(const std::wstring& file, Report& report) {
         report.Add(L"settings.file", file);
         const std::wstring encoding = MisreadEncoding(bytes);
         if (!encoding.empty()) report.Add(L"settings.encoding", file, encoding);
-        if (const DWORD error = WriteError(file)) report.Add(L"settings.read-only", file, ErrorText(error));
+        // With a layer of the user's own, nobody but the administrator writes here.
+        const bool userLayer = ::GetPrivateProfileIntW(L"Settings", L"UserLayer", 0, file.c_str()) == 1;
+        if (const DWORD error = userLayer ? 0 : WriteError(file))
+            report.Add(L"settings.read-only", file, ErrorText(error));
     }
     SettingsCheck check(file, report);
     check.CheckNames();

@@ -9,6 +9,7 @@ files=$stage/files
 mkdir -p "$files/samples" "$files/docs"
 cp "$build"/bin/{Varnoke.dll,varnoke-host.exe,varnoke-doctor.exe} "$files/"
 cp "$root/samples/ModelConfig.Xml" "$files/samples/"
+cp "$root"/README*.md "$files/"
 cp "$root"/docs/*.md "$files/docs/"
 # In UTF-16, as the library itself stores settings: text of any language survives there.
 { printf '\xff\xfe'; sed 's/$/\r/' "$root/packaging/samples/Varnoke.ini" | iconv -f UTF-8 -t UTF-16LE; } >"$files/samples/Varnoke.ini"
