@@ -48,8 +48,6 @@ int SignAll(Session& session, const RunInput& input, const MessageRecords& recor
     runOptions.log = !options.Has(kNoLog);
     runOptions.maxFailures = static_cast<size_t>(options.Number(kMaxFailures, 0));
     const GivenUp givenUp = RunHandOver::Received();
-    // A process that took over has no signature to delete that the one before it did not see.
-    if (!givenUp.documents.empty()) runOptions.again = false;
 
     const std::vector<Document> documents = DocumentsOf(*records.files);
     RunHandOver handOver(lock);
@@ -113,7 +111,7 @@ int RunBackSign(const Options& options) {
     RunInput input;
     if (!LoadRunInput(options, input)) return kExitRefused;
     const CString returnFile = ReturnFileOf(ReturnPath(options.Value(L"--return")));
-    if (!Preflight::CheckPlaces(input.work, returnFile)) return kExitRefused;
+    if (!Preflight::CheckPlaces(input.work, returnFile) || !Preflight::CheckSettings()) return kExitRefused;
     if (options.Has(kDryRun)) return DryRun(input, options);
     if (!PrepareWorkFolder(input)) return kExitRefused;
     RunLock lock(input.work);

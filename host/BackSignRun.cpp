@@ -42,7 +42,7 @@ GivenUp BackSignRun::HandOver() {
     m_state.Close();
     GivenUp inHand;
     inHand.documents = {m_current};
-    inHand.signServer = m_connecting;
+    inHand.signServer = m_askingSignServer;
     inHand.log = m_sending;
     return inHand;
 }
@@ -63,17 +63,20 @@ TextId BackSignRun::Process(const Document& document) {
     const bool returned = state.progress == Progress::Uploaded || state.progress == Progress::Done;
     state.name = document.Name();
     state.fingerprint = fingerprint;
-    if (!m_options.again && same && returned && (unchanged || stamp.IsEmpty())) {
+    // What a process before this one has dealt with is not done once more.
+    const bool taken = !m_givenUp.documents.empty() && m_current <= m_givenUp.documents.back();
+    const bool again = m_options.again && !taken;
+    if (!again && same && returned && (unchanged || stamp.IsEmpty())) {
         Log(document, state);
         return TextId::AlreadySigned;
     }
     if (!m_noting) return TextId::NotNoted;
     const auto& givenUp = m_givenUp.documents;
     if (std::find(givenUp.begin(), givenUp.end(), m_current) != givenUp.end()) return TextId::TimedOut;
-    if (!m_options.again && unchanged && state.progress == Progress::Signed)
+    if (!again && unchanged && state.progress == Progress::Signed)
         return Return(document, state, TextId::Signed);
     const bool mayBeSigned = same && state.progress != Progress::None;
-    return SignAnew(document, state, m_options.again || mayBeSigned);
+    return SignAnew(document, state, again || mayBeSigned);
 }
 
 TextId BackSignRun::SignAnew(const Document& document, DocumentState& state, bool deleteFirst) {
@@ -95,7 +98,7 @@ TextId BackSignRun::Return(const Document& document, DocumentState& state, TextI
 
 TextId BackSignRun::Connect() {
     if (m_connection == TextId::Count) {
-        m_connecting = true;
+        m_askingSignServer = true;
         const CallLimit::Call call(m_limit);
         m_connection = TextId::Ready;
         if (!m_session.ConnectSignServer()) {
@@ -103,7 +106,7 @@ TextId BackSignRun::Connect() {
         } else if (!m_session.Login(m_login)) {
             m_connection = TextId::NotLoggedIn;
         }
-        m_connecting = false;
+        m_askingSignServer = false;
     }
     return m_connection;
 }
@@ -130,9 +133,12 @@ TextId BackSignRun::Sign(const Document& document, DocumentState& state, bool de
     state.stamp.Empty();
     state.signature = {info->m_strUserName, info->m_strRole, info->m_strDateText};
     if (!m_state.Note(state)) return TextId::NotNoted;
+    m_askingSignServer = true;
     // There may be no signature, if the earlier run ended before the server's call.
     if (deleteFirst) SignDrawing(m_session.SignOpt(), &CSignOpt::DeleteSignForBackSign, *info, path);
-    if (!SignDrawing(m_session.SignOpt(), &CSignOpt::SignForBackSign, *info, path)) {
+    const bool placed = SignDrawing(m_session.SignOpt(), &CSignOpt::SignForBackSign, *info, path);
+    m_askingSignServer = false;
+    if (!placed) {
         // A server that has gone signs nothing more: the other documents are not fetched for it.
         if (!m_session.SignServerAnswers()) m_connection = TextId::SignServerGone;
         return TextId::FailedSign;

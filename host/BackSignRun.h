@@ -74,7 +74,7 @@ private:
     TextId m_connection = TextId::Count; ///< Count: not tried yet
     size_t m_failures = 0;
     volatile size_t m_current = 0;
-    volatile bool m_connecting = false;
+    volatile bool m_askingSignServer = false;
     volatile bool m_sending = false;
     bool m_noting = false; ///< whether steps can be noted
     bool m_logComplete = true;

@@ -4,9 +4,11 @@
 
 #include <string>
 
+#include "base/Text.h"
+#include "base/WholeFile.h"
+#include "host/Gb18030.h"
 #include "host/MessageFile.h"
 #include "host/Texts.h"
-#include "base/WholeFile.h"
 
 namespace host {
 
@@ -15,6 +17,7 @@ namespace {
 constexpr LONGLONG kLargestFile = 64LL * 1024 * 1024;
 constexpr UINT kUtf16 = 1200;
 constexpr UINT kUtf16BigEndian = 1201;
+constexpr UINT kGb18030 = 54936;
 
 struct EncodingName {
     const char* name;
@@ -22,8 +25,8 @@ struct EncodingName {
 };
 
 constexpr EncodingName kEncodingNames[] = {
-    {"utf-8", CP_UTF8}, {"gbk", 936},        {"gb2312", 936},       {"cp936", 936},
-    {"gb18030", 54936}, {"us-ascii", 20127}, {"iso-8859-1", 28591},
+    {"utf-8", CP_UTF8},    {"gbk", 936},        {"gb2312", 936},       {"cp936", 936},
+    {"gb18030", kGb18030}, {"us-ascii", 20127}, {"iso-8859-1", 28591},
 };
 
 bool ReadBytes(const CString& path, std::string& bytes, CString& error) {
@@ -72,9 +75,7 @@ bool DetectEncoding(std::string& bytes, UINT& codePage, CString& error) {
         if (declared.empty()) return true;
         for (const EncodingName& known : kEncodingNames) {
             if (declared != known.name) continue;
-            // Not every system has GB18030; GBK is the two-byte part of it, and the rest is refused as
-            // invalid.
-            codePage = ::IsValidCodePage(known.codePage) ? known.codePage : 936;
+            codePage = known.codePage;
             return true;
         }
         error =
@@ -93,19 +94,18 @@ bool DecodeUtf16(std::string bytes, bool bigEndian, CString& text) {
     return true;
 }
 
-bool DecodeCodePage(const std::string& bytes, UINT codePage, CString& text) {
-    const int size = static_cast<int>(bytes.size());
-    const int length = ::MultiByteToWideChar(codePage, MB_ERR_INVALID_CHARS, bytes.data(), size, nullptr, 0);
-    if (length <= 0) return size == 0;
-    ::MultiByteToWideChar(codePage, MB_ERR_INVALID_CHARS, bytes.data(), size, text.GetBuffer(length), length);
-    text.ReleaseBuffer(length);
-    return true;
+bool DecodeBytes(const std::string& bytes, UINT codePage, CString& text) {
+    std::wstring decoded;
+    const bool valid =
+        codePage == kGb18030 ? DecodeGb18030(bytes, decoded) : base::FromCodePage(codePage, bytes, decoded);
+    text = CString(decoded.data(), static_cast<int>(decoded.size()));
+    return valid;
 }
 
 bool Decode(const std::string& bytes, UINT codePage, CString& text) {
     const bool decoded = codePage == kUtf16 || codePage == kUtf16BigEndian
                              ? DecodeUtf16(bytes, codePage == kUtf16BigEndian, text)
-                             : DecodeCodePage(bytes, codePage, text);
+                             : DecodeBytes(bytes, codePage, text);
     // A zero character would cut the message short on its way to the library.
     return decoded && static_cast<int>(wcslen(text)) == text.GetLength();
 }

@@ -1,5 +1,8 @@
 #include <afxwin.h>
 
+#include <string>
+
+#include "base/TextEncoding.h"
 #include "base/WholeFile.h"
 #include "host/Commands.h"
 #include "host/Console.h"
@@ -34,6 +37,13 @@ bool CanPlaceFile(const CString& path) {
 }
 
 } // namespace
+
+bool Preflight::CheckSettings() {
+    const CString settings = JoinPath(ModuleFolder(L"Varnoke.dll"), L"Varnoke.ini");
+    std::string bytes;
+    if (base::ReadWholeFile(settings, bytes) != base::ReadResult::Done) return true;
+    return base::IsProfileEncoding(base::EncodingOf(bytes)) || Refuse(TextId::SettingsEncoding, settings);
+}
 
 bool Preflight::CheckPlaces(const CString& work, const CString& returnFile) {
     if (!FitsPath(SignDataFile(work, L""), kOwnNames) || !FitsPath(returnFile, kOwnNames)) return false;

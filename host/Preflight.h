@@ -19,6 +19,9 @@ public:
     /// after an error line.
     static bool CheckPlaces(const CString& work, const CString& returnFile);
 
+    /// Whether the system reads the library's settings as they were written. False after an error line.
+    static bool CheckSettings();
+
     /// `session` is borrowed and open.
     Preflight(Session& session, const CString& work, bool log)
         : m_session(session), m_work(work), m_log(log) {}

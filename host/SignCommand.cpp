@@ -6,6 +6,7 @@
 #include "host/DocumentLine.h"
 #include "host/InteractiveSession.h"
 #include "host/Paths.h"
+#include "host/Preflight.h"
 #include "host/RunInput.h"
 #include "host/RunLock.h"
 #include "host/RunState.h"
@@ -106,7 +107,8 @@ std::vector<OptionRule> SignRules() {
 
 int RunSign(const Options& options) {
     RunInput input;
-    if (!LoadRunInput(options, input) || !PrepareWorkFolder(input)) return kExitRefused;
+    if (!LoadRunInput(options, input) || !Preflight::CheckSettings() || !PrepareWorkFolder(input))
+        return kExitRefused;
     InteractiveSession session(options);
     if (!session.Open()) return kExitFailed;
     const RunLock lock(input.work);

@@ -46,6 +46,11 @@ constexpr TextEntry kTexts[] = {
     {TextId::WorkFolderReadOnly, L"the work folder cannot be written: %1", L"无法写入工作目录：%1"},
     {TextId::WorkFolderBusy, L"another run is at work in this folder: %1", L"该目录正在被另一次运行使用：%1"},
     {TextId::PathTooLong, L"the path is too long: %1", L"路径过长：%1"},
+    {TextId::SettingsEncoding,
+     L"the system reads the settings in another encoding than they have; save them as UTF-16 with a byte "
+     L"order "
+     L"mark: %1",
+     L"系统不能按设置文件的编码读取，请另存为带字节顺序标记的 UTF-16：%1"},
     {TextId::NoReturnFolder, L"the return file has no folder: %1", L"返回文件的目录不存在：%1"},
     {TextId::NoPictureFolder, L"the folder of the pictures cannot be made: %1", L"无法创建图片目录：%1"},
     {TextId::NoTemporaryFolder, L"no temporary folder can be made", L"无法创建临时目录"},

@@ -32,6 +32,7 @@ enum class TextId {
     WorkFolderReadOnly,
     WorkFolderBusy,
     PathTooLong,
+    SettingsEncoding,
     NoReturnFolder,
     NoPictureFolder,
     NoTemporaryFolder,

@@ -24,7 +24,7 @@ ARROWS = {
     "sign": ["ui", "config"],
     "plm": ["ui", "config"],
     "standins": ["neighbours", "base"],
-    "host": ["include", "base"],
+    "host": ["include", "base", "mfc"],
     "doctor": ["neighbours", "base"],
     "packaging": ["include"],
 }
@@ -107,6 +107,8 @@ def main():
             continue
         if source not in ARROWS:
             faults.append(f"{source} is no room: {places[source, target]}")
+        elif source == "host" and target not in ARROWS["host"]:
+            faults.append(f"host includes nothing by way of others: {places[source, target]}")
         elif target not in reachable(source):
             faults.append(f"{source} must not include {target}: {places[source, target]}")
     for fault in faults:

@@ -183,7 +183,11 @@ TEST_F(BackSignTest, Preflight_RefusesBeforeTheFirstSignature) {
     WriteBytes(settings, "[DynDisp]\r\nSign=Unterschreiben\r\n");
     const HostResult result = BackSign();
     const HostResult dry = BackSign({L"--dry-run"});
+    WriteBytes(settings, "\xEF\xBB\xBF[DynDisp]\r\nSign=Sign\r\n");
+    const HostResult encoding = BackSign();
     fs::remove(settings);
+    EXPECT_EQ(2u, encoding.exitCode) << encoding.Text();
+    EXPECT_NE(std::string::npos, encoding.err.find("save them as UTF-16")) << encoding.Text();
     for (const HostResult& refused : {result, dry}) {
         EXPECT_EQ(2u, refused.exitCode) << refused.Text();
         EXPECT_NE(std::string::npos, refused.err.find("has no method Unterschreiben")) << refused.Text();
@@ -210,6 +214,16 @@ TEST_F(BackSignTest, CallsThatDoNotReturn_AreGivenUpWithTheirDocument) {
     EXPECT_EQ(3u, result.exitCode) << result.Text();
     EXPECT_TRUE(result.Said("b.dwg: not signed: a call took longer than the time limit")) << result.Text();
     EXPECT_EQ("10", ReturnValues());
+
+    // The process that takes over signs again, too, what is behind the document in hand.
+    SetEnvironmentVariableW(L"VARNOKE_GIVEN_UP", L" 0");
+    Fault(L"DelayMs", nullptr);
+    const HostResult again = BackSign({L"--again"});
+    SetEnvironmentVariableW(L"VARNOKE_GIVEN_UP", nullptr);
+    EXPECT_EQ(0u, again.exitCode) << again.Text();
+    EXPECT_EQ("11", ReturnValues());
+    EXPECT_EQ(2, SignCalls("Sign", "\tD2\t"));
+    EXPECT_EQ(1, SignCalls("Sign", "\tD1\t"));
 }
 
 TEST_F(BackSignTest, DocumentsWithoutIdentifierAndRole_AreLoggedAsTheyWereSigned) {

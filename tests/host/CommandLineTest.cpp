@@ -97,6 +97,11 @@ TEST_F(CommandLineTest, MessageFile_IsReadInEveryEncoding) {
         EXPECT_EQ(0u, result.exitCode) << "file " << i << ": " << result.Text();
         EXPECT_TRUE(result.Said("图纸.dwg: ready")) << "file " << i << ": " << result.Text();
     }
+    // Characters of four bytes, one of them beyond the basic plane.
+    std::string rare = Gbk(declared(L"GB18030"));
+    rare.replace(rare.find("\xCD\xBC"), 2, "\x81\x39\xEE\x39\x95\x32\x82\x36");
+    WriteBytes(m_message, rare);
+    EXPECT_TRUE(BackSign({L"--dry-run"}).Said("\xE3\x90\x80\xF0\xA0\x80\x80纸.dwg: ready"));
 }
 
 TEST_F(CommandLineTest, RefusedMessagesAndMissingFolders_SignNothing) {
