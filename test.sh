@@ -12,7 +12,7 @@ done
 # processor: a program and the Wine server take turns, and waking each other across processors takes longer.
 cpus=$(sed -n 's/^Cpus_allowed_list:[[:space:]]*//p' /proc/self/status)
 failed=0
-taskset -c "${cpus##*[-,]}" scripts/with-wine.sh ctest --preset msabi >build/msabi-tests.log 2>&1 &
+TZ=Asia/Shanghai taskset -c "${cpus##*[-,]}" scripts/with-wine.sh ctest --preset msabi >build/msabi-tests.log 2>&1 &
 msabi=$!
 taskset -c "${cpus%%[-,]*}" scripts/with-wine.sh ctest --preset mingw || failed=1
 wait $msabi || failed=1

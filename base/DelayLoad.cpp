@@ -24,7 +24,7 @@ std::wstring WideName(const char* name) {
 HMODULE LoadFromPath(const std::wstring& name) {
     const DWORD size = ::GetEnvironmentVariableW(L"PATH", nullptr, 0);
     std::wstring path(size, L'\0');
-    if (size == 0 || ::GetEnvironmentVariableW(L"PATH", &path[0], size) >= size) return nullptr;
+    if (size == 0 || ::GetEnvironmentVariableW(L"PATH", path.data(), size) >= size) return nullptr;
     wchar_t file[MAX_PATH] = {};
     const DWORD length = ::SearchPathW(path.c_str(), name.c_str(), nullptr, MAX_PATH, file, nullptr);
     if (length == 0 || length >= MAX_PATH) return nullptr;
@@ -85,6 +85,7 @@ HMODULE Find(const IMAGE_DELAYLOAD_DESCRIPTOR& library) {
 } // namespace base
 
 /// Called by the linker's stubs; gives the function that the stub jumps to.
+// NOLINTNEXTLINE(bugprone-reserved-identifier,readability-identifier-naming): the linker asks for this name
 extern "C" FARPROC WINAPI __delayLoadHelper2(const IMAGE_DELAYLOAD_DESCRIPTOR* library, FARPROC* slot) {
     const HMODULE module = base::Find(*library);
     if (!module) return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(&base::Raise));

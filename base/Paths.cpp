@@ -13,7 +13,7 @@ std::wstring TextOfAnyLength(Fill fill) {
     constexpr DWORD kMostCharacters = 0x10000;
     for (DWORD size = 260; size <= kMostCharacters; size *= 2) {
         std::wstring text(size, L'\0');
-        const DWORD length = fill(&text[0], size);
+        const DWORD length = fill(text.data(), size);
         if (length < size) {
             text.resize(length);
             return text;

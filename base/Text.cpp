@@ -12,7 +12,7 @@ bool SameText(std::wstring_view a, std::wstring_view b) {
 std::string ToUtf8(TextRef text) {
     const int length = static_cast<int>(wcslen(text));
     std::string bytes(::WideCharToMultiByte(CP_UTF8, 0, text, length, nullptr, 0, nullptr, nullptr), '\0');
-    ::WideCharToMultiByte(CP_UTF8, 0, text, length, &bytes[0], static_cast<int>(bytes.size()), nullptr,
+    ::WideCharToMultiByte(CP_UTF8, 0, text, length, bytes.data(), static_cast<int>(bytes.size()), nullptr,
                           nullptr);
     return bytes;
 }
@@ -20,7 +20,7 @@ std::string ToUtf8(TextRef text) {
 bool FromCodePage(UINT codePage, std::string_view bytes, std::wstring& text) {
     const int size = static_cast<int>(bytes.size());
     text.resize(::MultiByteToWideChar(codePage, MB_ERR_INVALID_CHARS, bytes.data(), size, nullptr, 0));
-    return size == 0 || ::MultiByteToWideChar(codePage, MB_ERR_INVALID_CHARS, bytes.data(), size, &text[0],
+    return size == 0 || ::MultiByteToWideChar(codePage, MB_ERR_INVALID_CHARS, bytes.data(), size, text.data(),
                                               static_cast<int>(text.size())) > 0;
 }
 

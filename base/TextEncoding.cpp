@@ -39,7 +39,8 @@ bool HasShortSequencesOnly(std::string_view bytes) {
 /// Whether the bytes beyond ASCII come in pairs as code page 936 has its Chinese characters, most of them
 /// common ones (lead bytes B0 to D7).
 bool LooksLikeCodePage936(std::string_view bytes) {
-    size_t pairs = 0, common = 0;
+    size_t pairs = 0;
+    size_t common = 0;
     for (size_t i = 0; i < bytes.size(); ++i) {
         if (Byte(bytes[i]) < 0x80) continue;
         const unsigned char lead = Byte(bytes[i]);
@@ -56,7 +57,8 @@ bool LooksLikeCodePage936(std::string_view bytes) {
 TextEncoding EncodingOf(std::string_view bytes, UINT systemCodePage) {
     if (StartsWith(bytes, kUtf16Mark)) return TextEncoding::Utf16;
     if (StartsWith(bytes, kUtf8Mark)) return TextEncoding::Utf8Mark;
-    if (StartsWith(bytes, kUtf16OtherMark) || bytes.find('\0') != bytes.npos) return TextEncoding::Other;
+    if (StartsWith(bytes, kUtf16OtherMark) || bytes.find('\0') != std::string_view::npos)
+        return TextEncoding::Other;
     if (std::all_of(bytes.begin(), bytes.end(), [](char c) { return Byte(c) < 0x80; }))
         return TextEncoding::Ascii;
     const bool isSystems = IsValidIn(systemCodePage, bytes);
@@ -78,7 +80,7 @@ bool DecodeFile(std::string_view bytes, std::wstring& text) {
     case TextEncoding::Utf16:
         bytes.remove_prefix(kUtf16Mark.size());
         text.resize(bytes.size() / sizeof(wchar_t));
-        std::copy_n(bytes.data(), text.size() * sizeof(wchar_t), reinterpret_cast<char*>(&text[0]));
+        std::copy_n(bytes.data(), text.size() * sizeof(wchar_t), reinterpret_cast<char*>(text.data()));
         return bytes.size() % sizeof(wchar_t) == 0;
     case TextEncoding::Utf8Mark:
         return FromUtf8(bytes.substr(kUtf8Mark.size()), text);

@@ -25,7 +25,8 @@ bool IsOwned(const WIN32_FIND_DATAW& file) {
     unsigned long process = 0;
     if (swscanf(file.cFileName, L"~varnoke-%lx-", &process) != 1) return true;
     const KernelHandle owner(::OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION | SYNCHRONIZE, FALSE, process));
-    FILETIME began = {}, ignored;
+    FILETIME began = {};
+    FILETIME ignored = {};
     return owner && ::WaitForSingleObject(owner.get(), 0) == WAIT_TIMEOUT &&
            ::GetProcessTimes(owner.get(), &began, &ignored, &ignored, &ignored) &&
            ::CompareFileTime(&began, &file.ftLastWriteTime) <= 0;
@@ -70,7 +71,7 @@ ReadResult ReadWholeFile(TextRef path, std::string& bytes, LONGLONG sizeLimit) {
     if (size > sizeLimit) return ReadResult::TooLarge;
     bytes.resize(static_cast<size_t>(size));
     DWORD read = 0;
-    if (::ReadFile(file.get(), &bytes[0], static_cast<DWORD>(size), &read, nullptr) && read == size)
+    if (::ReadFile(file.get(), bytes.data(), static_cast<DWORD>(size), &read, nullptr) && read == size)
         return ReadResult::Done;
     bytes.clear();
     return ReadResult::Unreadable;

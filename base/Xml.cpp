@@ -56,7 +56,7 @@ std::string BytesOf(IStream* stream) {
     CheckError(stream->Seek({}, STREAM_SEEK_SET, nullptr));
     std::string bytes(static_cast<size_t>(status.cbSize.QuadPart), '\0');
     ULONG read = 0;
-    CheckError(stream->Read(&bytes[0], static_cast<ULONG>(bytes.size()), &read));
+    CheckError(stream->Read(bytes.data(), static_cast<ULONG>(bytes.size()), &read));
     bytes.resize(read);
     return bytes;
 }

@@ -40,7 +40,7 @@ template <class Fill>
 std::wstring ProfileList(Fill fill) {
     for (DWORD size = 1024;; size *= 2) {
         std::wstring list(size, L'\0');
-        const DWORD length = fill(&list[0], size);
+        const DWORD length = fill(list.data(), size);
         if (length + 2 >= size) continue;
         list.resize(length);
         return list;
@@ -79,7 +79,7 @@ bool PutIn(TextRef file, TextRef section, TextRef key, TextRef value) {
     ::WritePrivateProfileStringW(nullptr, nullptr, nullptr, file); // their cache, where they have one
     std::wstring stored(wcslen(value) + 2, L'\0');
     stored.resize(
-        ::GetPrivateProfileStringW(section, key, L"", &stored[0], static_cast<DWORD>(stored.size()), file));
+        ::GetPrivateProfileStringW(section, key, L"", stored.data(), static_cast<DWORD>(stored.size()), file));
     return Bare(stored) == Bare(std::wstring(value)) && OtherSettings(file, section, key) == others;
 }
 

@@ -42,14 +42,16 @@ using Address = std::unique_ptr<ADDRINFOW, AddressFreer>;
 constexpr int kNoAnswer = WSAETIMEDOUT;
 
 /// 0 when connected, else the error; kNoAnswer after the time.
-int Connect(const ADDRINFOW& address, int seconds) {
+int Connect(const ADDRINFOW& address,
+            int seconds) { // NOLINT(readability-function-cognitive-complexity): the set macros
     const Socket made(::socket(address.ai_family, address.ai_socktype, address.ai_protocol));
     if (made == INVALID_SOCKET) return ::WSAGetLastError();
     u_long nonBlocking = 1;
     ::ioctlsocket(made, FIONBIO, &nonBlocking);
     if (::connect(made, address.ai_addr, static_cast<int>(address.ai_addrlen)) == 0) return 0;
     if (::WSAGetLastError() != WSAEWOULDBLOCK) return ::WSAGetLastError();
-    fd_set connected, failed;
+    fd_set connected;
+    fd_set failed;
     FD_ZERO(&connected);
     FD_ZERO(&failed);
     FD_SET(made, &connected);
