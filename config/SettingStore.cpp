@@ -78,8 +78,8 @@ bool PutIn(TextRef file, TextRef section, TextRef key, TextRef value) {
     if (!::WritePrivateProfileStringW(section, key, value, file)) return false;
     ::WritePrivateProfileStringW(nullptr, nullptr, nullptr, file); // their cache, where they have one
     std::wstring stored(wcslen(value) + 2, L'\0');
-    stored.resize(
-        ::GetPrivateProfileStringW(section, key, L"", stored.data(), static_cast<DWORD>(stored.size()), file));
+    stored.resize(::GetPrivateProfileStringW(section, key, L"", stored.data(),
+                                             static_cast<DWORD>(stored.size()), file));
     return Bare(stored) == Bare(std::wstring(value)) && OtherSettings(file, section, key) == others;
 }
 
