@@ -104,11 +104,13 @@ no_window 0 "in a silent installation"
 expect 0 msi /i "$work/old/varnoke-1.0.0.msi"
 wine 'C:\Program Files\Varnoke\varnoke-host.exe' option >/dev/null 2>&1 &
 user=$!
+# The main window shows before the dialog.
+dialog() { xwininfo -display "$VARNOKE_DISPLAY" -root -tree | grep -q '"选项"'; }
 for _ in $(seq 100); do
-    [ "$(windows)" = 0 ] || break
+    ! dialog || break
     sleep 0.1
 done
-[ "$(windows)" != 0 ] || fail "no window of the program that was to hold the library, or none is noticed"
+dialog && sleep 0.5 && [ "$(windows)" != 0 ] || fail "no window of the program that was to hold the library, or none is noticed"
 shown=$(windows)
 expect 194 msi /i "$work/new/varnoke-1.1.0.msi"
 no_window "$shown" "while files were in use"
