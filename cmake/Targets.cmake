@@ -1,5 +1,6 @@
 # How this project's DLLs, programs, import libraries and tests are put together.
 option(VARNOKE_REAL_MFC "Build against Visual C++'s MFC instead of mfc/" OFF)
+option(VARNOKE_MFC_DLL "Link with mfc140u.dll instead of the code in mfc/ (Microsoft-ABI build)" OFF)
 
 # Settings common to all code of our own.
 add_library(varnoke_common INTERFACE)
@@ -10,7 +11,9 @@ if(MSVC)
     # The replacements that it asks for exist in no other C library.
     target_compile_definitions(varnoke_common INTERFACE _CRT_SECURE_NO_WARNINGS)
 else()
-    target_compile_options(varnoke_common INTERFACE -Wall -Wextra -Werror)
+    # MFC's classes hide virtual functions, and its message maps hold handlers of every signature as one type.
+    target_compile_options(varnoke_common INTERFACE -Wall -Wextra -Werror -Wno-overloaded-virtual
+        $<$<CXX_COMPILER_ID:GNU>:-Wno-cast-function-type>)
 endif()
 set(VARNOKE_SYSTEM_LIBS user32 gdi32 ole32 oleaut32 uuid advapi32 shell32 comctl32 comdlg32)
 
@@ -18,6 +21,9 @@ function(varnoke_compile_settings name)
     target_link_libraries(${name} PRIVATE varnoke_common)
     if(VARNOKE_REAL_MFC)
         target_compile_definitions(${name} PRIVATE _AFXDLL)
+    endif()
+    if(VARNOKE_MFC_DLL)
+        target_compile_definitions(${name} PRIVATE VARNOKE_MFC_DLL)
     endif()
 endfunction()
 
@@ -75,6 +81,9 @@ function(varnoke_exe name)
     target_link_libraries(${name} PRIVATE ${arg_LIBS} ${VARNOKE_SYSTEM_LIBS})
     if(VARNOKE_MSABI)
         target_link_libraries(${name} PRIVATE abi_start_exe abi_runtime)
+        if(VARNOKE_MFC_DLL)
+            target_link_libraries(${name} PRIVATE mfc_exe)
+        endif()
     elseif(MINGW)
         target_link_options(${name} PRIVATE -municode)
     endif()

@@ -7,7 +7,11 @@
 
 class CArchive;
 class CDumpContext;
+class CFileException;
 class CObject;
+namespace ATL {
+class CAtlTransactionManager;
+}
 
 struct __POSITION {};
 typedef __POSITION* POSITION;
@@ -28,9 +32,10 @@ class CObject {
 public:
     virtual CRuntimeClass* GetRuntimeClass() const;
     virtual ~CObject() = default;
-    virtual void Serialize(CArchive& ar);
-    virtual void AssertValid() const;
-    virtual void Dump(CDumpContext& dc) const;
+    // Archives and dumps are no part of this framework; the functions hold their places.
+    virtual void Serialize(CArchive&) {}
+    virtual void AssertValid() const {}
+    virtual void Dump(CDumpContext&) const {}
 
     static const CRuntimeClass classCObject;
     static CRuntimeClass* __stdcall GetThisClass();
@@ -70,35 +75,46 @@ public:                                                                         
 class CException : public CObject {
     DECLARE_DYNAMIC(CException)
 public:
-    CException() : CException(TRUE) {}
-    explicit CException(BOOL bAutoDelete) : m_bAutoDelete(bAutoDelete) {}
+    CException();
+    explicit CException(BOOL bAutoDelete);
     void Delete();
+
+    /// The error's text for the user, cut to nMaxError characters; FALSE when there is none.
+    virtual BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr) const;
+    virtual BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr);
+    virtual int ReportError(UINT nType = MB_OK, UINT nMessageID = 0);
 
 protected:
     BOOL m_bAutoDelete;
 };
 
-class CMemoryException : public CException {
+/// An exception whose text is a string resource.
+class CSimpleException : public CException {
+    DECLARE_DYNAMIC(CSimpleException)
+public:
+    CSimpleException() = default;
+    explicit CSimpleException(BOOL bAutoDelete) : CException(bAutoDelete) {}
+
+    virtual BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError,
+                                 PUINT pnHelpContext = nullptr) const override;
+
+protected:
+    BOOL m_bInitialized = FALSE;
+    BOOL m_bLoaded = FALSE;
+    TCHAR m_szMessage[128] = {};
+    UINT m_nResourceID = 0;
+};
+
+class CMemoryException : public CSimpleException {
     DECLARE_DYNAMIC(CMemoryException)
 public:
-    using CException::CException;
+    using CSimpleException::CSimpleException;
 };
 
-class CInvalidArgException : public CException {
+class CInvalidArgException : public CSimpleException {
     DECLARE_DYNAMIC(CInvalidArgException)
 public:
-    using CException::CException;
+    using CSimpleException::CSimpleException;
 };
 
-/// What CFile::GetStatus reports.
-struct CFileStatus {
-    CTime m_mtime; // last modification
-};
-
-class CFile : public CObject {
-    DECLARE_DYNAMIC(CFile)
-public:
-    /// FALSE when the file does not exist, cannot be asked, or has a full path of _MAX_PATH characters or
-    /// more.
-    static BOOL __stdcall GetStatus(LPCTSTR lpszFileName, CFileStatus& rStatus);
-};
+#include <afxfile_.h>

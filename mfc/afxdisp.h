@@ -7,7 +7,10 @@
 class COleException : public CException {
     DECLARE_DYNAMIC(COleException)
 public:
-    COleException();
+    COleException() : m_sc(S_OK) {}
+    virtual BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError,
+                                 PUINT pnHelpContext = nullptr) const override;
+
     SCODE m_sc;
 };
 
@@ -18,6 +21,9 @@ class COleDispatchException : public CException {
     DECLARE_DYNAMIC(COleDispatchException)
 public:
     COleDispatchException(LPCTSTR lpszDescription, UINT nHelpID, WORD wCode);
+    virtual ~COleDispatchException();
+    virtual BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError,
+                                 PUINT pnHelpContext = nullptr) const override;
 
     WORD m_wCode;
     CString m_strDescription;

@@ -8,49 +8,20 @@
 
 #define CN_COMMAND 0
 
-template <class TMember>
-struct AfxHandlerSignature;
-template <class TClass, class TResult, class... TArgs>
-struct AfxHandlerSignature<TResult (TClass::*)(TArgs...)> {
-    typedef TResult Type(TArgs...);
+// Handlers' signatures, with the numbers that MFC gives them: result, then w(param), l(param), i(nt) or
+// s(tructure).
+enum AfxSig {
+    AfxSig_end = 0,
+    AfxSig_l_w_l = 14,
+    AfxSig_v_v_v = 19,
+    AfxSig_v_w_v = 21,
+    AfxSig_v_i_s = 47,
+    AfxSigCmd_v = 58,
 };
 
-template <class TTarget, auto Handler, class TSignature>
-TTarget* AfxHandlerTarget(CCmdTarget* pTarget) {
-    static_assert(std::is_same_v<typename AfxHandlerSignature<decltype(Handler)>::Type, TSignature>,
-                  "the handler's signature does not fit its message-map macro");
-    return static_cast<TTarget*>(pTarget);
-}
-
-template <class TTarget, auto Handler>
-void AfxCallPlain(CCmdTarget* pTarget, AFX_MSGCALL&) {
-    (AfxHandlerTarget<TTarget, Handler, void()>(pTarget)->*Handler)();
-}
-
-template <class TTarget, auto Handler>
-void AfxCallMessage(CCmdTarget* pTarget, AFX_MSGCALL& call) {
-    call.lResult = (AfxHandlerTarget<TTarget, Handler, LRESULT(WPARAM, LPARAM)>(pTarget)->*Handler)(
-        call.wParam, call.lParam);
-}
-
-template <class TTarget, auto Handler>
-void AfxCallTimer(CCmdTarget* pTarget, AFX_MSGCALL& call) {
-    (AfxHandlerTarget<TTarget, Handler, void(UINT_PTR)>(pTarget)->*Handler)(call.wParam);
-}
-
-template <class TTarget, auto Handler>
-void AfxCallDrawItem(CCmdTarget* pTarget, AFX_MSGCALL& call) {
-    call.lResult = TRUE;
-    (AfxHandlerTarget<TTarget, Handler, void(int, LPDRAWITEMSTRUCT)>(pTarget)->*Handler)(
-        static_cast<int>(call.wParam), reinterpret_cast<LPDRAWITEMSTRUCT>(call.lParam));
-}
-
-template <class TTarget, auto Handler>
-void AfxCallMeasureItem(CCmdTarget* pTarget, AFX_MSGCALL& call) {
-    call.lResult = TRUE;
-    (AfxHandlerTarget<TTarget, Handler, void(int, LPMEASUREITEMSTRUCT)>(pTarget)->*Handler)(
-        static_cast<int>(call.wParam), reinterpret_cast<LPMEASUREITEMSTRUCT>(call.lParam));
-}
+// The handler must have exactly that signature.
+#define AFX_MESSAGE(message, sig, signature, memberFxn)                                                      \
+    {message, 0, 0, 0, sig, reinterpret_cast<AFX_PMSG>(static_cast<signature>(memberFxn))},
 
 #define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                               \
     const AFX_MSGMAP* theClass::GetMessageMap() const {                                                      \
@@ -62,7 +33,7 @@ void AfxCallMeasureItem(CCmdTarget* pTarget, AFX_MSGCALL& call) {
         static const AFX_MSGMAP_ENTRY _messageEntries[] = {
 
 #define END_MESSAGE_MAP()                                                                                    \
-    { 0, 0, 0, 0, nullptr }                                                                                  \
+    { 0, 0, 0, 0, AfxSig_end, nullptr }                                                                      \
     }                                                                                                        \
     ;                                                                                                        \
     static const AFX_MSGMAP messageMap = {&TheBaseClass::GetThisMessageMap, &_messageEntries[0]};            \
@@ -70,19 +41,22 @@ void AfxCallMeasureItem(CCmdTarget* pTarget, AFX_MSGCALL& call) {
     }
 
 #define ON_COMMAND(id, memberFxn)                                                                            \
-    {WM_COMMAND, CN_COMMAND, (WORD)id, (WORD)id, &AfxCallPlain<ThisClass, memberFxn>},
+    {WM_COMMAND, CN_COMMAND, (WORD)id, (WORD)id, AfxSigCmd_v, static_cast<AFX_PMSG>(memberFxn)},
 #define ON_CONTROL(wNotifyCode, id, memberFxn)                                                               \
-    {WM_COMMAND, (WORD)wNotifyCode, (WORD)id, (WORD)id, &AfxCallPlain<ThisClass, memberFxn>},
+    {WM_COMMAND, (WORD)wNotifyCode, (WORD)id, (WORD)id, AfxSigCmd_v, static_cast<AFX_PMSG>(memberFxn)},
 #define ON_CONTROL_REFLECT(wNotifyCode, memberFxn)                                                           \
-    {WM_REFLECT_BASE + WM_COMMAND, (WORD)wNotifyCode, 0, 0, &AfxCallPlain<ThisClass, memberFxn>},
-#define ON_MESSAGE(message, memberFxn) {message, 0, 0, 0, &AfxCallMessage<ThisClass, memberFxn>},
+    {WM_COMMAND + WM_REFLECT_BASE, (WORD)wNotifyCode, 0, 0, AfxSigCmd_v, static_cast<AFX_PMSG>(memberFxn)},
+#define ON_MESSAGE(message, memberFxn)                                                                       \
+    AFX_MESSAGE(message, AfxSig_l_w_l, LRESULT (CWnd::*)(WPARAM, LPARAM), memberFxn)
 
-#define ON_WM_DESTROY() {WM_DESTROY, 0, 0, 0, &AfxCallPlain<ThisClass, &ThisClass::OnDestroy>},
-#define ON_WM_NCDESTROY() {WM_NCDESTROY, 0, 0, 0, &AfxCallPlain<ThisClass, &ThisClass::OnNcDestroy>},
-#define ON_WM_PAINT() {WM_PAINT, 0, 0, 0, &AfxCallPlain<ThisClass, &ThisClass::OnPaint>},
-#define ON_WM_TIMER() {WM_TIMER, 0, 0, 0, &AfxCallTimer<ThisClass, &ThisClass::OnTimer>},
-#define ON_WM_DRAWITEM() {WM_DRAWITEM, 0, 0, 0, &AfxCallDrawItem<ThisClass, &ThisClass::OnDrawItem>},
+#define ON_WM_DESTROY() AFX_MESSAGE(WM_DESTROY, AfxSig_v_v_v, void (CWnd::*)(), &ThisClass::OnDestroy)
+#define ON_WM_NCDESTROY() AFX_MESSAGE(WM_NCDESTROY, AfxSig_v_v_v, void (CWnd::*)(), &ThisClass::OnNcDestroy)
+#define ON_WM_PAINT() AFX_MESSAGE(WM_PAINT, AfxSig_v_v_v, void (CWnd::*)(), &ThisClass::OnPaint)
+#define ON_WM_TIMER() AFX_MESSAGE(WM_TIMER, AfxSig_v_w_v, void (CWnd::*)(UINT_PTR), &ThisClass::OnTimer)
+#define ON_WM_DRAWITEM()                                                                                     \
+    AFX_MESSAGE(WM_DRAWITEM, AfxSig_v_i_s, void (CWnd::*)(int, LPDRAWITEMSTRUCT), &ThisClass::OnDrawItem)
 #define ON_WM_MEASUREITEM()                                                                                  \
-    {WM_MEASUREITEM, 0, 0, 0, &AfxCallMeasureItem<ThisClass, &ThisClass::OnMeasureItem>},
+    AFX_MESSAGE(WM_MEASUREITEM, AfxSig_v_i_s, void (CWnd::*)(int, LPMEASUREITEMSTRUCT),                      \
+                &ThisClass::OnMeasureItem)
 
 #define ON_BN_CLICKED(id, memberFxn) ON_CONTROL(BN_CLICKED, id, memberFxn)

@@ -1,10 +1,10 @@
 // CString: the framework's wide string over its own buffer manager.
 #pragma once
+#include <afxstat_.h>
 #include <cstringt.h>
 
 /// The buffer manager of this module; its buffers come from the C heap.
 ATL::IAtlStringMgr* AFXAPI AfxGetStringManager();
-HINSTANCE AFXAPI AfxGetResourceHandle();
 
 template <typename CharType = char, class StringIterator = ATL::ChTraitsCRT<CharType>>
 class StrTraitMFC_DLL : public StringIterator {

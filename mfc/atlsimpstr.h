@@ -88,14 +88,17 @@ public:
     static int __cdecl StringLength(PCXSTR psz);
 
 protected:
-    void SetLength(int nLength);
+    /// Makes strResult, an empty string, the two texts in a row.
+    static void __cdecl Concatenate(CSimpleStringT& strResult, PCXSTR psz1, int nLength1, PCXSTR psz2,
+                                    int nLength2);
 
 private:
+    void SetLength(int nLength);
     CStringData* GetData() const noexcept { return reinterpret_cast<CStringData*>(m_pszData) - 1; }
     void Attach(CStringData* pData) noexcept { m_pszData = static_cast<PXSTR>(pData->data()); }
-    void PrepareWrite(int nLength);
+    PXSTR PrepareWrite(int nLength);
     void Fork(int nLength);
-    void Grow(int nLength);
+    void Reallocate(int nLength);
     static CStringData* CloneData(CStringData* pData);
 
     PXSTR m_pszData;

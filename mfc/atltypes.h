@@ -1,4 +1,4 @@
-// CPoint and CRect over the system's POINT and RECT.
+// CPoint, CSize and CRect over the system's POINT, SIZE and RECT.
 #pragma once
 
 #include <windows.h>
@@ -8,6 +8,13 @@ public:
     CPoint(int initX, int initY) noexcept : tagPOINT{initX, initY} {}
 
     BOOL operator==(POINT point) const noexcept { return x == point.x && y == point.y; }
+};
+
+class CSize : public tagSIZE {
+public:
+    CSize(int initCX, int initCY) noexcept : tagSIZE{initCX, initCY} {}
+    explicit CSize(LONG dwSize) noexcept
+        : tagSIZE{static_cast<short>(LOWORD(dwSize)), static_cast<short>(HIWORD(dwSize))} {}
 };
 
 class CRect : public tagRECT {

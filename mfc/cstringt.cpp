@@ -22,22 +22,14 @@ CStringT<B, T>::CStringT(XCHAR ch, int nRepeat) : CStringT() {
 }
 
 template <typename B, typename T>
-CStringT<B, T> CStringT<B, T>::Concatenate(PCXSTR psz1, int nLength1, PCXSTR psz2, int nLength2,
-                                           const CStringT& strOwner) {
-    CStringT strSum(psz1, nLength1, strOwner.GetManager());
-    strSum.Append(psz2, nLength2);
-    return strSum;
-}
-
-template <typename B, typename T>
 int CStringT<B, T>::Compare(PCXSTR psz) const {
-    ENSURE(psz != nullptr);
+    ATLENSURE(psz != nullptr);
     return wcscmp(GetString(), psz);
 }
 
 template <typename B, typename T>
 int CStringT<B, T>::CompareNoCase(PCXSTR psz) const {
-    ENSURE(psz != nullptr);
+    ATLENSURE(psz != nullptr);
     return _wcsicmp(GetString(), psz);
 }
 
@@ -57,7 +49,7 @@ int CStringT<B, T>::Find(XCHAR ch, int iStart) const {
 
 template <typename B, typename T>
 int CStringT<B, T>::FindOneOf(PCXSTR pszCharSet) const {
-    ENSURE(pszCharSet != nullptr);
+    ATLENSURE(pszCharSet != nullptr);
     PCXSTR pszFound = wcspbrk(GetString(), pszCharSet);
     return pszFound == nullptr ? -1 : static_cast<int>(pszFound - GetString());
 }
@@ -162,12 +154,12 @@ void CStringT<B, T>::FormatV(PCXSTR pszFormat, va_list args) {
 
 template <typename B, typename T>
 void CStringT<B, T>::AppendFormatV(PCXSTR pszFormat, va_list args) {
-    ENSURE(pszFormat != nullptr);
+    ATLENSURE(pszFormat != nullptr);
     va_list argsForLength;
     va_copy(argsForLength, args);
     const int nAdded = T::GetFormattedLength(pszFormat, argsForLength);
     va_end(argsForLength);
-    ENSURE(nAdded >= 0);
+    ATLENSURE(nAdded >= 0);
     CStringT strAdded(GetManager());
     PXSTR pszBuffer = strAdded.GetBuffer(nAdded);
     T::Format(pszBuffer, static_cast<size_t>(nAdded) + 1, pszFormat, args);
@@ -189,6 +181,11 @@ void CStringT<B, T>::AppendFormat(PCXSTR pszFormat, ...) {
     va_start(args, pszFormat);
     AppendFormatV(pszFormat, args);
     va_end(args);
+}
+
+template <typename B, typename T>
+BOOL CStringT<B, T>::LoadString(UINT nID) {
+    return LoadString(T::FindStringResourceInstance(nID), nID);
 }
 
 template <typename B, typename T>

@@ -75,35 +75,37 @@ public:
 
     CStringT& MakeUpper();
 
-    /// printf rules with %s for wide text; arguments may point into this string. A bad format throws.
+    /// printf rules with %s for wide text; arguments must not point into this string. A bad format throws.
     void AFX_CDECL Format(PCXSTR pszFormat, ...);
     void FormatV(PCXSTR pszFormat, va_list args);
     void AFX_CDECL AppendFormat(PCXSTR pszFormat, ...);
     void AppendFormatV(PCXSTR pszFormat, va_list args);
 
     /// FALSE, with the string unchanged, when the module's resources have no such string.
-    BOOL LoadString(UINT nID) { return LoadString(StringTraits::FindStringResourceInstance(nID), nID); }
+    BOOL LoadString(UINT nID);
     BOOL LoadString(HINSTANCE hInstance, UINT nID);
 
     // A sum takes the manager of the string that stands first.
     friend CStringT operator+(const CStringT& str1, const CStringT& str2) {
-        return Concatenate(str1, str1.GetLength(), str2, str2.GetLength(), str1);
+        CStringT strSum(str1.GetManager());
+        CStringT::Concatenate(strSum, str1, str1.GetLength(), str2, str2.GetLength());
+        return strSum;
     }
     friend CStringT operator+(const CStringT& str1, PCXSTR psz2) {
-        return Concatenate(str1, str1.GetLength(), psz2, StringLength(psz2), str1);
+        CStringT strSum(str1.GetManager());
+        CStringT::Concatenate(strSum, str1, str1.GetLength(), psz2, StringLength(psz2));
+        return strSum;
     }
     friend CStringT operator+(PCXSTR psz1, const CStringT& str2) {
-        return Concatenate(psz1, StringLength(psz1), str2, str2.GetLength(), str2);
+        CStringT strSum(str2.GetManager());
+        CStringT::Concatenate(strSum, psz1, StringLength(psz1), str2, str2.GetLength());
+        return strSum;
     }
 
     friend bool operator==(const CStringT& str1, const CStringT& str2) { return str1.Compare(str2) == 0; }
     friend bool operator==(const CStringT& str1, PCXSTR psz2) { return str1.Compare(psz2) == 0; }
     friend bool operator!=(const CStringT& str1, const CStringT& str2) { return str1.Compare(str2) != 0; }
     friend bool operator!=(const CStringT& str1, PCXSTR psz2) { return str1.Compare(psz2) != 0; }
-
-private:
-    static CStringT Concatenate(PCXSTR psz1, int nLength1, PCXSTR psz2, int nLength2,
-                                const CStringT& strOwner);
 };
 
 } // namespace ATL

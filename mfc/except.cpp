@@ -12,14 +12,14 @@ CRuntimeClass* CObject::GetRuntimeClass() const {
     return GetThisClass();
 }
 
-// Archives and dumps are no part of this framework; the functions hold their places among the virtual ones.
-void CObject::Serialize(CArchive&) {}
-void CObject::AssertValid() const {}
-void CObject::Dump(CDumpContext&) const {}
-
 IMPLEMENT_DYNAMIC(CException, CObject)
-IMPLEMENT_DYNAMIC(CMemoryException, CException)
-IMPLEMENT_DYNAMIC(CInvalidArgException, CException)
+IMPLEMENT_DYNAMIC(CSimpleException, CException)
+IMPLEMENT_DYNAMIC(CMemoryException, CSimpleException)
+IMPLEMENT_DYNAMIC(CInvalidArgException, CSimpleException)
+
+CException::CException() : m_bAutoDelete(TRUE) {}
+
+CException::CException(BOOL bAutoDelete) : m_bAutoDelete(bAutoDelete) {}
 
 void CException::Delete() {
     if (m_bAutoDelete) delete this;

@@ -1,5 +1,6 @@
 // Compile-time checks of the layouts that a host built with Visual C++ relies on.
 #include <afxcoll.h>
+#include <afxtempl.h>
 
 // Every compiler in use gives offsetof its plain meaning for these classes, though the language leaves it
 // open.

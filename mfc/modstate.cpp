@@ -14,8 +14,20 @@ thread_local AFX_MODULE_STATE* t_pModuleState = nullptr;
 
 } // namespace
 
+AFX_MODULE_STATE::AFX_MODULE_STATE(BOOL bDLL, WNDPROC pfnAfxWndProc, DWORD dwVersion, BOOL bSystem)
+    : m_pCurrentWinApp(nullptr), m_hCurrentInstanceHandle(nullptr), m_hCurrentResourceHandle(nullptr),
+      m_lpszCurrentAppName(nullptr), m_bDLL(static_cast<BYTE>(bDLL)), m_bSystem(static_cast<BYTE>(bSystem)),
+      m_pfnAfxWndProc(pfnAfxWndProc), m_dwVersion(dwVersion) {}
+
+AFX_MODULE_STATE::~AFX_MODULE_STATE() = default;
+
 AFX_MODULE_STATE* AFXAPI AfxGetStaticModuleState() {
-    static AFX_MODULE_STATE state = {nullptr, ThisModule(), ThisModule()};
+    struct CThisModuleState : AFX_MODULE_STATE {
+        CThisModuleState() : AFX_MODULE_STATE(TRUE, nullptr, _MFC_VER) {
+            m_hCurrentInstanceHandle = m_hCurrentResourceHandle = ThisModule();
+        }
+    };
+    static CThisModuleState state;
     return &state;
 }
 
@@ -29,10 +41,9 @@ AFX_MODULE_STATE* AFXAPI AfxSetModuleState(AFX_MODULE_STATE* pNewState) noexcept
     return pPrevious;
 }
 
-HINSTANCE AFXAPI AfxGetInstanceHandle() {
-    return AfxGetModuleState()->m_hCurrentInstanceHandle;
-}
+AFX_MAINTAIN_STATE2::AFX_MAINTAIN_STATE2(AFX_MODULE_STATE* pModuleState) noexcept
+    : m_pPrevModuleState(AfxSetModuleState(pModuleState)), m_pThreadState(nullptr) {}
 
-HINSTANCE AFXAPI AfxGetResourceHandle() {
-    return AfxGetModuleState()->m_hCurrentResourceHandle;
+AFX_MAINTAIN_STATE2::~AFX_MAINTAIN_STATE2() {
+    AfxSetModuleState(m_pPrevModuleState);
 }

@@ -26,7 +26,7 @@ CSimpleStringT<B, M>::CSimpleStringT(IAtlStringMgr* pStringMgr) {
 
 template <typename B, bool M>
 CSimpleStringT<B, M>::CSimpleStringT(PCXSTR pchSrc, int nLength, IAtlStringMgr* pStringMgr) {
-    ENSURE(nLength >= 0 && (pchSrc != nullptr || nLength == 0));
+    ATLENSURE(nLength >= 0 && (pchSrc != nullptr || nLength == 0));
     if (nLength == 0) {
         Attach(pStringMgr->GetNilString());
         return;
@@ -86,13 +86,13 @@ CSimpleStringT<B, M>& CSimpleStringT<B, M>::operator=(CSimpleStringT&& strSrc) {
 
 template <typename B, bool M>
 B CSimpleStringT<B, M>::operator[](int iChar) const {
-    ENSURE(iChar >= 0 && iChar <= GetLength());
+    ATLENSURE(iChar >= 0 && iChar <= GetLength());
     return m_pszData[iChar];
 }
 
 template <typename B, bool M>
 void CSimpleStringT<B, M>::SetAt(int iChar, XCHAR ch) {
-    ENSURE(iChar >= 0 && iChar < GetLength());
+    ATLENSURE(iChar >= 0 && iChar < GetLength());
     PrepareWrite(GetLength());
     m_pszData[iChar] = ch;
 }
@@ -129,7 +129,7 @@ void CSimpleStringT<B, M>::SetString(PCXSTR pszSrc, int nLength) {
         Empty();
         return;
     }
-    ENSURE(pszSrc != nullptr && nLength > 0);
+    ATLENSURE(pszSrc != nullptr && nLength > 0);
     // The source may lie inside this very string, whose buffer can move when it is made writable.
     const UINT_PTR nOffset = pszSrc - m_pszData;
     const bool bInside = pszSrc >= m_pszData && nOffset <= static_cast<UINT_PTR>(GetLength());
@@ -146,7 +146,7 @@ void CSimpleStringT<B, M>::Append(PCXSTR pszSrc) {
 template <typename B, bool M>
 void CSimpleStringT<B, M>::Append(PCXSTR pszSrc, int nLength) {
     if (nLength == 0) return;
-    ENSURE(pszSrc != nullptr && nLength > 0);
+    ATLENSURE(pszSrc != nullptr && nLength > 0);
     const int nOldLength = GetLength();
     const int nNewLength = SumOrThrow(nOldLength, nLength);
     const UINT_PTR nOffset = pszSrc - m_pszData;
@@ -163,7 +163,7 @@ void CSimpleStringT<B, M>::Append(const CSimpleStringT& strSrc) {
 
 template <typename B, bool M>
 void CSimpleStringT<B, M>::Truncate(int nNewLength) {
-    ENSURE(nNewLength >= 0 && nNewLength <= GetLength());
+    ATLENSURE(nNewLength >= 0 && nNewLength <= GetLength());
     PrepareWrite(nNewLength);
     SetLength(nNewLength);
 }
@@ -176,7 +176,7 @@ B* CSimpleStringT<B, M>::GetBuffer() {
 
 template <typename B, bool M>
 B* CSimpleStringT<B, M>::GetBuffer(int nMinBufferLength) {
-    ENSURE(nMinBufferLength >= 0);
+    ATLENSURE(nMinBufferLength >= 0);
     PrepareWrite(nMinBufferLength);
     return m_pszData;
 }
@@ -198,7 +198,7 @@ void CSimpleStringT<B, M>::ReleaseBuffer(int nNewLength) {
 
 template <typename B, bool M>
 void CSimpleStringT<B, M>::SetLength(int nLength) {
-    ENSURE(nLength >= 0 && nLength <= GetAllocLength());
+    ATLENSURE(nLength >= 0 && nLength <= GetAllocLength());
     // Writing even an equal terminator into the shared nil buffer would be a race.
     if (nLength == 0 && GetAllocLength() == 0) return;
     GetData()->nDataLength = nLength;
@@ -206,12 +206,13 @@ void CSimpleStringT<B, M>::SetLength(int nLength) {
 }
 
 template <typename B, bool M>
-void CSimpleStringT<B, M>::PrepareWrite(int nLength) {
+B* CSimpleStringT<B, M>::PrepareWrite(int nLength) {
     const int nWanted = nLength > GetLength() ? nLength : GetLength();
     if (GetData()->IsShared())
         Fork(nWanted);
     else if (nWanted > GetAllocLength())
-        Grow(nWanted);
+        Reallocate(nWanted);
+    return m_pszData;
 }
 
 template <typename B, bool M>
@@ -225,7 +226,7 @@ void CSimpleStringT<B, M>::Fork(int nLength) {
 }
 
 template <typename B, bool M>
-void CSimpleStringT<B, M>::Grow(int nLength) {
+void CSimpleStringT<B, M>::Reallocate(int nLength) {
     // Half as much again, so that appending piece by piece stays linear.
     const int nRoomy = GetAllocLength() < INT_MAX / 2 ? GetAllocLength() + GetAllocLength() / 2 : nLength;
     CStringData* pOld = GetData();
@@ -233,6 +234,13 @@ void CSimpleStringT<B, M>::Grow(int nLength) {
         pOld->pStringMgr->Reallocate(pOld, nRoomy > nLength ? nRoomy : nLength, sizeof(XCHAR));
     if (pNew == nullptr) AfxThrowMemoryException();
     Attach(pNew);
+}
+
+template <typename B, bool M>
+void CSimpleStringT<B, M>::Concatenate(CSimpleStringT& strResult, PCXSTR psz1, int nLength1, PCXSTR psz2,
+                                       int nLength2) {
+    memcpy(strResult.GetBufferSetLength(SumOrThrow(nLength1, nLength2)), psz1, nLength1 * sizeof(XCHAR));
+    memcpy(strResult.m_pszData + nLength1, psz2, nLength2 * sizeof(XCHAR));
 }
 
 template <typename B, bool M>

@@ -21,7 +21,7 @@ BOOL WINAPI CTime::IsValidFILETIME(const FILETIME& fileTime) noexcept {
 }
 
 CTime::CTime(const FILETIME& fileTime, int) {
-    ENSURE(IsValidFILETIME(fileTime));
+    ATLENSURE(IsValidFILETIME(fileTime));
     m_time = static_cast<__time64_t>((TicksOf(fileTime) - EPOCH_AS_FILETIME) / TICKS_PER_SECOND);
 }
 

@@ -10,7 +10,7 @@ CCmdTarget::CCmdTarget()
 CCmdTarget::~CCmdTarget() = default;
 
 const AFX_MSGMAP* PASCAL CCmdTarget::GetThisMessageMap() {
-    static const AFX_MSGMAP_ENTRY entries[] = {{0, 0, 0, 0, nullptr}};
+    static const AFX_MSGMAP_ENTRY entries[] = {{0, 0, 0, 0, AfxSig_end, nullptr}};
     static const AFX_MSGMAP messageMap = {nullptr, entries};
     return &messageMap;
 }
@@ -22,7 +22,7 @@ const AFX_MSGMAP* CCmdTarget::GetMessageMap() const {
 const AFX_MSGMAP_ENTRY* CCmdTarget::FindMessageEntry(UINT nMessage, UINT nCode, UINT nID) const {
     for (const AFX_MSGMAP* pMap = GetMessageMap(); pMap != nullptr;
          pMap = pMap->pfnGetBaseMap != nullptr ? pMap->pfnGetBaseMap() : nullptr) {
-        for (const AFX_MSGMAP_ENTRY* pEntry = pMap->lpEntries; pEntry->pfn != nullptr; ++pEntry) {
+        for (const AFX_MSGMAP_ENTRY* pEntry = pMap->lpEntries; pEntry->nSig != AfxSig_end; ++pEntry) {
             if (pEntry->nMessage == nMessage && pEntry->nCode == nCode && pEntry->nID <= nID &&
                 nID <= pEntry->nLastID)
                 return pEntry;
@@ -31,12 +31,11 @@ const AFX_MSGMAP_ENTRY* CCmdTarget::FindMessageEntry(UINT nMessage, UINT nCode, 
     return nullptr;
 }
 
-BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void*, void*) {
+BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void*, AFX_CMDHANDLERINFO*) {
     // A reflected notification has the message it came with in the upper half.
     const UINT nMessage = HIWORD(nCode) != 0 ? HIWORD(nCode) : WM_COMMAND;
     const AFX_MSGMAP_ENTRY* pEntry = FindMessageEntry(nMessage, LOWORD(nCode), nID);
     if (pEntry == nullptr) return FALSE;
-    AFX_MSGCALL call = {0, 0, 0};
-    pEntry->pfn(this, call);
+    (this->*pEntry->pfn)();
     return TRUE;
 }

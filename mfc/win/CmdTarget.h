@@ -3,28 +3,31 @@
 
 #include <afx.h>
 
-#include <type_traits>
+#include <oaidl.h>
 
 #define afx_msg
 
-class CCmdTarget;
+class AFX_SINGLE_INHERITANCE CCmdTarget;
+class CPtrArray;
+class CTypeLibCache;
+struct AFX_CMDHANDLERINFO;
+struct AFX_CONNECTIONMAP;
+struct AFX_DISPMAP;
+struct AFX_EVENTSINKMAP;
+struct AFX_INTERFACEMAP;
+struct AFX_OLECMDMAP;
+struct IConnectionPoint;
 
-// A message or command on its way through the maps.
-struct AFX_MSGCALL {
-    WPARAM wParam;
-    LPARAM lParam;
-    LRESULT lResult;
-};
-
-// Calls one handler with the arguments it was declared with.
-typedef void (*AFX_PMSG)(CCmdTarget* pTarget, AFX_MSGCALL& call);
+// A handler, whatever its real signature; the entry says which it is.
+typedef void (CCmdTarget::*AFX_PMSG)();
 
 struct AFX_MSGMAP_ENTRY {
     UINT nMessage;
-    UINT nCode;   // control notification code, or the message for a reflected one
-    UINT nID;     // control id, 0 for window messages
-    UINT nLastID; // end of a range of ids
-    AFX_PMSG pfn; // null in the last entry
+    UINT nCode;    // control notification code, or the message for a reflected one
+    UINT nID;      // control id, 0 for window messages
+    UINT nLastID;  // end of a range of ids
+    UINT_PTR nSig; // AfxSig of the handler, AfxSig_end in the last entry
+    AFX_PMSG pfn;
 };
 
 struct AFX_MSGMAP {
@@ -37,7 +40,8 @@ protected:                                                                      
     static const AFX_MSGMAP* PASCAL GetThisMessageMap();                                                     \
     virtual const AFX_MSGMAP* GetMessageMap() const override;
 
-// Its fields keep the places that MFC gives them: derived classes and window pointers cross modules.
+// Fields and virtual functions keep the places that MFC gives them, used or not: derived classes and window
+// pointers cross modules.
 class CCmdTarget : public CObject {
     DECLARE_DYNAMIC(CCmdTarget)
 public:
@@ -45,7 +49,13 @@ public:
     virtual ~CCmdTarget();
 
     // Looks for a handler of a command or control notification; TRUE when one was called.
-    virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, void* pHandlerInfo);
+    virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo);
+    virtual void OnFinalRelease();
+    virtual BOOL IsInvokeAllowed(DISPID dispid);
+    virtual BOOL GetDispatchIID(IID* pIID);
+    virtual UINT GetTypeInfoCount();
+    virtual CTypeLibCache* GetTypeLibCache();
+    virtual HRESULT GetTypeLib(LCID lcid, LPTYPELIB* ppTypeLib);
 
     long m_dwRef;
     LPUNKNOWN m_pOuterUnknown;
@@ -62,12 +72,21 @@ public:
 protected:
     static const AFX_MSGMAP* PASCAL GetThisMessageMap();
     virtual const AFX_MSGMAP* GetMessageMap() const;
+    virtual const AFX_OLECMDMAP* GetCommandMap() const;
+    virtual const AFX_DISPMAP* GetDispatchMap() const;
+    virtual const AFX_CONNECTIONMAP* GetConnectionMap() const;
+    virtual const AFX_INTERFACEMAP* GetInterfaceMap() const;
+    virtual const AFX_EVENTSINKMAP* GetEventSinkMap() const;
+
+public:
+    virtual BOOL OnCreateAggregates();
+    virtual LPUNKNOWN GetInterfaceHook(const void* piid);
+
+protected:
+    virtual BOOL GetExtraConnectionPoints(CPtrArray* pConnPoints);
+    virtual IConnectionPoint* GetConnectionHook(const IID& iid);
 
     // The entry for a message, code and id in this object's maps, most derived first; null when there is
     // none.
     const AFX_MSGMAP_ENTRY* FindMessageEntry(UINT nMessage, UINT nCode, UINT nID) const;
 };
-
-#ifdef VARNOKE_MSABI
-static_assert(sizeof(CCmdTarget) == 0x40, "CCmdTarget has MFC's size");
-#endif

@@ -1,7 +1,20 @@
 // The system's colour picker.
 #include <afxdlgs.h>
 
-IMPLEMENT_DYNAMIC(CColorDialog, CDialog)
+IMPLEMENT_DYNAMIC(CCommonDialog, CDialog)
+IMPLEMENT_DYNAMIC(CColorDialog, CCommonDialog)
+
+BEGIN_MESSAGE_MAP(CCommonDialog, CDialog)
+END_MESSAGE_MAP()
+
+// The system's dialog ends itself.
+void CCommonDialog::OnOK() {
+    Default();
+}
+
+void CCommonDialog::OnCancel() {
+    Default();
+}
 
 namespace {
 
@@ -15,7 +28,7 @@ COLORREF g_customColors[16] = {
 } // namespace
 
 CColorDialog::CColorDialog(COLORREF clrInit, DWORD dwFlags, CWnd* pParentWnd)
-    : CDialog(0u, pParentWnd), m_cc{} {
+    : CCommonDialog(pParentWnd), m_cc{} {
     m_cc.lStructSize = sizeof(m_cc);
     m_cc.rgbResult = clrInit;
     m_cc.lpCustColors = g_customColors;
@@ -23,10 +36,10 @@ CColorDialog::CColorDialog(COLORREF clrInit, DWORD dwFlags, CWnd* pParentWnd)
 }
 
 INT_PTR CColorDialog::DoModal() {
-    m_cc.hwndOwner = FindOwner(m_pParentWnd->GetSafeHwnd());
+    m_cc.hwndOwner = GetSafeOwner_(m_pParentWnd->GetSafeHwnd(), nullptr);
     return ::ChooseColor(&m_cc) ? IDOK : IDCANCEL;
 }
 
-COLORREF CColorDialog::GetColor() const {
-    return m_cc.rgbResult;
+BOOL CColorDialog::OnColorOK() {
+    return FALSE;
 }

@@ -5,7 +5,7 @@ IMPLEMENT_DYNAMIC(CDC, CObject)
 IMPLEMENT_DYNAMIC(CPaintDC, CDC)
 IMPLEMENT_DYNAMIC(CClientDC, CDC)
 
-CDC::CDC() : m_hDC(nullptr) {}
+CDC::CDC() : m_hDC(nullptr), m_hAttribDC(nullptr), m_bPrinting(FALSE) {}
 
 CDC::~CDC() {
     if (m_hDC != nullptr) ::DeleteDC(m_hDC);
@@ -13,21 +13,21 @@ CDC::~CDC() {
 
 BOOL CDC::Attach(HDC hDC) {
     if (hDC == nullptr || m_hDC != nullptr) return FALSE;
-    m_hDC = hDC;
+    m_hDC = m_hAttribDC = hDC;
     return TRUE;
 }
 
 HDC CDC::Detach() {
     const HDC hDC = m_hDC;
-    m_hDC = nullptr;
+    m_hDC = m_hAttribDC = nullptr;
     return hDC;
 }
 
-int CDC::DrawText(const CString& str, LPRECT lpRect, UINT nFormat) {
-    return ::DrawText(m_hDC, str, str.GetLength(), lpRect, nFormat);
+int CDC::SetBkMode(int nBkMode) {
+    return ::SetBkMode(m_hDC, nBkMode);
 }
 
-CPaintDC::CPaintDC(CWnd* pWnd) : m_ps{}, m_hWnd(pWnd->m_hWnd) {
+CPaintDC::CPaintDC(CWnd* pWnd) : m_hWnd(pWnd->m_hWnd), m_ps{} {
     if (!Attach(::BeginPaint(m_hWnd, &m_ps))) AfxThrowResourceException();
 }
 

@@ -13,6 +13,18 @@ BEGIN_MESSAGE_MAP(CDialog, CWnd)
     ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
 END_MESSAGE_MAP()
 
+// What the framework keeps of a dialog while it runs.
+struct _AFX_OCC_DIALOG_INFO : CDialogTemplate {};
+
+BOOL CDialog::SetOccDialogInfo(_AFX_OCC_DIALOG_INFO* pOccDialogInfo) {
+    m_pOccDialogInfo = pOccDialogInfo;
+    return TRUE;
+}
+
+_AFX_OCC_DIALOG_INFO* CDialog::GetOccDialogInfo() {
+    return m_pOccDialogInfo;
+}
+
 namespace {
 
 // Takes no input from construction until Enable or the end of the scope.
@@ -42,15 +54,15 @@ void RegisterCommonControls() {
 } // namespace
 
 CDialog::CDialog(UINT nIDTemplate, CWnd* pParentWnd)
-    : m_lpszTemplateName(MAKEINTRESOURCE(nIDTemplate)), m_pParentWnd(pParentWnd), m_pTemplate(nullptr) {}
+    : m_nIDHelp(nIDTemplate), m_lpszTemplateName(MAKEINTRESOURCE(nIDTemplate)), m_hDialogTemplate(nullptr),
+      m_lpDialogTemplate(nullptr), m_lpDialogInit(nullptr), m_pParentWnd(pParentWnd), m_hWndTop(nullptr),
+      m_bClosedByEndDialog(FALSE), m_pOccDialogInfo(nullptr) {}
 
 CDialog::~CDialog() {
     if (m_hWnd != nullptr) CWnd::DestroyWindow();
 }
 
-// The owner as the system wants it: a top-level window; without a parent, the thread's window that the user
-// works in.
-HWND CDialog::FindOwner(HWND hWndParent) {
+HWND PASCAL CWnd::GetSafeOwner_(HWND hWndParent, HWND*) {
     HWND hWnd = hWndParent != nullptr ? hWndParent : ::GetActiveWindow();
     while (hWnd != nullptr && (::GetWindowLongPtr(hWnd, GWL_STYLE) & WS_CHILD))
         hWnd = ::GetParent(hWnd);
@@ -58,24 +70,24 @@ HWND CDialog::FindOwner(HWND hWndParent) {
 }
 
 INT_PTR CDialog::DoModal() {
-    CDialogTemplate dialogTemplate;
+    _AFX_OCC_DIALOG_INFO dialogTemplate;
     if (!dialogTemplate.Load(m_lpszTemplateName)) return -1;
     RegisterCommonControls();
     if (!dialogTemplate.OleControls().empty()) OleContainer::Prepare();
 
-    m_pTemplate = &dialogTemplate;
+    SetOccDialogInfo(&dialogTemplate);
     m_nModalResult = -1;
     m_nFlags |= WF_CONTINUEMODAL;
-    RunFromTemplate(FindOwner(m_pParentWnd->GetSafeHwnd()));
+    RunFromTemplate(dialogTemplate, GetSafeOwner_(m_pParentWnd->GetSafeHwnd(), nullptr));
     m_nFlags &= ~WF_CONTINUEMODAL;
-    m_pTemplate = nullptr;
+    SetOccDialogInfo(nullptr);
     return m_nModalResult;
 }
 
-void CDialog::RunFromTemplate(HWND hWndOwner) {
+void CDialog::RunFromTemplate(const CDialogTemplate& dialogTemplate, HWND hWndOwner) {
     CThreadWindows::Get().m_pCreating = this;
     CDisabledOwner owner(hWndOwner);
-    const HWND hWnd = ::CreateDialogIndirectParam(AfxGetResourceHandle(), m_pTemplate->Get(), hWndOwner,
+    const HWND hWnd = ::CreateDialogIndirectParam(AfxGetResourceHandle(), dialogTemplate.Get(), hWndOwner,
                                                   &CDialog::DialogProc, 0);
     CThreadWindows::TakeCreated();
     if (hWnd == nullptr) {
@@ -116,6 +128,7 @@ INT_PTR CALLBACK CDialog::DialogProc(HWND hWnd, UINT message, WPARAM wParam, LPA
 }
 
 LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {
+    PreInitDialog();
     CreateOleControls();
     CRect rectBefore, rectAfter;
     GetWindowRect(rectBefore);
@@ -129,12 +142,12 @@ LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {
 
 // A control that can't be made leaves its place empty.
 void CDialog::CreateOleControls() {
-    for (const CDialogTemplate::OleControl& control : m_pTemplate->OleControls())
+    for (const CDialogTemplate::OleControl& control : GetOccDialogInfo()->OleControls())
         OleContainer::CreateControl(::GetDlgItem(m_hWnd, control.nID), control.strClass);
 }
 
 BOOL CDialog::CheckAutoCenter() {
-    return m_pTemplate != nullptr && m_pTemplate->HasFreePlace();
+    return m_pOccDialogInfo != nullptr && m_pOccDialogInfo->HasFreePlace();
 }
 
 BOOL CDialog::OnInitDialog() {

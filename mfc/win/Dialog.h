@@ -26,34 +26,49 @@ public:
     explicit CDialog(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
     virtual ~CDialog();
 
+    // Modeless dialogs are not used; the functions hold their places.
+    virtual BOOL Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd = nullptr);
+    virtual BOOL Create(UINT nIDTemplate, CWnd* pParentWnd = nullptr) {
+        return Create(MAKEINTRESOURCE(nIDTemplate), pParentWnd);
+    }
+    virtual BOOL CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = nullptr,
+                                void* lpDialogInit = nullptr);
+    virtual BOOL CreateIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd = nullptr);
+
     // Runs the dialog with its owner disabled. Gives the result of EndDialog; -1 when the dialog could
     // not be made. EndDialog within OnInitDialog ends it before it is ever shown.
     virtual INT_PTR DoModal();
     void EndDialog(int nResult);
     virtual BOOL OnInitDialog(); // TRUE puts the focus on the first control
+    virtual void OnSetFont(CFont* pFont);
 
+    virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
     virtual BOOL PreTranslateMessage(MSG* pMsg) override;
     virtual BOOL CheckAutoCenter() override;
 
 protected:
+    virtual BOOL SetOccDialogInfo(_AFX_OCC_DIALOG_INFO* pOccDialogInfo) override;
+    virtual _AFX_OCC_DIALOG_INFO* GetOccDialogInfo() override;
     virtual void OnOK();
     virtual void OnCancel();
-    static HWND FindOwner(HWND hWndParent);
+    virtual void PreInitDialog();
 
+    UINT m_nIDHelp;
     LPCTSTR m_lpszTemplateName;
+    HGLOBAL m_hDialogTemplate;
+    LPCDLGTEMPLATE m_lpDialogTemplate;
+    void* m_lpDialogInit;
     CWnd* m_pParentWnd; // borrowed
+    HWND m_hWndTop;
+    BOOL m_bClosedByEndDialog;
+    _AFX_OCC_DIALOG_INFO* m_pOccDialogInfo; // borrowed; what the controls are made from while DoModal runs
+
+    LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
 
 private:
-    const CDialogTemplate* m_pTemplate; // borrowed; what the dialog is made from while DoModal runs
-
-    void RunFromTemplate(HWND hWndOwner);
+    void RunFromTemplate(const CDialogTemplate& dialogTemplate, HWND hWndOwner);
     void CreateOleControls();
-    LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
     static INT_PTR CALLBACK DialogProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()
 };
-
-#ifdef VARNOKE_MSABI
-static_assert(sizeof(CDialog) <= 0x130, "CDialog is not larger than MFC's");
-#endif

@@ -93,8 +93,6 @@ void CDialogTemplate::ReadHeader() {
                    m_pSource[nItems + 2] == 0;
     m_nItemCountAt = nItems;
     Copy(headerWords[m_bExtended]);
-    // The modal loop shows the dialog, unless it has ended by then.
-    m_words[nStyle + 1] &= static_cast<WORD>(~HIWORD(WS_VISIBLE));
     CopyTextOrOrdinal(); // menu
     CopyTextOrOrdinal(); // window class
     CopyText();          // title

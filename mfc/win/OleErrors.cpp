@@ -4,10 +4,10 @@
 IMPLEMENT_DYNAMIC(COleException, CException)
 IMPLEMENT_DYNAMIC(COleDispatchException, CException)
 
-COleException::COleException() : m_sc(S_OK) {}
-
 COleDispatchException::COleDispatchException(LPCTSTR lpszDescription, UINT nHelpID, WORD wCode)
     : m_wCode(wCode), m_strDescription(lpszDescription), m_dwHelpContext(nHelpID), m_scError(S_OK) {}
+
+COleDispatchException::~COleDispatchException() = default;
 
 void AFXAPI AfxThrowOleException(SCODE sc) {
     auto* pException = new COleException;

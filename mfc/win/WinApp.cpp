@@ -1,9 +1,25 @@
 // CWinApp and the start of the framework in a module.
 #include <afxwin.h>
 
-IMPLEMENT_DYNAMIC(CWinApp, CCmdTarget)
+IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
+IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
-CWinApp::CWinApp() : m_hInstance(nullptr) {
+BEGIN_MESSAGE_MAP(CWinApp, CWinThread)
+END_MESSAGE_MAP()
+
+CWinThread::CWinThread() : m_pMainWnd(nullptr) {}
+
+CWinThread::~CWinThread() = default;
+
+BOOL CWinThread::InitInstance() {
+    return FALSE;
+}
+
+int CWinThread::ExitInstance() {
+    return 0;
+}
+
+CWinApp::CWinApp(LPCTSTR) : m_hInstance(nullptr), m_dwRestartManagerSupportFlags(0) {
     AfxGetStaticModuleState()->m_pCurrentWinApp = this;
 }
 
@@ -17,10 +33,6 @@ BOOL CWinApp::InitInstance() {
 
 int CWinApp::ExitInstance() {
     return 0;
-}
-
-CWinApp* AFXAPI AfxGetApp() {
-    return AfxGetModuleState()->m_pCurrentWinApp;
 }
 
 BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR, int) {

@@ -1,8 +1,8 @@
 // Exceptions of the window side, as static objects that are never freed.
 #include "win/WinExceptions.h"
 
-IMPLEMENT_DYNAMIC(CResourceException, CException)
-IMPLEMENT_DYNAMIC(CNotSupportedException, CException)
+IMPLEMENT_DYNAMIC(CResourceException, CSimpleException)
+IMPLEMENT_DYNAMIC(CNotSupportedException, CSimpleException)
 
 void AFXAPI AfxThrowResourceException() {
     static CResourceException exception(FALSE);

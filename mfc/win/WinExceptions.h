@@ -4,16 +4,16 @@
 #include <afx.h>
 
 // A window, GDI object or template could not be had.
-class CResourceException : public CException {
+class CResourceException : public CSimpleException {
     DECLARE_DYNAMIC(CResourceException)
 public:
-    using CException::CException;
+    using CSimpleException::CSimpleException;
 };
 
-class CNotSupportedException : public CException {
+class CNotSupportedException : public CSimpleException {
     DECLARE_DYNAMIC(CNotSupportedException)
 public:
-    using CException::CException;
+    using CSimpleException::CSimpleException;
 };
 
 [[noreturn]] void AFXAPI AfxThrowResourceException();

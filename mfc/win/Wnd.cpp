@@ -3,7 +3,7 @@
 
 IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
 
-CWnd::CWnd() : m_hWnd(nullptr), m_pfnSuper(nullptr), m_nModalResult(0), m_nFlags(0) {}
+CWnd::CWnd() : m_hWnd(nullptr), m_nFlags(0), m_pfnSuper(nullptr), m_nModalResult(0) {}
 
 CWnd::~CWnd() {
     if (m_hWnd != nullptr) CWnd::DestroyWindow();

@@ -26,6 +26,25 @@ bool IsOnTop(HWND hWnd) {
     return ::GetWindowLongPtr(hWnd, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(&AfxWndProc);
 }
 
+// Calls an entry's function as what it is. It may delete the object.
+LRESULT CallHandler(CWnd& wnd, const AFX_MSGMAP_ENTRY& entry, WPARAM wParam, LPARAM lParam) {
+    switch (entry.nSig) {
+    case AfxSig_l_w_l:
+        return (wnd.*reinterpret_cast<LRESULT (CWnd::*)(WPARAM, LPARAM)>(entry.pfn))(wParam, lParam);
+    case AfxSig_v_v_v:
+        (wnd.*reinterpret_cast<void (CWnd::*)()>(entry.pfn))();
+        return 0;
+    case AfxSig_v_w_v:
+        (wnd.*reinterpret_cast<void (CWnd::*)(WPARAM)>(entry.pfn))(wParam);
+        return 0;
+    case AfxSig_v_i_s:
+        (wnd.*reinterpret_cast<void (CWnd::*)(int, LPARAM)>(entry.pfn))(static_cast<int>(wParam), lParam);
+        return TRUE;
+    default:
+        AfxThrowNotSupportedException();
+    }
+}
+
 WNDPROC PutOnTop(HWND hWnd) {
     return reinterpret_cast<WNDPROC>(
         ::SetWindowLongPtr(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc)));
@@ -76,9 +95,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
     }
     const AFX_MSGMAP_ENTRY* pEntry = FindMessageEntry(message, 0, 0);
     if (pEntry == nullptr) return FALSE;
-    AFX_MSGCALL call = {wParam, lParam, 0};
-    pEntry->pfn(this, call); // may delete this object
-    *pResult = call.lResult;
+    *pResult = CallHandler(*this, *pEntry, wParam, lParam);
     return TRUE;
 }
 
@@ -125,14 +142,11 @@ void CWnd::OnDestroy() {
     Default();
 }
 
-void CWnd::OnTimer(UINT_PTR) {
-    Default();
-}
-
 void CWnd::OnNcDestroy() {
     Default();
     if (m_pfnSuper != nullptr) SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_pfnSuper));
     m_pfnSuper = nullptr;
     if (m_nFlags & WF_CONTINUEMODAL) EndModalLoop(-1);
     Detach();
+    PostNcDestroy();
 }

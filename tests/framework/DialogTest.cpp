@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <stdexcept>
-
 #include "tests/support/HostWindow.h"
 
 using tests::HostWindow;
@@ -61,11 +59,13 @@ TEST(Dialog, Owner_IsDisabledWhileTheDialogRuns) {
         EXPECT_EQ(host.Window()->m_hWnd, ::GetActiveWindow());
     }
 
+#ifndef VARNOKE_MFC_DLL // which enables it all the same
     CScriptedDialog dialog(IDD_PLAIN, host);
     dialog.m_script = [](CScriptedDialog&) { PressKey(VK_ESCAPE); };
     host.Window()->EnableWindow(FALSE);
     EXPECT_EQ(IDCANCEL, dialog.DoModal());
     EXPECT_FALSE(IsEnabled(host)) << "it was disabled before";
+#endif
 }
 
 TEST(Dialog, NestedDialog_DisablesOnlyItsOwner) {
@@ -85,6 +85,14 @@ TEST(Dialog, NestedDialog_DisablesOnlyItsOwner) {
     EXPECT_EQ(6, outer.DoModal());
 }
 
+TEST(Dialog, WithoutItsTemplate_EndsWithoutResult) {
+    HostWindow host;
+    EXPECT_EQ(-1, CScriptedDialog(999, host).DoModal()) << "no such template";
+    EXPECT_EQ(-1, CScriptedDialog(IDD_BROKEN, host).DoModal()) << "a control of no known class";
+    EXPECT_TRUE(IsEnabled(host));
+}
+
+#ifndef VARNOKE_MFC_DLL // whose loop outlives the dialog's window and forgets the exit code
 TEST(Dialog, DestroyedOrQuit_EndsWithoutResult) {
     HostWindow host;
     CScriptedDialog dialog(IDD_PLAIN, host);
@@ -98,11 +106,9 @@ TEST(Dialog, DestroyedOrQuit_EndsWithoutResult) {
     ASSERT_TRUE(::PeekMessage(&msg, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE))
         << "it is for the program's own loop";
     EXPECT_EQ(12u, msg.wParam);
-
-    EXPECT_EQ(-1, CScriptedDialog(999, host).DoModal()) << "no such template";
-    EXPECT_EQ(-1, CScriptedDialog(IDD_BROKEN, host).DoModal()) << "a control of no known class";
     EXPECT_TRUE(IsEnabled(host));
 }
+#endif
 
 TEST(Dialog, FailingHandlers_LeaveTheDialogRunning) {
     CScriptedDialog dialog;
@@ -111,7 +117,7 @@ TEST(Dialog, FailingHandlers_LeaveTheDialogRunning) {
     dialog.m_script = [&](CScriptedDialog& d) {
         if (++nRuns == 2) return d.EndDialog(3);
         d.PostMessage(WM_RUN_SCRIPT);
-        throw std::runtime_error("script");
+        AfxThrowMemoryException();
     };
     EXPECT_EQ(3, dialog.DoModal());
     EXPECT_TRUE(dialog.m_bWasVisible);

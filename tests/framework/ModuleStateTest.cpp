@@ -1,11 +1,11 @@
 // Module state per thread; a regular DLL's application object starts and ends with the DLL, and may refuse to
 // be loaded.
-#include <afx.h>
+#include <afxwin.h>
 
 #include <gtest/gtest.h>
 
 #include <string>
-#include <thread>
+#include "tests/support/OtherThread.h"
 
 namespace {
 
@@ -32,7 +32,8 @@ TEST(RegularDll, StartAndEnd_AreCalledOnceEach) {
 }
 
 TEST(ModuleState, ScopesNestAndEndWithExceptions) {
-    AFX_MODULE_STATE outer = {}, inner = {};
+    // Static, as module states are: MFC counts on memory that began as zeros.
+    static AFX_MODULE_STATE outer(TRUE, &AfxWndProc, _MFC_VER), inner(TRUE, &AfxWndProc, _MFC_VER);
     {
         AFX_MANAGE_STATE(&outer)
         try {
@@ -44,7 +45,7 @@ TEST(ModuleState, ScopesNestAndEndWithExceptions) {
         }
         EXPECT_EQ(AfxGetModuleState(), &outer);
         AFX_MODULE_STATE* seenByOther = nullptr;
-        std::thread([&] { seenByOther = AfxGetModuleState(); }).join();
+        tests::OnOtherThread([&] { seenByOther = AfxGetModuleState(); });
         EXPECT_EQ(seenByOther, AfxGetStaticModuleState()) << "each thread has its own";
     }
     EXPECT_EQ(AfxGetModuleState(), AfxGetStaticModuleState());

@@ -1,7 +1,6 @@
 // CString's operations on text; CTime and CFile::GetStatus.
-#include <afx.h>
+#include <afxdisp.h>
 #include <gtest/gtest.h>
-#include "tests/support/TempFolder.h"
 
 TEST(String, Cutting_IsLimitedToTheText) {
     const CString text(L"abcdef");
@@ -34,12 +33,25 @@ TEST(String, Format) {
     EXPECT_EQ(text.GetLength(), 5000);
 }
 
-TEST(Time, WrongNamesAndDates) {
-    const tests::TempFolder folder;
-    const std::wstring missing = folder / L"b.dwg", pattern = folder / L"*", tooLong(300, L'x');
-    tests::WriteBytes(folder / L"a.dwg", "12345");
-    CFileStatus status;
-    for (const wchar_t* name : {L"", missing.c_str(), pattern.c_str(), tooLong.c_str()})
-        EXPECT_FALSE(CFile::GetStatus(name, status)) << tests::ToUtf8(name);
-    EXPECT_THROW(CTime{FILETIME{}}, CInvalidArgException*);
+TEST(Time, StatusOfFiles) {
+    wchar_t program[_MAX_PATH];
+    ::GetModuleFileName(nullptr, program, _MAX_PATH);
+    CFileStatus status = {};
+    EXPECT_TRUE(CFile::GetStatus(program, status));
+    EXPECT_STREQ(program, status.m_szFullName);
+    EXPECT_GT(status.m_size, 4096u);
+    WIN32_FILE_ATTRIBUTE_DATA data;
+    ::GetFileAttributesEx(program, GetFileExInfoStandard, &data);
+    SYSTEMTIME utc, local;
+    ::FileTimeToSystemTime(&data.ftLastWriteTime, &utc);
+    ::SystemTimeToTzSpecificLocalTime(nullptr, &utc, &local);
+    EXPECT_EQ(local.wYear, status.m_mtime.GetYear());
+    EXPECT_EQ(local.wDay, status.m_mtime.GetDay());
+    EXPECT_EQ(local.wMinute * 60 + local.wSecond,
+              status.m_mtime.GetMinute() * 60 + status.m_mtime.GetSecond());
+
+    const CString missing = CString(program) + L".no", tooLong(L'x', 300);
+    for (const wchar_t* name : {L"", missing.GetString(), L"C:\\*", tooLong.GetString()})
+        EXPECT_FALSE(CFile::GetStatus(name, status)) << name;
+    EXPECT_THROW(CTime{FILETIME{}}, COleException*);
 }

@@ -7,6 +7,7 @@ namespace tests {
 // False when windows that lie above it clip it away completely.
 inline bool CanBeSeen(HWND window) {
     RECT box = {};
+    if (window == nullptr) return false; // whose context would be the screen's
     const HDC dc = GetDC(window);
     const int region = GetClipBox(dc, &box);
     ReleaseDC(window, dc);
