@@ -309,6 +309,8 @@ TEST_F(BackSignTest, MissingNeighbours_StopTheDocumentsNotTheHost) {
     fs::create_directory(bare);
     for (const wchar_t* file : {L"Varnoke.dll", L"varnoke-host.exe"})
         fs::copy_file(built / file, bare / file);
+    // Of a build with Microsoft's framework, which is no neighbour.
+    if (fs::exists(built / L"mfc140u.dll")) fs::copy_file(built / L"mfc140u.dll", bare / L"mfc140u.dll");
     Prepare({{L"a.dwg"}});
     SetEnvironmentVariableW(L"VARNOKE_BIN", bare.c_str());
     EXPECT_EQ(2u, BackSign().exitCode) << "without a model there is no log";
