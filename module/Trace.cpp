@@ -52,7 +52,7 @@ std::wstring TargetPath(const CString& settings) {
     ::GetPrivateProfileStringW(kSection, L"File", L"", stored, kSize, settings);
     if (!stored[0]) return base::TemporaryFolderPrefix() + L"Varnoke.log";
     const std::wstring path = Expanded(stored);
-    const bool relative = path.find_first_of(L":") == path.npos && path[0] != L'\\' && path[0] != L'/';
+    const bool relative = path.find(L':') == std::wstring::npos && path[0] != L'\\' && path[0] != L'/';
     return relative ? base::FolderPrefix(settings) + path : path;
 }
 

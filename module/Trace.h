@@ -18,10 +18,10 @@ enum class TraceLevel {
 void ConfigureTrace() noexcept;
 
 /// Whether lines of that level go anywhere; to be asked before a line is put together.
-bool IsTracing(TraceLevel level) noexcept;
+bool IsTracing(TraceLevel wanted) noexcept;
 
 /// Writes a line with date, time, process and thread in front, and begins a new file when the old one has
 /// grown too large. Several processes and threads may write to one file. A failure is nobody's concern.
-void WriteTrace(base::TextRef line) noexcept;
+void WriteTrace(base::TextRef text) noexcept;
 
 } // namespace varnoke

@@ -30,7 +30,7 @@ struct NoCaseHash {
 private:
     static std::size_t Upper(wchar_t character) {
         if (character < 0x80) return character >= L'a' && character <= L'z' ? character - 32 : character;
-        const auto asText = reinterpret_cast<wchar_t*>(static_cast<std::size_t>(character));
+        auto* const asText = reinterpret_cast<wchar_t*>(static_cast<std::size_t>(character));
         return reinterpret_cast<std::size_t>(::CharUpperW(asText));
     }
 };

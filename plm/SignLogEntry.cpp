@@ -26,7 +26,7 @@ struct NewEntry {
         CheckError(entry->GetLocalObject(&local));
     }
 
-    void Set(const CString& name, const CString& value) {
+    void Set(const CString& name, const CString& value) const {
         const _bstr_t key = ToBstr(name), text = ToBstr(value);
         CheckError(entry->SetProperty(key, text));
         CheckError(local->SetProperty(key, text));

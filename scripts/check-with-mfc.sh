@@ -23,7 +23,7 @@ real-library) cp "$real/bin/Varnoke.dll" "$bin" ;;
 both) cp "$real/bin/varnoke-host.exe" "$real/bin/Varnoke.dll" "$bin" ;;
 *) echo "usage: check-with-mfc.sh real-host|real-library|both" >&2; exit 2 ;;
 esac
-cp "$subset"/*Server*.dll "$subset"/*Grid*.dll "$subset"/*Viewer*.dll "$subset/com-servers.txt" "$real/bin"
+cp "$subset"/*Server*.dll "$subset"/*Grid*.dll "$subset"/*Viewer*.dll "$subset/QORParser.dll" "$subset/com-servers.txt" "$real/bin"
 
 # Where only one side is Microsoft's, what crosses between them: messages, records, strings, windows.
 filter='*'
