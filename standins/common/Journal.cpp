@@ -33,9 +33,9 @@ void AppendJournal(const std::wstring& file, std::wstring_view call,
     }
     line.append(L"\t=> ").append(std::to_wstring(result)).append(L"\r\n");
 
-    constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const base::FileHandle journal = base::OwnFile(::CreateFileW(
-        file.c_str(), FILE_APPEND_DATA, shareAll, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+        file.c_str(), FILE_APPEND_DATA, kShareAll, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!journal) return;
     const std::string utf8 = base::ToUtf8(line);
     DWORD written = 0;

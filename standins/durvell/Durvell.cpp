@@ -26,8 +26,8 @@ int RunCall(const wchar_t* function, const std::vector<const wchar_t*>& given, W
         for (const wchar_t* argument : given)
             arguments.push_back(TextOf(argument));
         const Vault vault;
-        if (!vault.Exists()) return ResultNoVault;
-        Result result = ResultInternal;
+        if (!vault.Exists()) return kResultNoVault;
+        Result result = kResultInternal;
         try {
             result = work(vault, FaultPlan(vault.Folder()));
         } catch (...) {
@@ -36,7 +36,7 @@ int RunCall(const wchar_t* function, const std::vector<const wchar_t*>& given, W
         standins::AppendJournal(vault.JournalFile(), function, arguments, result);
         return result;
     } catch (...) {
-        return ResultInternal;
+        return kResultInternal;
     }
 }
 
@@ -48,8 +48,8 @@ int RunTransfer(const wchar_t* function, const wchar_t* operation, const wchar_t
                 const wchar_t* remoteName,
                 Result (Vault::*transfer)(const std::wstring&, const std::wstring&) const) {
     return RunCall(function, {localPath, remoteName}, [&](const Vault& vault, const FaultPlan& faults) {
-        if (faults.TransferFails(operation, TextOf(remoteName))) return ResultFault;
-        if (!HasText(localPath)) return ResultBadArgument;
+        if (faults.TransferFails(operation, TextOf(remoteName))) return kResultFault;
+        if (!HasText(localPath)) return kResultBadArgument;
         return (vault.*transfer)(localPath, TextOf(remoteName));
     });
 }
@@ -70,11 +70,11 @@ extern "C" int dvl_QueryObjs(const wchar_t* objectType, const wchar_t* reserved1
     return RunCall(L"dvl_QueryObjs",
                    {objectType, reserved1, reserved2, reserved3, reserved4, filterXml, reserved5, resultFile},
                    [&](const Vault& vault, const FaultPlan& faults) {
-                       if (faults.Fails(L"Query")) return ResultFault;
-                       if (!HasText(resultFile)) return ResultBadArgument;
+                       if (faults.Fails(L"Query")) return kResultFault;
+                       if (!HasText(resultFile)) return kResultBadArgument;
                        std::wstring objectFile;
                        const Result found = vault.FindObjectFile(TextOf(objectType), &objectFile);
-                       return found == ResultOk
+                       return found == kResultOk
                                   ? QueryObjects(objectFile, objectType, TextOf(filterXml), resultFile)
                                   : found;
                    });
@@ -83,16 +83,16 @@ extern "C" int dvl_QueryObjs(const wchar_t* objectType, const wchar_t* reserved1
 extern "C" int dvl_SaveToServer(const wchar_t* recordFile, const wchar_t* workFile) {
     return RunCall(L"dvl_SaveToServer", {recordFile, workFile},
                    [&](const Vault& vault, const FaultPlan& faults) {
-                       if (faults.Fails(L"Save")) return ResultFault;
-                       if (!HasText(recordFile) || !HasText(workFile)) return ResultBadArgument;
+                       if (faults.Fails(L"Save")) return kResultFault;
+                       if (!HasText(recordFile) || !HasText(workFile)) return kResultBadArgument;
                        return vault.SaveRecord(recordFile, workFile);
                    });
 }
 
 extern "C" int dvl_GetShareInfo(wchar_t* userName, wchar_t* password, wchar_t* serverAddress) {
     return RunCall(L"dvl_GetShareInfo", {}, [&](const Vault& vault, const FaultPlan& faults) {
-        if (faults.Fails(L"Share")) return ResultFault;
-        if (!userName || !password || !serverAddress) return ResultBadArgument;
+        if (faults.Fails(L"Share")) return kResultFault;
+        if (!userName || !password || !serverAddress) return kResultBadArgument;
         return vault.ShareInfo(userName, password, serverAddress);
     });
 }

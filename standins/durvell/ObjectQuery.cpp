@@ -94,18 +94,18 @@ Result QueryObjects(const std::wstring& objectFile, const std::wstring& objectTy
                     const std::wstring& filterXml, const std::wstring& resultFile) {
     const base::ComApartment apartment;
     SearchFilter filter;
-    if (!filter.Parse(filterXml)) return ResultBadFilter;
+    if (!filter.Parse(filterXml)) return kResultBadFilter;
     const XmlDocumentPtr objects = base::LoadXmlFile(objectFile);
-    if (!objects) return ResultBadObjectFile;
+    if (!objects) return kResultBadObjectFile;
 
     const XmlDocumentPtr result = base::LoadXmlText(L"<root><objs><type/></objs></root>");
     const std::vector<XmlNodePtr> types = Select(result, L"/root/objs/type");
     const XmlElementPtr type(types.at(0));
-    if (FAILED(type->setAttribute(_bstr_t(L"id"), _variant_t(objectType.c_str())))) return ResultInternal;
+    if (FAILED(type->setAttribute(_bstr_t(L"id"), _variant_t(objectType.c_str())))) return kResultInternal;
     for (const XmlNodePtr& object : Select(objects, L"/root/objs/type/obj")) {
-        if (filter.Matches(object) && !Append(type, object)) return ResultInternal;
+        if (filter.Matches(object) && !Append(type, object)) return kResultInternal;
     }
-    return base::SaveXml(result, resultFile) ? ResultOk : ResultFileError;
+    return base::SaveXml(result, resultFile) ? kResultOk : kResultFileError;
 }
 
 } // namespace durvell

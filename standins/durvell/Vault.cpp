@@ -46,8 +46,8 @@ std::wstring MakeFolder(const std::wstring& parent, const std::wstring& name) {
 Result CopyInPlace(const std::wstring& source, const std::wstring& target) {
     std::string bytes;
     return ReadWholeFile(source, bytes) == ReadResult::Done && WriteWholeFile(target, bytes)
-               ? ResultOk
-               : ResultFileError;
+               ? kResultOk
+               : kResultFileError;
 }
 
 // The number goes on from the records of the same second, so names never repeat and sort by arrival. Empty
@@ -85,15 +85,15 @@ std::wstring Vault::JournalFile() const {
 
 Result Vault::Download(const std::wstring& localPath, const std::wstring& remoteName) const {
     const std::wstring relative = RelativePath(remoteName);
-    if (relative.empty()) return ResultRefusedName;
+    if (relative.empty()) return kResultRefusedName;
     const std::wstring source = JoinPath(JoinPath(m_folder, L"files"), relative);
-    return FileExists(source) ? CopyInPlace(source, localPath) : ResultNotFound;
+    return FileExists(source) ? CopyInPlace(source, localPath) : kResultNotFound;
 }
 
 Result Vault::Upload(const std::wstring& localPath, const std::wstring& remoteName) const {
     const std::wstring relative = RelativePath(remoteName);
-    if (relative.empty()) return ResultRefusedName;
-    if (!FileExists(localPath)) return ResultNotFound;
+    if (relative.empty()) return kResultRefusedName;
+    if (!FileExists(localPath)) return kResultNotFound;
     const std::wstring files = MakeFolder(m_folder, L"files");
     for (size_t end = relative.find(L'\\'); end != std::wstring::npos; end = relative.find(L'\\', end + 1))
         MakeFolder(files, relative.substr(0, end));
@@ -101,29 +101,29 @@ Result Vault::Upload(const std::wstring& localPath, const std::wstring& remoteNa
 }
 
 Result Vault::FindObjectFile(const std::wstring& objectType, std::wstring* path) const {
-    if (!IsPlainName(objectType)) return ResultRefusedName;
+    if (!IsPlainName(objectType)) return kResultRefusedName;
     *path = JoinPath(JoinPath(m_folder, L"objects"), objectType + L".xml");
-    return FileExists(*path) ? ResultOk : ResultNotFound;
+    return FileExists(*path) ? kResultOk : kResultNotFound;
 }
 
 Result Vault::SaveRecord(const std::wstring& recordFile, const std::wstring& workFile) const {
-    if (!FileExists(recordFile)) return ResultNotFound;
+    if (!FileExists(recordFile)) return kResultNotFound;
     const std::wstring entry = CopyAsNextEntry(recordFile, MakeFolder(m_folder, L"signlog"));
-    if (entry.empty()) return ResultFileError;
+    if (entry.empty()) return kResultFileError;
     const std::wstring answer =
         L"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<root><result code=\"0\" entry=\"" + entry +
         L"\"/></root>\r\n";
-    return WriteWholeFile(workFile, ToUtf8(answer)) ? ResultOk : ResultFileError;
+    return WriteWholeFile(workFile, ToUtf8(answer)) ? kResultOk : kResultFileError;
 }
 
 Result Vault::ShareInfo(wchar_t* userName, wchar_t* password, wchar_t* server) const {
     const std::wstring session = JoinPath(m_folder, L"session.ini");
-    if (!FileExists(session)) return ResultNotFound;
+    if (!FileExists(session)) return kResultNotFound;
     constexpr int kBufferSize = 1024;
     ::lstrcpynW(userName, IniText(session, L"Session", L"UserName").c_str(), kBufferSize);
     ::lstrcpynW(password, IniText(session, L"Session", L"Password").c_str(), kBufferSize);
     ::lstrcpynW(server, IniText(session, L"Session", L"Server").c_str(), kBufferSize);
-    return ResultOk;
+    return kResultOk;
 }
 
 } // namespace durvell
