@@ -73,8 +73,7 @@ TextId BackSignRun::Process(const Document& document) {
     if (!m_noting) return TextId::NotNoted;
     const auto& givenUp = m_givenUp.documents;
     if (std::find(givenUp.begin(), givenUp.end(), m_current) != givenUp.end()) return TextId::TimedOut;
-    if (!again && unchanged && state.progress == Progress::Signed)
-        return Return(document, state, TextId::Signed);
+    if (!again && unchanged && state.progress == Progress::Signed) return Return(document, state);
     const bool mayBeSigned = same && state.progress != Progress::None;
     return SignAnew(document, state, again || mayBeSigned);
 }
@@ -84,16 +83,16 @@ TextId BackSignRun::SignAnew(const Document& document, DocumentState& state, boo
     if (connection != TextId::Ready) return connection;
     if (!Download(document)) return TextId::FailedDownload;
     const TextId outcome = Sign(document, state, deleteFirst);
-    return outcome == TextId::Signed ? Return(document, state, outcome) : outcome;
+    return outcome == TextId::Signed ? Return(document, state) : outcome;
 }
 
-TextId BackSignRun::Return(const Document& document, DocumentState& state, TextId success) {
+TextId BackSignRun::Return(const Document& document, DocumentState& state) {
     // The server's log must not tell of a signature that the server doesn't have: upload first.
     if (!Upload(document)) return TextId::FailedUpload;
     state.progress = Progress::Uploaded;
     m_state.Note(state);
     Log(document, state);
-    return success;
+    return TextId::Signed;
 }
 
 TextId BackSignRun::Connect() {

@@ -52,7 +52,7 @@ private:
     /// Signed, AlreadySigned, or the step that failed.
     TextId Process(const Document& document);
     TextId SignAnew(const Document& document, DocumentState& state, bool deleteFirst);
-    TextId Return(const Document& document, DocumentState& state, TextId success);
+    TextId Return(const Document& document, DocumentState& state);
     bool Download(const Document& document);
     bool Upload(const Document& document);
     TextId Sign(const Document& document, DocumentState& state, bool deleteFirst);

@@ -1,5 +1,6 @@
 // The sign log on its way to the server, and for those who look at it before.
 #include "module/BstrText.h"
+#include "module/DocumentCopy.h"
 #include "base/Paths.h"
 #include "neighbours/durvell.h"
 #include "plm/RecordAppend.h"
@@ -65,7 +66,7 @@ OwnedRecord<SSignType> ReadUnsentLog(const CString& folder) {
     for (long index = 0; index < count; ++index) {
         IQORDataEntryPtr entry;
         CheckError(model->GetEntry(index, &entry));
-        entries->m_lstObj.AddTail(ObjectOf(entry).release());
+        AppendObject(*entries, ObjectOf(entry));
     }
     return entries;
 }
