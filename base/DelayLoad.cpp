@@ -21,16 +21,6 @@ std::wstring WideName(const char* name) {
     return std::wstring(name, name + std::char_traits<char>::length(name));
 }
 
-HMODULE LoadFromPath(const std::wstring& name) {
-    const DWORD size = ::GetEnvironmentVariableW(L"PATH", nullptr, 0);
-    std::wstring path(size, L'\0');
-    if (size == 0 || ::GetEnvironmentVariableW(L"PATH", path.data(), size) >= size) return nullptr;
-    wchar_t file[MAX_PATH] = {};
-    const DWORD length = ::SearchPathW(path.c_str(), name.c_str(), nullptr, MAX_PATH, file, nullptr);
-    if (length == 0 || length >= MAX_PATH) return nullptr;
-    return ::LoadLibraryExW(file, nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
-}
-
 HMODULE Load(const std::wstring& name) {
     HMODULE module = nullptr;
     if (::GetModuleHandleExW(0, name.c_str(), &module)) return module;
@@ -38,9 +28,10 @@ HMODULE Load(const std::wstring& name) {
     if (FileExists(beside)) return ::LoadLibraryExW(beside.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
     module = ::LoadLibraryExW(name.c_str(), nullptr, LOAD_LIBRARY_SEARCH_DEFAULT_DIRS);
     if (module || ::GetLastError() != ERROR_MOD_NOT_FOUND) return module;
-    module = LoadFromPath(name);
-    if (!module && ::GetLastError() == ERROR_FILE_NOT_FOUND) ::SetLastError(ERROR_MOD_NOT_FOUND);
-    return module;
+    const std::wstring onPath = FindOnPath(name);
+    if (!onPath.empty()) return ::LoadLibraryExW(onPath.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+    ::SetLastError(ERROR_MOD_NOT_FOUND);
+    return nullptr;
 }
 
 const char* NameOf(const IMAGE_THUNK_DATA& entry) {

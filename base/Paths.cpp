@@ -69,6 +69,30 @@ std::wstring TemporaryFolderPrefix() {
     return TextOfAnyLength([](wchar_t* text, DWORD size) { return ::GetTempPathW(size, text); });
 }
 
+std::wstring WindowsFolder() {
+    return TextOfAnyLength([](wchar_t* text, DWORD size) { return ::GetWindowsDirectoryW(text, size); });
+}
+
+std::wstring SystemFolder() {
+    return TextOfAnyLength([](wchar_t* text, DWORD size) { return ::GetSystemDirectoryW(text, size); });
+}
+
+std::wstring WithVariables(TextRef text) {
+    return TextOfAnyLength([text](wchar_t* expanded, DWORD size) {
+        const DWORD length = ::ExpandEnvironmentStringsW(text, expanded, size);
+        return length > 0 ? length - 1 : 0; // this function counts the terminator
+    });
+}
+
+std::wstring FindOnPath(TextRef name) {
+    const std::wstring folders = TextOfAnyLength(
+        [](wchar_t* text, DWORD size) { return ::GetEnvironmentVariableW(L"PATH", text, size); });
+    if (folders.empty()) return folders;
+    return TextOfAnyLength([&](wchar_t* text, DWORD size) {
+        return ::SearchPathW(folders.c_str(), name, nullptr, size, text, nullptr);
+    });
+}
+
 bool FolderExists(TextRef path) {
     return IsKindOfEntry(path, FILE_ATTRIBUTE_DIRECTORY);
 }

@@ -31,6 +31,16 @@ HMODULE ThisModule();
 /// The system's temporary folder; empty on failure.
 std::wstring TemporaryFolderPrefix();
 
+/// Folders of Windows itself, without a backslash behind them; empty on failure.
+std::wstring WindowsFolder();
+std::wstring SystemFolder();
+
+/// The text with environment variables in the place of "%NAME%".
+std::wstring WithVariables(TextRef text);
+
+/// Full path of the first file of that name in the folders of the variable PATH; empty when there is none.
+std::wstring FindOnPath(TextRef name);
+
 bool FolderExists(TextRef path);
 /// False for a folder.
 bool FileExists(TextRef path);

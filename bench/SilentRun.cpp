@@ -4,6 +4,8 @@
 #include "bench/SilentRun.h"
 #include "base/Dispatch.h"
 #include "base/Owned.h"
+#include "base/Paths.h"
+#include "base/WholeFile.h"
 #include "bench/BareParser.h"
 #include "bench/DrawingList.h"
 #include "bench/MessageText.h"
@@ -38,13 +40,28 @@ class OpenDrawing final : public base::DispatchObject<> {
     }
 };
 
+/// In groups, so that the server's folders don't grow with the run: Wine looks through all of a folder for
+/// each name that is new in it, and it is not the server that is measured.
+std::wstring RemoteName(int number) {
+    constexpr int kGroup = 100;
+    return std::to_wstring(number / kGroup) + L"\\" + Workspace::DrawingName(number);
+}
+
 /// A folder server with drawings, and a work folder.
 struct Folders {
     explicit Folders(int documents) {
-        ::CreateDirectoryW(workspace.Path(L"vault").c_str(), nullptr);
-        ::CreateDirectoryW(workspace.Path(L"work").c_str(), nullptr);
-        ::MoveFileW(workspace.CreateDrawings(documents).c_str(), workspace.Path(L"vault\\files").c_str());
+        for (const wchar_t* folder : {L"vault", L"work", L"vault\\files"})
+            ::CreateDirectoryW(workspace.Path(folder).c_str(), nullptr);
+        for (int number = 0; number < documents; ++number) {
+            const std::wstring path = RemotePath(number);
+            ::CreateDirectoryW(base::WithoutBackslash(base::FolderPrefix(path)).c_str(), nullptr);
+            Require(base::WriteWholeFile(path, std::string()), "making a drawing");
+        }
         ::SetEnvironmentVariableW(L"DURVELL_VAULT", workspace.Path(L"vault").c_str());
+    }
+
+    std::wstring RemotePath(int number) const {
+        return workspace.Path(L"vault\\files\\" + RemoteName(number));
     }
 
     const Workspace workspace;
@@ -55,11 +72,11 @@ void CopyBare(int documents) {
     const Folders folders(documents);
     for (int number = 0; number < documents; ++number) {
         const std::wstring name = Workspace::DrawingName(number);
-        const std::wstring remote = folders.workspace.Path(L"vault\\files\\" + name);
-        const std::wstring local = folders.work + L"\\" + name;
-        Require(::CopyFileW(remote.c_str(), local.c_str(), FALSE) &&
-                    ::CopyFileW(local.c_str(), remote.c_str(), FALSE),
-                "copying a drawing");
+        std::string bytes;
+        for (const std::wstring& path : {folders.work + L"\\" + name, folders.RemotePath(number)}) {
+            base::ReadWholeFile(folders.RemotePath(number), bytes);
+            Require(base::WriteWholeFile(path, bytes), "copying a drawing");
+        }
         const base::FileHandle log =
             base::OwnFile(::CreateFileW(folders.workspace.Path(L"bare.log").c_str(), FILE_APPEND_DATA, 0,
                                         nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
@@ -84,7 +101,7 @@ public:
         wchar_t user[] = L"wang", password[] = L"secret", server[] = L"plm";
         Require(m_signer.Login(user, password, server) != 0, "logging in");
         for (int number = 0; number < m_documents; ++number)
-            Process(Workspace::DrawingName(number), withLog);
+            Process(number, withLog);
         if (withLog) Require(m_plm.WriteSignLogToServer(m_folders.work.c_str()) == 0, "sending the log");
         wchar_t key[] = L"FNAME";
         std::wstring file = m_folders.workspace.Path(L"return.xml");
@@ -96,10 +113,11 @@ public:
     }
 
 private:
-    void Process(std::wstring name, bool withLog) {
+    void Process(int number, bool withLog) {
+        std::wstring name = Workspace::DrawingName(number);
         varnoke::OwnedRecord<SSignFileDUL> list(new SSignFileDUL);
         list->m_strFolder = m_folders.work.c_str();
-        list->m_lstItem.AddTail(new SSignFileDULItem{name.c_str(), name.c_str()});
+        list->m_lstItem.AddTail(new SSignFileDULItem{RemoteName(number).c_str(), name.c_str()});
         Require(m_plm.DownloadDocForBackSign(list.get()) == 1, "downloading");
         Require(m_plm.UpdateDocsSignTag(list.get(), 1) == 1, "resetting tags");
         Sign(name);

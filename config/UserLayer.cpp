@@ -9,7 +9,7 @@ namespace varnoke {
 
 CString UserSettingsPath(const CString& adminPath) {
     if (::GetPrivateProfileIntW(L"Settings", L"UserLayer", 0, adminPath) != 1) return CString();
-    wchar_t folder[MAX_PATH] = {};
+    wchar_t folder[MAX_PATH] = {}; // the size that the function is made for
     if (FAILED(::SHGetFolderPathW(nullptr, CSIDL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, folder)))
         return CString();
     return CString(base::JoinPath(base::JoinPath(folder, L"Varnoke"), L"Varnoke.ini").c_str());

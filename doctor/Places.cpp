@@ -32,31 +32,19 @@ std::wstring VersionText(const std::wstring& path, const wchar_t* name) {
     return std::wstring(static_cast<const wchar_t*>(found));
 }
 
-std::wstring SystemFolder() {
-    wchar_t folder[MAX_PATH] = {};
-    ::GetSystemDirectoryW(folder, MAX_PATH);
-    return folder;
-}
-
 } // namespace
 
 std::wstring Locate(const std::wstring& name, const Options& options) {
-    for (const std::wstring& folder : {options.library, options.host, SystemFolder()}) {
+    for (const std::wstring& folder : {options.library, options.host, base::SystemFolder()}) {
         const std::wstring path = base::JoinPath(folder, name);
         if (base::FileExists(path)) return path;
     }
-    const DWORD size = ::GetEnvironmentVariableW(L"PATH", nullptr, 0);
-    std::wstring path(size, L'\0');
-    wchar_t file[MAX_PATH] = {};
-    if (size == 0 || ::GetEnvironmentVariableW(L"PATH", &path[0], size) >= size) return std::wstring();
-    const DWORD length = ::SearchPathW(path.c_str(), name.c_str(), nullptr, MAX_PATH, file, nullptr);
-    return length > 0 && length < MAX_PATH ? file : L"";
+    return base::FindOnPath(name);
 }
 
 bool IsSystemFile(const std::wstring& path) {
-    wchar_t folder[MAX_PATH] = {};
-    const UINT length = ::GetWindowsDirectoryW(folder, MAX_PATH);
-    return length > 0 && base::SameText(path.substr(0, length), folder);
+    const std::wstring folder = base::WindowsFolder();
+    return !folder.empty() && base::SameText(path.substr(0, folder.size()), folder);
 }
 
 std::wstring FileVersion(const std::wstring& path) {

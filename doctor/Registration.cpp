@@ -17,15 +17,15 @@ bool ReadDefault(const std::wstring& key, std::wstring& value) {
         ERROR_SUCCESS)
         return false;
     const base::RegistryKey owner(opened);
-    wchar_t text[1024] = {};
-    DWORD size = sizeof text;
+    constexpr DWORD kTexts = RRF_RT_REG_SZ | RRF_RT_REG_EXPAND_SZ | RRF_NOEXPAND;
+    DWORD size = 0; // bytes, the terminator among them
     value.clear();
-    if (::RegGetValueW(opened, nullptr, nullptr, RRF_RT_REG_SZ | RRF_RT_REG_EXPAND_SZ | RRF_NOEXPAND, nullptr,
-                       text, &size) != ERROR_SUCCESS)
+    if (::RegGetValueW(opened, nullptr, nullptr, kTexts, nullptr, nullptr, &size) != ERROR_SUCCESS)
         return true;
-    wchar_t expanded[1024] = {};
-    const DWORD length = ::ExpandEnvironmentStringsW(text, expanded, 1024);
-    value = length > 0 && length <= 1024 ? expanded : text;
+    std::wstring text(size / sizeof(wchar_t) + 1, L'\0');
+    if (::RegGetValueW(opened, nullptr, nullptr, kTexts, nullptr, text.data(), &size) != ERROR_SUCCESS)
+        return true;
+    value = base::WithVariables(text.c_str());
     return true;
 }
 
@@ -33,9 +33,7 @@ bool ReadDefault(const std::wstring& key, std::wstring& value) {
 std::wstring ServerFile(std::wstring file) {
     if (file.size() > 1 && file.front() == L'"') file = file.substr(1, file.find(L'"', 1) - 1);
     if (file.empty() || file.find(L'\\') != std::wstring::npos) return file;
-    wchar_t folder[MAX_PATH] = {};
-    ::GetSystemDirectoryW(folder, MAX_PATH);
-    return base::JoinPath(folder, file);
+    return base::JoinPath(base::SystemFolder(), file);
 }
 
 } // namespace

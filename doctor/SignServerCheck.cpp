@@ -8,13 +8,11 @@
 #include "doctor/Probe.h"
 #include "doctor/Registration.h"
 #include "doctor/SettingTable.h"
+#include "neighbours/signserver.h"
 
 namespace doctor {
 
 namespace {
-
-constexpr const wchar_t* kMethods[] = {
-    L"Login", L"Sign", L"SignatureDelete", L"DeleteAllSign", L"SignatureInvalidDelete", L"SignatureValidate"};
 
 /// Whether the class is registered with a file that can be loaded here.
 bool CheckRegistration(const std::wstring& progId, const Options& options, Report& report) {
@@ -46,7 +44,7 @@ bool CheckRegistration(const std::wstring& progId, const Options& options, Repor
 void CheckMethods(const std::wstring& progId, const std::wstring& settings, const Options& options,
                   Report& report) {
     std::vector<std::wstring> arguments = {L"server", progId};
-    for (const wchar_t* method : kMethods)
+    for (const wchar_t* method : signserver::kMethods)
         arguments.push_back(ReadSetting(settings, L"DynDisp", method));
     const ProbeResult probe = RunProbe(arguments, options);
     if (!probe.ended || probe.lines.empty()) {
@@ -57,8 +55,8 @@ void CheckMethods(const std::wstring& progId, const std::wstring& settings, cons
         report.Add(L"progid.create-failed", progId, probe.lines[0]);
         return;
     }
-    for (size_t i = 0; i < std::size(kMethods) && i + 1 < probe.lines.size(); ++i)
-        report.Add(probe.lines[i + 1] == L"1" ? L"method.ok" : L"method.missing", kMethods[i],
+    for (size_t i = 0; i < std::size(signserver::kMethods) && i + 1 < probe.lines.size(); ++i)
+        report.Add(probe.lines[i + 1] == L"1" ? L"method.ok" : L"method.missing", signserver::kMethods[i],
                    arguments[i + 2]);
 }
 

@@ -1,29 +1,28 @@
 // Lists may hold null elements; those are passed over.
 #include "module/DocumentCopy.h"
 
+#include "varnoke/Elements.h"
+
 namespace varnoke {
 
 const CString* FirstValue(const SSignObj& object, const CString& name) {
-    for (POSITION pos = object.GetHeadPosition(); pos;) {
-        const SSignPro* property = object.GetNext(pos);
-        if (property && property->m_strName == name) return &property->m_strValue;
+    for (const SSignPro* property : Elements(object)) {
+        if (property->m_strName == name) return &property->m_strValue;
     }
     return nullptr;
 }
 
 const CString* FirstValueNoCase(const SSignObj& object, const CString& name) {
-    for (POSITION pos = object.GetHeadPosition(); pos;) {
-        const SSignPro* property = object.GetNext(pos);
-        if (property && property->m_strName.CompareNoCase(name) == 0) return &property->m_strValue;
+    for (const SSignPro* property : Elements(object)) {
+        if (property->m_strName.CompareNoCase(name) == 0) return &property->m_strValue;
     }
     return nullptr;
 }
 
 const CString* LastValue(const SSignObj& object, const CString& name) {
     const CString* value = nullptr;
-    for (POSITION pos = object.GetHeadPosition(); pos;) {
-        const SSignPro* property = object.GetNext(pos);
-        if (property && property->m_strName == name) value = &property->m_strValue;
+    for (const SSignPro* property : Elements(object)) {
+        if (property->m_strName == name) value = &property->m_strValue;
     }
     return value;
 }
@@ -34,9 +33,7 @@ bool HasProperties(const SSignObj* object) {
 
 OwnedRecord<SSignObj> CopyObject(const SSignObj& object) {
     OwnedRecord<SSignObj> copy(new SSignObj);
-    for (POSITION pos = object.GetHeadPosition(); pos;) {
-        const SSignPro* property = object.GetNext(pos);
-        if (!property) continue;
+    for (const SSignPro* property : Elements(object)) {
         std::unique_ptr<SSignPro> newProperty(new SSignPro(*property));
         copy->AddTail(newProperty.get());
         newProperty.release();
@@ -45,8 +42,7 @@ OwnedRecord<SSignObj> CopyObject(const SSignObj& object) {
 }
 
 OwnedRecord<SSignType> CopyFirstWithProperties(const SSignType& type) {
-    for (POSITION pos = type.m_lstObj.GetHeadPosition(); pos;) {
-        const SSignObj* object = type.m_lstObj.GetNext(pos);
+    for (const SSignObj* object : Elements(type.m_lstObj)) {
         if (!HasProperties(object)) continue;
         OwnedRecord<SSignType> copy(new SSignType);
         AppendObject(*copy, CopyObject(*object));

@@ -11,10 +11,8 @@ namespace {
 CString SettingsFolder() {
     const CString folder = ModuleFolder();
     if (!folder.IsEmpty()) return folder;
-    constexpr UINT kSize = 1023;
-    wchar_t windowsFolder[kSize] = {};
-    const UINT length = ::GetWindowsDirectoryW(windowsFolder, kSize);
-    return length > 0 && length < kSize ? CString(windowsFolder) : CString(L"C:");
+    const std::wstring windows = base::WindowsFolder();
+    return windows.empty() ? CString(L"C:") : CString(windows.c_str());
 }
 
 } // namespace

@@ -36,13 +36,6 @@ std::wstring Variable(const wchar_t* name) {
     return value;
 }
 
-std::wstring Expanded(const wchar_t* text) {
-    std::wstring expanded(::ExpandEnvironmentStringsW(text, nullptr, 0), L'\0');
-    const DWORD size = ::ExpandEnvironmentStringsW(text, &expanded[0], static_cast<DWORD>(expanded.size()));
-    expanded.resize(size > 0 ? size - 1 : 0);
-    return expanded;
-}
-
 /// The file that the settings name, a relative one beside them; by default one in the temporary folder.
 std::wstring TargetPath(const CString& settings) {
     const std::wstring named = Variable(L"VARNOKE_TRACE_FILE");
@@ -51,7 +44,7 @@ std::wstring TargetPath(const CString& settings) {
     wchar_t stored[kSize] = {};
     ::GetPrivateProfileStringW(kSection, L"File", L"", stored, kSize, settings);
     if (!stored[0]) return base::TemporaryFolderPrefix() + L"Varnoke.log";
-    const std::wstring path = Expanded(stored);
+    const std::wstring path = base::WithVariables(stored);
     const bool relative = path.find(L':') == std::wstring::npos && path[0] != L'\\' && path[0] != L'/';
     return relative ? base::FolderPrefix(settings) + path : path;
 }

@@ -4,6 +4,7 @@
 #include "plm/DocumentTransfer.h"
 #include "module/Failure.h"
 #include "module/ModulePaths.h"
+#include "module/TransferFiles.h"
 #include "plm/ServerQuery.h"
 #include "plm/SignTags.h"
 #include "neighbours/durvell.h"
@@ -13,16 +14,6 @@
 namespace varnoke {
 
 namespace {
-
-/// Calls transfer(item, local path) for each item that has both names, until it gives false.
-template <class Transfer>
-void ForEachFile(const SSignFileDUL& list, Transfer transfer) {
-    for (POSITION position = list.m_lstItem.GetHeadPosition(); position;) {
-        SSignFileDULItem* item = list.m_lstItem.GetNext(position);
-        if (!item || item->m_strRemoteName.IsEmpty() || item->m_strLocalName.IsEmpty()) continue;
-        if (!transfer(*item, JoinPath(list.m_strFolder, item->m_strLocalName))) return;
-    }
-}
 
 long RunDialog(SSignFileDUL* list, CTransferDlg& dialog, Cause failed) {
     dialog.SetFileList(list);

@@ -23,9 +23,9 @@ NoCaseSet NonEmptyNames(const CStringList& names) {
 }
 
 bool RemoveNode(IXMLDOMDocument* document, const wchar_t* path) {
-    const DomNode node = SelectNode(document, path);
+    const base::XmlNodePtr node = SelectNode(document, path);
     if (!node) return false;
-    DomNode parent, removed;
+    base::XmlNodePtr parent, removed;
     Succeeded(node->get_parentNode(&parent));
     Succeeded(parent->removeChild(node, &removed));
     return true;
@@ -38,7 +38,7 @@ public:
         : m_writer(document), m_keyName(keyName), m_signedNames(std::move(signedNames)) {}
 
     bool MarkAll(IXMLDOMNode* group) {
-        DomNode object = FirstChild(group);
+        base::XmlNodePtr object = FirstChild(group);
         if (!object) return Fail(Cause::DocumentsMissing);
         for (; object; MoveToNext(object)) {
             bool isSigned = false;
@@ -51,7 +51,7 @@ public:
 private:
     /// Whether a key property names a signed document; properties behind that one are not looked at.
     bool LookUp(IXMLDOMNode* object, bool& isSigned) {
-        DomNode child = FirstChild(object);
+        base::XmlNodePtr child = FirstChild(object);
         if (!child) return Fail(Cause::ObjectEmpty);
         for (; child && !isSigned; MoveToNext(child)) {
             CString name, value;
@@ -71,11 +71,11 @@ private:
 
 bool WriteReturnFile(const CStringList& signedNames, const CString& keyName, const CString& workFolder,
                      const CString& returnFile) {
-    const DomDocument document = LoadKeptMessage(workFolder);
+    const base::XmlDocumentPtr document = LoadKeptMessage(workFolder);
     if (!document) return false;
     if (!RemoveNode(document, L"root/objs/type[@id=\"LoginInfo\"]")) return Fail(Cause::LoginMissing);
     if (!RemoveNode(document, L"root/objs/type[@id=\"step\"]")) return Fail(Cause::StepsMissing);
-    const DomNode group = SelectNode(document, L"root/objs/type");
+    const base::XmlNodePtr group = SelectNode(document, L"root/objs/type");
     if (!group) return Fail(Cause::DocumentsMissing);
     if (!DocumentMarker(document, keyName, NonEmptyNames(signedNames)).MarkAll(group)) return false;
     const CString path = returnFile.Left(returnFile.ReverseFind(L'.')) + L"_Ret.Xml";

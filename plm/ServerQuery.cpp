@@ -33,9 +33,10 @@ CString ReadObjectProperty(const CString& xmlFile, const CString& name) {
     return Guarded(CString(), [&] {
         CString value;
         if (xmlFile.IsEmpty() || name.IsEmpty()) return value;
-        const DomDocument document = base::LoadXmlFile(xmlFile);
+        const base::XmlDocumentPtr document = base::LoadXmlFile(xmlFile);
         if (!document) return value;
-        DomElement property(SelectNode(document, L"root/objs/type/obj/pro[@name=\"" + name + L"\"]"));
+        base::XmlElementPtr property(
+            SelectNode(document, L"root/objs/type/obj/pro[@name=\"" + name + L"\"]"));
         if (property) AttributeReader(L"value").Read(property, value);
         return value;
     });

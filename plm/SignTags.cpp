@@ -6,6 +6,7 @@
 #include "module/ModulePaths.h"
 #include "plm/SignDataFolder.h"
 #include "plm/TagFile.h"
+#include "varnoke/Elements.h"
 
 namespace varnoke {
 
@@ -65,9 +66,8 @@ CString ModificationTime(const CString& folder, const CString& fileName) {
 /// The local names of the list's items, without empty ones.
 std::vector<CString> DocumentNames(const SSignFileDUL& list) {
     std::vector<CString> names;
-    for (POSITION position = list.m_lstItem.GetHeadPosition(); position;) {
-        const SSignFileDULItem* item = list.m_lstItem.GetNext(position);
-        if (item && !item->m_strLocalName.IsEmpty()) names.push_back(item->m_strLocalName);
+    for (const SSignFileDULItem* item : Elements(list.m_lstItem)) {
+        if (!item->m_strLocalName.IsEmpty()) names.push_back(item->m_strLocalName);
     }
     return names;
 }

@@ -8,12 +8,13 @@
 #include "module/Text.h"
 #include "plm/NoCase.h"
 #include "plm/SignDataFolder.h"
+#include "varnoke/Elements.h"
 
 namespace varnoke {
 
 namespace {
 
-/// Null when the document has none.
+/// Null when there is no document, or one without a name.
 const CString* FileNameOf(const SSignObj* object) {
     return object ? FirstValueNoCase(*object, L"FNAME") : nullptr;
 }
@@ -78,8 +79,8 @@ OwnedRecord<SSignType> MergeSignFiles(IXMLDOMDocument* source, IXMLDOMDocument* 
 
 void RemoveKeptDocuments(SSignType& source, const SSignType& target) {
     NoCaseSet kept;
-    for (POSITION position = target.m_lstObj.GetHeadPosition(); position;) {
-        if (const CString* name = FileNameOf(target.m_lstObj.GetNext(position))) kept.insert(*name);
+    for (const SSignObj* object : Elements(target.m_lstObj)) {
+        if (const CString* name = FileNameOf(object)) kept.insert(*name);
     }
     for (POSITION position = source.m_lstObj.GetTailPosition(); position;) {
         const POSITION current = position;
@@ -94,17 +95,14 @@ void RemoveKeptDocuments(SSignType& source, const SSignType& target) {
 
 bool AppendDocuments(IXMLDOMDocument* target, const SSignType& source) {
     CString id;
-    const DomNode group = FindDocumentGroup(target, id);
+    const base::XmlNodePtr group = FindDocumentGroup(target, id);
     if (!group) return false;
     ElementWriter writer(target);
-    for (POSITION position = source.m_lstObj.GetHeadPosition(); position;) {
-        const SSignObj* object = source.m_lstObj.GetNext(position);
-        if (!object || object->IsEmpty()) continue;
-        DomElement element = writer.AppendObject(group);
-        for (POSITION at = object->GetHeadPosition(); at;) {
-            const SSignPro* property = object->GetNext(at);
-            if (property) writer.AppendProperty(element, property->m_strName, property->m_strValue);
-        }
+    for (const SSignObj* object : Elements(source.m_lstObj)) {
+        if (object->IsEmpty()) continue;
+        base::XmlElementPtr element = writer.AppendObject(group);
+        for (const SSignPro* property : Elements(*object))
+            writer.AppendProperty(element, property->m_strName, property->m_strValue);
     }
     return true;
 }
@@ -112,22 +110,22 @@ bool AppendDocuments(IXMLDOMDocument* target, const SSignType& source) {
 bool AddAttribute(const wchar_t* name, const wchar_t* value, IXMLDOMNamedNodeMap* attributes,
                   IXMLDOMDocument* document) {
     if (!HasText(name) || !value || !attributes || !document) return Fail(Cause::ArgumentMissing);
-    DomNode attribute;
+    base::XmlNodePtr attribute;
     Succeeded(
         document->createNode(_variant_t(long(NODE_ATTRIBUTE)), _bstr_t(name), _bstr_t(L""), &attribute));
     Succeeded(attribute->put_nodeValue(_variant_t(value)));
-    DomNode replaced;
+    base::XmlNodePtr replaced;
     Succeeded(attributes->setNamedItem(attribute, &replaced));
     return true;
 }
 
 bool MergeStartSignMessage(const wchar_t* xml, const CString& workFolder, StartSignRecords& records) {
-    const DomDocument source = LoadNewMessage(xml);
+    const base::XmlDocumentPtr source = LoadNewMessage(xml);
     if (!source) return false;
     MakeSignDataFolder(workFolder);
     const CString path = KeptMessagePath(workFolder);
     MakeWritable(path);
-    const DomDocument target = LoadKeptMessage(workFolder);
+    const base::XmlDocumentPtr target = LoadKeptMessage(workFolder);
     if (!target) return false;
 
     records.login = MergeLoginInfo(source, target);

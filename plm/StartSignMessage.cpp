@@ -15,7 +15,7 @@ namespace {
 OwnedRecord<SSignObj> ReadObject(IXMLDOMNode* node, const SSignObj* model, PropertyReader& reader) {
     OwnedRecord<SSignObj> object(new SSignObj);
     POSITION at = model ? model->GetHeadPosition() : nullptr;
-    for (DomNode child = FirstChild(node); child; MoveToNext(child)) {
+    for (base::XmlNodePtr child = FirstChild(node); child; MoveToNext(child)) {
         auto property = std::make_unique<SSignPro>();
         if (at) property->m_strName = model->GetNext(at)->m_strName;
         if (!reader.Read(child, property->m_strName, property->m_strValue))
@@ -46,7 +46,7 @@ CString TextOf(const base::XmlFault& fault) {
 } // namespace
 
 OwnedRecord<SLoginInfo> ReadLoginInfo(IXMLDOMDocument* document) {
-    const DomNode object = SelectNode(document, L"root/objs/type[@id=\"LoginInfo\"]/obj");
+    const base::XmlNodePtr object = SelectNode(document, L"root/objs/type[@id=\"LoginInfo\"]/obj");
     if (!object) return Fail(Cause::LoginMissing);
 
     OwnedRecord<SLoginInfo> login(new SLoginInfo);
@@ -58,7 +58,7 @@ OwnedRecord<SLoginInfo> ReadLoginInfo(IXMLDOMDocument* document) {
                  {L"PLMServer", login->m_strPLMServer}};
     int count = 0; // a repeated name counts again
     PropertyReader reader;
-    for (DomNode child = FirstChild(object); child; MoveToNext(child)) {
+    for (base::XmlNodePtr child = FirstChild(object); child; MoveToNext(child)) {
         CString name, value;
         if (!reader.Read(child, name, value)) return Fail(Cause::PropertyIncomplete);
         for (const auto& slot : slots) {
@@ -75,19 +75,19 @@ OwnedRecord<SLoginInfo> ReadLoginInfo(IXMLDOMDocument* document) {
 OwnedRecord<SSignType> ReadSignSteps(IXMLDOMDocument* document) {
     OwnedRecord<SSignType> steps(new SSignType);
     PropertyReader reader;
-    DomNodeList objects = SelectNodes(document, L"root/objs/type[@id=\"step\"]/obj");
-    while (const DomNode object = NextNode(objects)) {
+    base::XmlNodeListPtr objects = SelectNodes(document, L"root/objs/type[@id=\"step\"]/obj");
+    while (const base::XmlNodePtr object = NextNode(objects)) {
         if (!AppendObject(*steps, object, reader)) return nullptr;
     }
     if (steps->m_lstObj.IsEmpty()) return Fail(Cause::StepsMissing);
     return steps;
 }
 
-DomNode FindDocumentGroup(IXMLDOMDocument* document, CString& id) {
+base::XmlNodePtr FindDocumentGroup(IXMLDOMDocument* document, CString& id) {
     AttributeReader reader(L"id");
-    DomNodeList groups = SelectNodes(document, L"root/objs/type");
-    while (const DomNode group = NextNode(groups)) {
-        DomElement element(group);
+    base::XmlNodeListPtr groups = SelectNodes(document, L"root/objs/type");
+    while (const base::XmlNodePtr group = NextNode(groups)) {
+        base::XmlElementPtr element(group);
         if (!element || !reader.Read(element, id)) return Fail(Cause::GroupWithoutId);
         if (id.CompareNoCase(L"LoginInfo") != 0 && id.CompareNoCase(L"Step") != 0) return group;
     }
@@ -96,10 +96,10 @@ DomNode FindDocumentGroup(IXMLDOMDocument* document, CString& id) {
 
 OwnedRecord<SSignType> ReadSignFiles(IXMLDOMDocument* document) {
     OwnedRecord<SSignType> files(new SSignType);
-    const DomNode group = FindDocumentGroup(document, files->m_strId);
+    const base::XmlNodePtr group = FindDocumentGroup(document, files->m_strId);
     if (!group) return nullptr;
     PropertyReader reader;
-    for (DomNode object = FirstChild(group); object; MoveToNext(object)) {
+    for (base::XmlNodePtr object = FirstChild(group); object; MoveToNext(object)) {
         if (!AppendObject(*files, object, reader)) return nullptr;
     }
     if (files->m_lstObj.IsEmpty()) return Fail(Cause::DocumentsMissing, files->m_strId);
@@ -110,24 +110,24 @@ CString KeptMessagePath(const CString& workFolder) {
     return SignDataFolder(workFolder) + L"StartSign.Xml";
 }
 
-DomDocument LoadNewMessage(const wchar_t* xml) {
+base::XmlDocumentPtr LoadNewMessage(const wchar_t* xml) {
     base::XmlFault fault;
-    const DomDocument document = LoadMessage(xml, fault);
+    const base::XmlDocumentPtr document = LoadMessage(xml, fault);
     if (!document) Fail(Cause::MessageNotWellFormed, TextOf(fault));
     return document;
 }
 
-DomDocument LoadKeptMessage(const CString& workFolder) {
+base::XmlDocumentPtr LoadKeptMessage(const CString& workFolder) {
     const CString path = KeptMessagePath(workFolder);
     base::XmlFault fault;
-    const DomDocument document = base::LoadXmlFile(path, &fault);
+    const base::XmlDocumentPtr document = base::LoadXmlFile(path, &fault);
     if (!document && !base::FileExists(path)) return Fail(Cause::KeptMessageMissing, path);
     if (!document) Fail(Cause::KeptMessageUnreadable, TextOf(fault));
     return document;
 }
 
 bool ParseStartSignMessage(const wchar_t* xml, const CString& workFolder, StartSignRecords& records) {
-    const DomDocument document = LoadNewMessage(xml);
+    const base::XmlDocumentPtr document = LoadNewMessage(xml);
     if (!document) return false;
     MakeSignDataFolder(workFolder);
     if (!base::SaveXml(document, KeptMessagePath(workFolder)))

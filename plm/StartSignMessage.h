@@ -22,14 +22,14 @@ OwnedRecord<SSignType> ReadSignFiles(IXMLDOMDocument* document);
 
 /// The first group that is neither the login nor the steps, and its identifier; null when there is none
 /// before a group without an identifier.
-DomNode FindDocumentGroup(IXMLDOMDocument* document, CString& id);
+base::XmlNodePtr FindDocumentGroup(IXMLDOMDocument* document, CString& id);
 
 /// Path of the kept message; the folder is not created.
 CString KeptMessagePath(const CString& workFolder);
 
 /// A message (XML text) and the kept one as documents; null, with the cause stated, on failure.
-DomDocument LoadNewMessage(const wchar_t* xml);
-DomDocument LoadKeptMessage(const CString& workFolder);
+base::XmlDocumentPtr LoadNewMessage(const wchar_t* xml);
+base::XmlDocumentPtr LoadKeptMessage(const CString& workFolder);
 
 /// Keeps the message (XML text) in the work folder, then reads it. A well-formed message replaces the kept
 /// one even when it turns out to be incomplete.

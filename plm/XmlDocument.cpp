@@ -48,45 +48,45 @@ bool Succeeded(HRESULT result) {
     return result == S_OK;
 }
 
-DomDocument LoadMessage(const wchar_t* text, base::XmlFault& fault) {
+base::XmlDocumentPtr LoadMessage(const wchar_t* text, base::XmlFault& fault) {
     constexpr wchar_t kByteOrderMark = 0xFEFF;
     const std::wstring whole(text + (*text == kByteOrderMark ? 1 : 0));
     return HasWholeCharacters(whole) ? base::LoadXmlText(WithoutEncoding(whole), &fault) : nullptr;
 }
 
-DomNode SelectNode(IXMLDOMNode* context, const wchar_t* path) {
-    DomNode node;
+base::XmlNodePtr SelectNode(IXMLDOMNode* context, const wchar_t* path) {
+    base::XmlNodePtr node;
     Require(context);
     Succeeded(context->selectSingleNode(_bstr_t(path), &node));
     return node;
 }
 
-DomNodeList SelectNodes(IXMLDOMNode* context, const wchar_t* path) {
-    DomNodeList list;
+base::XmlNodeListPtr SelectNodes(IXMLDOMNode* context, const wchar_t* path) {
+    base::XmlNodeListPtr list;
     Require(context);
     Succeeded(context->selectNodes(_bstr_t(path), &list));
     return list;
 }
 
-DomNode NextNode(DomNodeList& list) {
-    DomNode node;
+base::XmlNodePtr NextNode(base::XmlNodeListPtr& list) {
+    base::XmlNodePtr node;
     Succeeded(list->nextNode(&node));
     return node;
 }
 
-DomNode FirstChild(IXMLDOMNode* node) {
-    DomNode child;
+base::XmlNodePtr FirstChild(IXMLDOMNode* node) {
+    base::XmlNodePtr child;
     Succeeded(node->get_firstChild(&child));
     return child;
 }
 
-void MoveToNext(DomNode& node) {
+void MoveToNext(base::XmlNodePtr& node) {
     IXMLDOMNode* next = nullptr;
     Succeeded(node->get_nextSibling(&next));
     node.Attach(next);
 }
 
-bool AttributeReader::Read(DomElement& element, CString& value) {
+bool AttributeReader::Read(base::XmlElementPtr& element, CString& value) {
     _variant_t attribute;
     if (element->getAttribute(m_name, &attribute) != S_OK || attribute.vt != VT_BSTR) return false;
     const int length = static_cast<int>(::SysStringLen(attribute.bstrVal));
@@ -96,27 +96,27 @@ bool AttributeReader::Read(DomElement& element, CString& value) {
     return true;
 }
 
-bool PropertyReader::Read(DomNode& node, CString& name, CString& value) {
-    DomElement element(node);
+bool PropertyReader::Read(base::XmlNodePtr& node, CString& name, CString& value) {
+    base::XmlElementPtr element(node);
     return element && m_name.Read(element, name) && m_value.Read(element, value);
 }
 
-DomElement ElementWriter::Append(IXMLDOMNode* parent, _bstr_t& tag) {
-    DomElement element;
+base::XmlElementPtr ElementWriter::Append(IXMLDOMNode* parent, _bstr_t& tag) {
+    base::XmlElementPtr element;
     Succeeded(m_document->createElement(tag, &element));
-    DomNode appended;
+    base::XmlNodePtr appended;
     Succeeded(parent->appendChild(element, &appended));
     return element;
 }
 
-DomElement ElementWriter::AppendObject(IXMLDOMNode* group) {
-    DomElement object = Append(group, m_object);
+base::XmlElementPtr ElementWriter::AppendObject(IXMLDOMNode* group) {
+    base::XmlElementPtr object = Append(group, m_object);
     Succeeded(object->setAttribute(m_symbol, _variant_t(L"")));
     return object;
 }
 
 void ElementWriter::AppendProperty(IXMLDOMNode* object, const wchar_t* name, const wchar_t* value) {
-    const DomElement property = Append(object, m_property);
+    const base::XmlElementPtr property = Append(object, m_property);
     Succeeded(property->setAttribute(m_name, _variant_t(name)));
     Succeeded(property->setAttribute(m_value, _variant_t(value)));
 }

@@ -8,27 +8,22 @@
 
 namespace varnoke {
 
-using DomDocument = base::XmlDocumentPtr;
-using DomNode = base::XmlNodePtr;
-using DomElement = base::XmlElementPtr;
-using DomNodeList = base::XmlNodeListPtr;
-
 /// Whether a call gave a result; raises _com_error when it failed.
 bool Succeeded(HRESULT result);
 
 /// Loads a text, whatever encoding its XML declaration names; null for one that is not well-formed or brings
 /// a document type definition.
-DomDocument LoadMessage(const wchar_t* text, base::XmlFault& fault);
+base::XmlDocumentPtr LoadMessage(const wchar_t* text, base::XmlFault& fault);
 
 /// First match of the path, or null.
-DomNode SelectNode(IXMLDOMNode* context, const wchar_t* path);
+base::XmlNodePtr SelectNode(IXMLDOMNode* context, const wchar_t* path);
 /// All matches; take them with NextNode, access by index is not linear.
-DomNodeList SelectNodes(IXMLDOMNode* context, const wchar_t* path);
-DomNode NextNode(DomNodeList& list);
+base::XmlNodeListPtr SelectNodes(IXMLDOMNode* context, const wchar_t* path);
+base::XmlNodePtr NextNode(base::XmlNodeListPtr& list);
 
-/// Walk over the children: for (DomNode child = FirstChild(node); child; MoveToNext(child)).
-DomNode FirstChild(IXMLDOMNode* node);
-void MoveToNext(DomNode& node);
+/// Walk over the children: for (base::XmlNodePtr child = FirstChild(node); child; MoveToNext(child)).
+base::XmlNodePtr FirstChild(IXMLDOMNode* node);
+void MoveToNext(base::XmlNodePtr& node);
 
 /// Reads one attribute of many nodes.
 class AttributeReader {
@@ -36,7 +31,7 @@ public:
     explicit AttributeReader(const wchar_t* name) : m_name(name) {}
     /// False when the element lacks the attribute or its value is no text. A text that `value` has already
     /// stays there with the buffer that it may share.
-    bool Read(DomElement& element, CString& value);
+    bool Read(base::XmlElementPtr& element, CString& value);
 
 private:
     _bstr_t m_name;
@@ -46,7 +41,7 @@ private:
 class PropertyReader {
 public:
     /// False when one of the two is missing.
-    bool Read(DomNode& node, CString& name, CString& value);
+    bool Read(base::XmlNodePtr& node, CString& name, CString& value);
 
 private:
     AttributeReader m_name{L"name"};
@@ -60,12 +55,12 @@ public:
     explicit ElementWriter(IXMLDOMDocument* document) : m_document(document) {}
 
     /// A new object "obj" with the empty attribute "MSYM".
-    DomElement AppendObject(IXMLDOMNode* group);
+    base::XmlElementPtr AppendObject(IXMLDOMNode* group);
     /// A new property "pro" of the object.
     void AppendProperty(IXMLDOMNode* object, const wchar_t* name, const wchar_t* value);
 
 private:
-    DomElement Append(IXMLDOMNode* parent, _bstr_t& tag);
+    base::XmlElementPtr Append(IXMLDOMNode* parent, _bstr_t& tag);
 
     IXMLDOMDocument* m_document; // weak
     _bstr_t m_object{L"obj"};

@@ -3,6 +3,7 @@
 
 #include "module/Guarded.h"
 #include "module/Trace.h"
+#include "neighbours/signserver.h"
 
 using varnoke::Cause;
 using varnoke::Fail;
@@ -54,7 +55,8 @@ long CSignOpt::Login(wchar_t* plmUser, wchar_t* password, wchar_t* serverAddress
         m_serverPort = m_config.GetServerPort();
         m_plmUser = plmUser;
         m_password = password;
-        return Call(m_config.GetDynDisp(L"Login"), {m_signUser, m_password, m_serverAddress, m_serverPort});
+        return Call(m_config.GetDynDisp(signserver::kLogin),
+                    {m_signUser, m_password, m_serverAddress, m_serverPort});
     });
 }
 
@@ -80,7 +82,7 @@ long CSignOpt::SignForBackSign(IDispatch* document, SSignInfo* info) {
         if (!AreGiven(document, info)) return 0;
         m_config.GetDelPre(); // reserved: read, without a meaning yet
         const SSignInfo& i = *info;
-        return Call(m_config.GetDynDisp(L"Sign"),
+        return Call(m_config.GetDynDisp(signserver::kSign),
                     {i.m_strFirstText, i.m_strSecondText, i.m_strDateText, i.m_strUserName, i.m_strRole},
                     {i.m_dA, i.m_dB - i.m_dD, i.m_dE, i.m_dF - i.m_dH, i.m_dC, i.m_dD, i.m_dG, i.m_dH});
     });
@@ -89,28 +91,31 @@ long CSignOpt::SignForBackSign(IDispatch* document, SSignInfo* info) {
 long CSignOpt::DeleteSignForBackSign(IDispatch* document, SSignInfo* info) {
     return Guarded(0L, [&]() -> long {
         if (!AreGiven(document, info)) return 0;
-        return Call(m_config.GetDynDisp(L"SignatureDelete"),
+        return Call(m_config.GetDynDisp(signserver::kSignatureDelete),
                     {info->m_strFirstText, info->m_strUserName, info->m_strRole});
     });
 }
 
 long CSignOpt::DeleteAllSignForBackSign(IDispatch* document, wchar_t* text) {
     return Guarded(0L, [&] {
-        return AreGiven(document, text, L"text") ? Call(m_config.GetDynDisp(L"DeleteAllSign"), {text}) : 0L;
+        return AreGiven(document, text, L"text")
+                   ? Call(m_config.GetDynDisp(signserver::kDeleteAllSign), {text})
+                   : 0L;
     });
 }
 
 long CSignOpt::SignatureValidateForBackSign(IDispatch* document, wchar_t* text) {
     return Guarded(0L, [&] {
-        return AreGiven(document, text, L"text") ? Call(m_config.GetDynDisp(L"SignatureValidate"), {text})
-                                                 : 0L;
+        return AreGiven(document, text, L"text")
+                   ? Call(m_config.GetDynDisp(signserver::kSignatureValidate), {text})
+                   : 0L;
     });
 }
 
 long CSignOpt::ClearInvalidSignForBackSign(IDispatch* document, wchar_t* text) {
     return Guarded(0L, [&] {
         return AreGiven(document, text, L"text")
-                   ? Call(m_config.GetDynDisp(L"SignatureInvalidDelete"), {text})
+                   ? Call(m_config.GetDynDisp(signserver::kSignatureInvalidDelete), {text})
                    : 0L;
     });
 }
@@ -126,7 +131,7 @@ long CSignOpt::CancelSign(IDispatch* document, wchar_t* firstText, wchar_t* user
             return 0;
         // The configured name only has to be there: what is called is always the deletion of a signature.
         if (m_config.GetDynDisp(L"CancelSign").IsEmpty()) return 0;
-        return Call(L"SignatureDelete", {firstText, userName, role});
+        return Call(signserver::kSignatureDelete, {firstText, userName, role});
     });
 }
 

@@ -2,11 +2,10 @@
 #include "varnoke/SignOpt.h"
 
 #include "module/Guarded.h"
+#include "neighbours/signserver.h"
 
 namespace {
 
-constexpr const wchar_t* kMethods[] = {
-    L"Login", L"Sign", L"SignatureDelete", L"DeleteAllSign", L"SignatureInvalidDelete", L"SignatureValidate"};
 constexpr int kNameSize = 1024;
 
 } // namespace
@@ -14,7 +13,7 @@ constexpr int kNameSize = 1024;
 long CSignOpt::CheckMethods(wchar_t* missing) {
     if (missing) *missing = L'\0';
     return varnoke::Guarded(0L, [&] {
-        for (const wchar_t* method : kMethods) {
+        for (const wchar_t* method : signserver::kMethods) {
             const CString configured = m_config.GetDynDisp(method);
             if (SelectMethod(configured) > 0) continue;
             if (missing && IsConnected()) ::lstrcpynW(missing, configured, kNameSize);

@@ -4,6 +4,7 @@
 #include "base/ComApartment.h"
 #include "base/ExclusiveLock.h"
 #include "base/WholeFile.h"
+#include "module/TransferFiles.h"
 
 using namespace varnoke;
 
@@ -117,14 +118,10 @@ unsigned CTransferWorker::Run() {
 }
 
 void CTransferWorker::TransferList() {
-    CString folder = m_list->m_strFolder;
-    if (!folder.IsEmpty() && folder.Right(1) != L"\\") folder += L"\\";
     Post(kRunStarted, nullptr);
-    for (POSITION pos = m_list->m_lstItem.GetHeadPosition(); pos && !IsClosed();) {
-        SSignFileDULItem* item = m_list->m_lstItem.GetNext(pos);
-        if (!item || item->m_strRemoteName.IsEmpty() || item->m_strLocalName.IsEmpty()) continue;
-        if (!TransferItem(*item, folder + item->m_strLocalName)) break;
-    }
+    ForEachFile(*m_list, [this](SSignFileDULItem& item, const CString& path) {
+        return !IsClosed() && TransferItem(item, path);
+    });
 }
 
 // Returns false when the run cannot go on.

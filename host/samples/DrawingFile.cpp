@@ -17,7 +17,7 @@ constexpr unsigned char kPreviewStart[16] = {0x1F, 0x25, 0x6D, 0x07, 0xD4, 0x36,
                                              0x9D, 0x57, 0xCA, 0x3F, 0x9D, 0x44, 0x10, 0x2B};
 
 /// What the preview section holds; each image has an entry of nine bytes.
-enum ImageCode : char { imageHeader = 1, imageBitmap = 2 };
+enum ImageCode : char { kImageHeader = 1, kImageBitmap = 2 };
 constexpr size_t kImageEntrySize = 9;
 constexpr char kImageCount = 2;
 
@@ -42,13 +42,13 @@ std::string MakeDrawing(const char* version, const std::string& dib) {
     bytes[kSeekerOffset] = kHeaderSize;
     bytes[kCodePageOffset] = kCodePage936;
 
-    constexpr size_t entries = 1 + kImageCount * kImageEntrySize;
-    const size_t header = kHeaderSize + sizeof kPreviewStart + 4 + entries;
+    constexpr size_t kEntriesSize = 1 + kImageCount * kImageEntrySize;
+    const size_t header = kHeaderSize + sizeof kPreviewStart + 4 + kEntriesSize;
     bytes.append(reinterpret_cast<const char*>(kPreviewStart), sizeof kPreviewStart);
-    AppendLong(bytes, entries + kPreviewHeaderSize + dib.size());
+    AppendLong(bytes, kEntriesSize + kPreviewHeaderSize + dib.size());
     bytes.push_back(kImageCount);
-    AppendImageEntry(bytes, imageHeader, header, kPreviewHeaderSize);
-    AppendImageEntry(bytes, imageBitmap, header + kPreviewHeaderSize, dib.size());
+    AppendImageEntry(bytes, kImageHeader, header, kPreviewHeaderSize);
+    AppendImageEntry(bytes, kImageBitmap, header + kPreviewHeaderSize, dib.size());
     bytes.resize(bytes.size() + kPreviewHeaderSize);
     bytes += dib;
     for (unsigned char c : kPreviewStart) {

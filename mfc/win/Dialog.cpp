@@ -30,7 +30,7 @@ namespace {
 // Takes no input from construction until Enable or the end of the scope.
 class CDisabledOwner {
 public:
-    explicit CDisabledOwner(HWND hWnd) : m_hWnd(hWnd != nullptr && ::IsWindowEnabled(hWnd) ? hWnd : nullptr) {
+    explicit CDisabledOwner(HWND hWnd) : m_hWnd(hWnd) {
         if (m_hWnd != nullptr) ::EnableWindow(m_hWnd, FALSE);
     }
     ~CDisabledOwner() { Enable(); }

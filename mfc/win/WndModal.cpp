@@ -24,8 +24,8 @@ bool PreTranslate(MSG* pMsg) {
 bool PumpMessage() {
     MSG msg = {};
     if (::GetMessage(&msg, nullptr, 0, 0) <= 0) {
-        // The loop further out has to end too, and its caller wants the exit code.
-        ::PostQuitMessage(static_cast<int>(msg.wParam));
+        // The loop further out has to end too; as in MFC, it gets no exit code.
+        ::PostQuitMessage(0);
         return false;
     }
     if (!PreTranslate(&msg)) {

@@ -13,29 +13,29 @@ constexpr long kMostRows = 1000000;
 constexpr long kMostColumns = 1000;
 
 template <HRESULT (GridControl::*Method)(Arguments&, VARIANT&)>
-constexpr auto call = &Forward<GridControl, Method>;
+constexpr auto kCall = &Forward<GridControl, Method>;
 
 const DispatchTable& GridControl::Members() const {
     using namespace varnoke;
-    constexpr WORD method = DISPATCH_METHOD, get = DISPATCH_PROPERTYGET, put = DISPATCH_PROPERTYPUT;
+    constexpr WORD kMethod = DISPATCH_METHOD, kGet = DISPATCH_PROPERTYGET, kPut = DISPATCH_PROPERTYPUT;
     static const DispatchTable members = {
-        {kGridRowCount, L"RowCount", get, "", call<&GridControl::GetRowCount>},
-        {kGridColumnCount, L"ColumnCount", put, "I", call<&GridControl::PutColumnCount>},
-        {kGridSortable, L"Sortable", put, "I", call<&GridControl::TakeZero>},
-        {kGridShowHeader, L"ShowHeader", put, "I", call<&GridControl::PutShowHeader>},
-        {kGridSetCellText, L"SetCellText", method, "IIS", call<&GridControl::SetCellText>},
-        {kGridGetCellText, L"GetCellText", method, "II", call<&GridControl::GetCellText>},
-        {kGridSetColumnText, L"SetColumnText", method, "IS", call<&GridControl::SetColumnText>},
-        {kGridSetColumnWidth, L"SetColumnWidth", method, "II", call<&GridControl::SetColumnWidth>},
-        {kGridSetColumnEditor, L"SetColumnEditor", method, "IS", call<&GridControl::SetColumnEditor>},
-        {kGridSetSelectionMode, L"SetSelectionMode", method, "I", call<&GridControl::SetSelectionMode>},
-        {kGridSetFixedColumns, L"SetFixedColumns", method, "I", call<&GridControl::TakeZero>},
-        {kGridSetFixedRows, L"SetFixedRows", method, "I", call<&GridControl::TakeZero>},
-        {kGridAppendRow, L"AppendRow", method, "", call<&GridControl::AppendRow>},
-        {kGridRowValue, L"RowValue", method, "I", call<&GridControl::GetRowValue>},
-        {kGridRowValue, L"RowValue", method, "II", call<&GridControl::SetRowValue>},
-        {kGridSetColumnKind, L"SetColumnKind", method, "II", call<&GridControl::SetColumnKind>},
-        {kGridSetGridLines, L"SetGridLines", method, "I", call<&GridControl::SetGridLines>},
+        {kGridRowCount, L"RowCount", kGet, "", kCall<&GridControl::GetRowCount>},
+        {kGridColumnCount, L"ColumnCount", kPut, "I", kCall<&GridControl::PutColumnCount>},
+        {kGridSortable, L"Sortable", kPut, "I", kCall<&GridControl::TakeZero>},
+        {kGridShowHeader, L"ShowHeader", kPut, "I", kCall<&GridControl::PutShowHeader>},
+        {kGridSetCellText, L"SetCellText", kMethod, "IIS", kCall<&GridControl::SetCellText>},
+        {kGridGetCellText, L"GetCellText", kMethod, "II", kCall<&GridControl::GetCellText>},
+        {kGridSetColumnText, L"SetColumnText", kMethod, "IS", kCall<&GridControl::SetColumnText>},
+        {kGridSetColumnWidth, L"SetColumnWidth", kMethod, "II", kCall<&GridControl::SetColumnWidth>},
+        {kGridSetColumnEditor, L"SetColumnEditor", kMethod, "IS", kCall<&GridControl::SetColumnEditor>},
+        {kGridSetSelectionMode, L"SetSelectionMode", kMethod, "I", kCall<&GridControl::SetSelectionMode>},
+        {kGridSetFixedColumns, L"SetFixedColumns", kMethod, "I", kCall<&GridControl::TakeZero>},
+        {kGridSetFixedRows, L"SetFixedRows", kMethod, "I", kCall<&GridControl::TakeZero>},
+        {kGridAppendRow, L"AppendRow", kMethod, "", kCall<&GridControl::AppendRow>},
+        {kGridRowValue, L"RowValue", kMethod, "I", kCall<&GridControl::GetRowValue>},
+        {kGridRowValue, L"RowValue", kMethod, "II", kCall<&GridControl::SetRowValue>},
+        {kGridSetColumnKind, L"SetColumnKind", kMethod, "II", kCall<&GridControl::SetColumnKind>},
+        {kGridSetGridLines, L"SetGridLines", kMethod, "I", kCall<&GridControl::SetGridLines>},
     };
     return members;
 }

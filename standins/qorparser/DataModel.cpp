@@ -65,8 +65,8 @@ STDMETHODIMP DataEntry::GetLocalObject(IQORDataObject** local) {
 
 STDMETHODIMP DataEntry::Delete() {
     return ModelCall([&] {
-        if (!m_model) return S_FALSE;
-        m_model->Remove(this);
+        if (!model) return S_FALSE;
+        model->Remove(this);
         return S_OK;
     });
 }
@@ -78,7 +78,7 @@ void* DataEntry::FindParent(REFIID iid) {
 
 DataModel::~DataModel() {
     for (const EntryPtr& entry : m_entries)
-        entry->m_model = nullptr;
+        entry->model = nullptr;
 }
 
 STDMETHODIMP DataModel::CreateEntry(BSTR type, IQORDataEntry** entry) {
@@ -92,9 +92,9 @@ STDMETHODIMP DataModel::CreateEntry(BSTR type, IQORDataEntry** entry) {
 STDMETHODIMP DataModel::AddEntry(IQORDataEntry* entry) {
     return ModelCall([&] {
         const EntryPtr own(entry);
-        if (!own || own->m_model) return E_INVALIDARG;
+        if (!own || own->model) return E_INVALIDARG;
         m_entries.push_back(own);
-        own->m_model = this;
+        own->model = this;
         return S_OK;
     });
 }
@@ -127,7 +127,7 @@ STDMETHODIMP DataModel::FindEntries(BSTR type, BSTR property, BSTR value, IQORDa
 void DataModel::Remove(DataEntry* entry) {
     const auto held = std::find_if(m_entries.begin(), m_entries.end(),
                                    [&](const EntryPtr& other) { return other.GetInterfacePtr() == entry; });
-    entry->m_model = nullptr;
+    entry->model = nullptr;
     m_entries.erase(held);
 }
 

@@ -26,7 +26,7 @@ public:
     const std::wstring& Type() const { return m_type; }
 
     // The model that holds the entry, which clears this when it lets go of it.
-    DataModel* m_model = nullptr; // weak
+    DataModel* model = nullptr; // weak
 
 protected:
     void* FindParent(REFIID iid) override;

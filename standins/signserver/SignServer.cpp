@@ -2,6 +2,8 @@
 #include <algorithm>
 #include <cstdio>
 #include <string>
+#include <unordered_map>
+#include <vector>
 
 #include "base/Dispatch.h"
 #include "base/Text.h"
@@ -18,48 +20,46 @@ namespace signserver {
 
 namespace {
 
-// One signature: the sign text that names what was signed, and who signed it in which role.
+// Who signed in which role.
 struct Signature {
-    std::wstring signText;
     std::wstring userName;
     std::wstring role;
 };
 
-// All signatures of the process, whichever server object placed them, kept in memory in place of a drawing.
-// Texts are compared without regard to case. Used on one thread, that of the apartment which made the server.
+// All signatures of the process, whichever server object placed them, kept in memory in place of a drawing,
+// by the sign text that names what was signed. Texts are compared without regard to case. Used on one thread,
+// that of the apartment which made the server.
 class SignatureBook {
 public:
     // A second signature with the same three texts replaces the first.
-    void Place(Signature signature) {
-        Remove(signature);
-        m_signatures.push_back(std::move(signature));
+    void Place(const std::wstring& signText, Signature signature) {
+        Remove(signText, signature);
+        m_signatures[Folded(signText)].push_back(std::move(signature));
     }
     // False when there is no such signature.
-    bool Remove(const Signature& wanted) {
-        return RemoveIf([&wanted](const Signature& signature) {
-            return SameText(signature.signText, wanted.signText) &&
-                   SameText(signature.userName, wanted.userName) && SameText(signature.role, wanted.role);
-        });
+    bool Remove(const std::wstring& signText, const Signature& wanted) {
+        const auto found = m_signatures.find(Folded(signText));
+        if (found == m_signatures.end()) return false;
+        std::vector<Signature>& placed = found->second;
+        const auto first =
+            std::remove_if(placed.begin(), placed.end(), [&wanted](const Signature& signature) {
+                return SameText(signature.userName, wanted.userName) && SameText(signature.role, wanted.role);
+            });
+        const bool removed = first != placed.end();
+        placed.erase(first, placed.end());
+        if (placed.empty()) m_signatures.erase(found);
+        return removed;
     }
-    void RemoveAll(const std::wstring& signText) {
-        RemoveIf([&signText](const Signature& signature) { return SameText(signature.signText, signText); });
-    }
-    bool Contains(const std::wstring& signText) const {
-        return std::any_of(m_signatures.begin(), m_signatures.end(), [&signText](const Signature& signature) {
-            return SameText(signature.signText, signText);
-        });
-    }
+    void RemoveAll(const std::wstring& signText) { m_signatures.erase(Folded(signText)); }
+    bool Contains(const std::wstring& signText) const { return m_signatures.count(Folded(signText)) != 0; }
 
 private:
-    template <class Condition>
-    bool RemoveIf(Condition condition) {
-        const auto first = std::remove_if(m_signatures.begin(), m_signatures.end(), condition);
-        const bool found = first != m_signatures.end();
-        m_signatures.erase(first, m_signatures.end());
-        return found;
+    static std::wstring Folded(std::wstring text) {
+        ::CharUpperBuffW(text.data(), static_cast<DWORD>(text.size()));
+        return text;
     }
 
-    std::vector<Signature> m_signatures;
+    std::unordered_map<std::wstring, std::vector<Signature>> m_signatures;
 };
 
 FaultCounter g_calls;
@@ -168,7 +168,7 @@ HRESULT SignServer::Login(Arguments& arguments, VARIANT& result) {
 HRESULT SignServer::Sign(Arguments& arguments, VARIANT& result) {
     return Run(L"Sign", JournalTexts(arguments), result, [&] {
         if (m_loggedIn)
-            g_signatures.Place({BstrText(arguments[0]), BstrText(arguments[3]), BstrText(arguments[4])});
+            g_signatures.Place(BstrText(arguments[0]), {BstrText(arguments[3]), BstrText(arguments[4])});
         return m_loggedIn;
     });
 }
@@ -176,7 +176,7 @@ HRESULT SignServer::Sign(Arguments& arguments, VARIANT& result) {
 HRESULT SignServer::SignatureDelete(Arguments& arguments, VARIANT& result) {
     return Run(L"SignatureDelete", JournalTexts(arguments), result, [&] {
         return m_loggedIn &&
-               g_signatures.Remove({BstrText(arguments[0]), BstrText(arguments[1]), BstrText(arguments[2])});
+               g_signatures.Remove(BstrText(arguments[0]), {BstrText(arguments[1]), BstrText(arguments[2])});
     });
 }
 
@@ -204,8 +204,8 @@ HRESULT SignServer::Test(Arguments& arguments, VARIANT& result) {
 
 std::vector<standins::ServedClass> standins::ServedClasses() {
     // {851F7888-998A-482B-8AFB-92E9867B0372}
-    constexpr CLSID signServer = {
+    constexpr CLSID kSignServer = {
         0x851f7888, 0x998a, 0x482b, {0x8a, 0xfb, 0x92, 0xe9, 0x86, 0x7b, 0x03, 0x72}};
-    return {{signServer, L"Brevanix.Brevanix0", L"Signing automation server", false,
+    return {{kSignServer, L"Brevanix.Brevanix0", L"Signing automation server", false,
              &MakeFactory<signserver::SignServer>}};
 }

@@ -38,8 +38,8 @@ constexpr DWORD kSentinelSize = 16;
 constexpr DWORD kSectionHeadSize = kSentinelSize + 4 + 1;
 constexpr DWORD kEntrySize = 1 + 4 + 4;
 
-constexpr BYTE sentinel[kSentinelSize] = {0x1F, 0x25, 0x6D, 0x07, 0xD4, 0x36, 0x28, 0x28,
-                                          0x9D, 0x57, 0xCA, 0x3F, 0x9D, 0x44, 0x10, 0x2B};
+constexpr BYTE kSentinel[kSentinelSize] = {0x1F, 0x25, 0x6D, 0x07, 0xD4, 0x36, 0x28, 0x28,
+                                           0x9D, 0x57, 0xCA, 0x3F, 0x9D, 0x44, 0x10, 0x2B};
 
 // Larger images are taken for damaged entries.
 constexpr DWORD kLargestImage = 64 * 1024 * 1024;
@@ -61,7 +61,8 @@ static std::vector<BYTE> ReadEntries(const FileReader& file) {
     BYTE seeker[4] = {}, head[kSectionHeadSize] = {};
     if (!HasDrawingVersion(file) || !file.Read(kSeekerOffset, seeker, sizeof(seeker))) return {};
     const DWORD section = NumberAt(seeker);
-    if (!file.Read(section, head, sizeof(head)) || std::memcmp(head, sentinel, kSentinelSize) != 0) return {};
+    if (!file.Read(section, head, sizeof(head)) || std::memcmp(head, kSentinel, kSentinelSize) != 0)
+        return {};
     const DWORD length = NumberAt(head + kSentinelSize);
     const DWORD entriesSize = head[kSectionHeadSize - 1] * kEntrySize;
     // Writers differ in whether the length counts the head, so only what holds for all of them is asked.
