@@ -21,15 +21,17 @@ fi
 # Each build has its own Wine prefix and settings, so their tests run side by side. Each side keeps to one
 # processor: a program and the Wine server take turns, and waking each other across processors takes longer.
 cpus=$(sed -n 's/^Cpus_allowed_list:[[:space:]]*//p' /proc/self/status)
+run_tests() { # PROCESSOR PRESET...
+    local result=0 preset
+    for preset in "${@:2}"; do
+        taskset -c "$1" scripts/with-wine.sh ctest --preset "$preset" || result=1
+    done
+    return $result
+}
 failed=0
-(
-    result=0
-    TZ=Asia/Shanghai taskset -c "${cpus##*[-,]}" scripts/with-wine.sh ctest --preset msabi || result=1
-    [ -z "$real_mfc" ] || taskset -c "${cpus##*[-,]}" scripts/with-wine.sh ctest --preset msabi-mfc || result=1
-    exit $result
-) >build/msabi-tests.log 2>&1 &
+TZ=Asia/Shanghai run_tests "${cpus##*[-,]}" msabi >build/msabi-tests.log 2>&1 &
 msabi=$!
-taskset -c "${cpus%%[-,]*}" scripts/with-wine.sh ctest --preset mingw || failed=1
+run_tests "${cpus%%[-,]*}" mingw ${real_mfc:+msabi-mfc} || failed=1
 wait $msabi || failed=1
 cat build/msabi-tests.log
 exit $failed

@@ -3,7 +3,7 @@
 set -euo pipefail
 
 packages=(g++-mingw-w64-x86-64-posix clang lld llvm cmake ninja-build googletest
-          wine64 xvfb locales fonts-wqy-microhei fonts-wine clang-format clang-tidy python3 python3-pip diffutils util-linux wixl msitools zip unzip osslsigncode openssl x11-utils)
+          wine64 xvfb locales fonts-wqy-microhei fonts-wine clang-format clang-tidy python3 python3-pip python3-pil diffutils util-linux wixl msitools zip unzip osslsigncode openssl x11-utils)
 
 missing=()
 for package in "${packages[@]}"; do

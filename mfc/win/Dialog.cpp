@@ -132,7 +132,12 @@ LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {
     CreateOleControls();
     CRect rectBefore, rectAfter;
     GetWindowRect(rectBefore);
-    const LRESULT lResult = Default();
+    LRESULT lResult = Default();
+    if (lResult && m_hWnd != nullptr && !GetOccDialogInfo()->OleControls().empty()) {
+        // As in MFC: with such controls the framework sets the focus, which selects no text.
+        ::SetFocus(::GetNextDlgTabItem(m_hWnd, nullptr, FALSE));
+        lResult = FALSE;
+    }
     // A dialog that placed or showed itself stays where it is.
     if (m_hWnd == nullptr || IsWindowVisible() || (GetStyle() & WS_CHILD)) return lResult;
     GetWindowRect(rectAfter);
