@@ -1,5 +1,5 @@
-// The part of GoogleTest's interface that the framework's tests use, for the Microsoft-ABI builds, whose
-// run-time library has no streams.
+// The part of GoogleTest's interface that the tests of the Microsoft-ABI builds use, whose run-time
+// library has no streams.
 #pragma once
 
 #include <string>
@@ -89,4 +89,10 @@ inline bool SameText(const wchar_t* a, const wchar_t* b) {
         statement;                                                                                           \
         testing::Failure(__FILE__, __LINE__, #statement " throws " #type);                                   \
     } catch (type) {                                                                                         \
+    }
+#define EXPECT_NO_THROW(statement)                                                                           \
+    try {                                                                                                    \
+        statement;                                                                                           \
+    } catch (...) {                                                                                          \
+        testing::Failure(__FILE__, __LINE__, #statement " throws nothing");                                  \
     }

@@ -1,6 +1,6 @@
 // DLLs of the Microsoft-ABI build: loading in rounds, static objects, thread-local variables.
 #include <windows.h>
-#include "tests/abi/Checks.h"
+#include <gtest/gtest.h>
 
 namespace {
 
@@ -16,13 +16,12 @@ Function* Find(HMODULE module, const char* name) {
 
 void ProbeRound() {
     HMODULE probe = LoadLibraryW(L"abi-probe.dll");
-    CHECK(probe);
-    if (probe == nullptr) return;
+    ASSERT_TRUE(probe != nullptr);
     g_destroyed = 0;
-    CHECK(Find<int(void (*)(int))>(probe, "ProbeOrder")(NoteDestruction) == 123);
+    EXPECT_TRUE(Find<int(void (*)(int))>(probe, "ProbeOrder")(NoteDestruction) == 123);
 
     auto* addToThreadValue = Find<int(int)>(probe, "ProbeThreadValue");
-    CHECK(addToThreadValue(10) == 17);
+    EXPECT_TRUE(addToThreadValue(10) == 17);
     const auto addInThread = [](void* function) -> DWORD {
         return reinterpret_cast<int (*)(int)>(function)(1);
     };
@@ -32,25 +31,25 @@ void ProbeRound() {
     DWORD inThread = 0;
     GetExitCodeThread(thread, &inThread);
     CloseHandle(thread);
-    CHECK(inThread == 8 && addToThreadValue(0) == 17);
+    EXPECT_TRUE(inThread == 8 && addToThreadValue(0) == 17);
 
     FreeLibrary(probe);
-    CHECK(g_destroyed == 321);
-    CHECK(GetModuleHandleW(L"abi-probe.dll") == nullptr);
+    EXPECT_TRUE(g_destroyed == 321);
+    EXPECT_TRUE(GetModuleHandleW(L"abi-probe.dll") == nullptr);
 }
 
 } // namespace
 
-void checks::Modules() {
+TEST(Modules, Rounds_LeaveNothing) {
     // A copy of the library, because this program itself holds it.
     wchar_t original[MAX_PATH], copy[MAX_PATH];
     GetModuleFileNameW(GetModuleHandleW(L"Varnoke.dll"), original, MAX_PATH);
     wcscpy(copy, original);
     wcscpy(wcsrchr(copy, L'\\') + 1, L"VarnokeRound.dll");
-    CHECK(CopyFileW(original, copy, FALSE));
+    EXPECT_TRUE(CopyFileW(original, copy, FALSE));
     for (int round = 0; round < 3; ++round) {
         ProbeRound();
-        CHECK(FreeLibrary(LoadLibraryW(copy)) && GetModuleHandleW(copy) == nullptr);
+        EXPECT_TRUE(FreeLibrary(LoadLibraryW(copy)) && GetModuleHandleW(copy) == nullptr);
     }
     DeleteFileW(copy);
 }

@@ -1,9 +1,9 @@
 // The runtime: exceptions, large frames, local statics, containers, thread-local variables.
 #include <windows.h>
+#include <gtest/gtest.h>
 #include <stdexcept>
 #include <string>
 #include <unordered_map>
-#include "tests/abi/Checks.h"
 
 namespace {
 
@@ -29,14 +29,14 @@ DWORD WINAPI UseStatic(void*) {
 }
 
 // The first attempt throws, one of the others succeeds while the rest waits for it.
-void LocalStatics() {
+TEST(Runtime, LocalStatics_AreMadeOnceInSpiteOfFailures) {
     HANDLE threads[8];
     for (HANDLE& thread : threads)
         thread = CreateThread(nullptr, 0, UseStatic, nullptr, 0, nullptr);
     WaitForMultipleObjects(8, threads, TRUE, INFINITE);
     for (HANDLE thread : threads)
         CloseHandle(thread);
-    CHECK(g_attempts == 2 && g_wrongSightings == 0);
+    EXPECT_TRUE(g_attempts == 2 && g_wrongSightings == 0);
 }
 
 int g_unwound = 0;
@@ -64,42 +64,36 @@ LONG CALLBACK PassGuard(EXCEPTION_POINTERS* info) {
 }
 
 // A guard in the middle of the frame goes only when the start of the function touches its page.
-void LargeFrame() {
+TEST(Runtime, LargeFrames_TouchEachPage) {
     char* middle = reinterpret_cast<char*>(&middle) - 300 * 1024;
     MEMORY_BASIC_INFORMATION page = {};
     DWORD before = 0;
-    CHECK(UseFrameEnds() == 1);
-    CHECK(VirtualProtect(middle, 1, PAGE_READWRITE | PAGE_GUARD, &before));
+    EXPECT_TRUE(UseFrameEnds() == 1);
+    EXPECT_TRUE(VirtualProtect(middle, 1, PAGE_READWRITE | PAGE_GUARD, &before));
     void* handler = AddVectoredExceptionHandler(1, PassGuard);
-    CHECK(UseFrameEnds() == 1);
+    EXPECT_TRUE(UseFrameEnds() == 1);
     RemoveVectoredExceptionHandler(handler);
-    CHECK(VirtualQuery(middle, &page, sizeof(page)) != 0 && (page.Protect & PAGE_GUARD) == 0);
+    EXPECT_TRUE(VirtualQuery(middle, &page, sizeof(page)) != 0 && (page.Protect & PAGE_GUARD) == 0);
 }
 
-void Exceptions() {
+TEST(Runtime, Exceptions_UnwindEachFrame) {
     try {
         Deep(6);
-        CHECK(false);
+        ADD_FAILURE();
     } catch (const std::exception& error) {
-        CHECK(std::string(error.what()) == "deep" && g_unwound == 7);
+        EXPECT_TRUE(std::string(error.what()) == "deep" && g_unwound == 7);
     }
 }
 
-void Containers() {
+TEST(Runtime, Containers_Grow) {
     std::unordered_map<std::wstring, int> numbers;
     for (int i = 0; i < 20000; ++i)
         numbers[std::to_wstring(i)] = i;
     int found = 0;
     for (int i = 0; i < 20000; ++i)
         found += numbers[std::to_wstring(i)] == i;
-    CHECK(found == 20000 && numbers.size() == 20000 && numbers.load_factor() <= numbers.max_load_factor());
+    EXPECT_TRUE(found == 20000 && numbers.size() == 20000 &&
+                numbers.load_factor() <= numbers.max_load_factor());
 }
 
 } // namespace
-
-void checks::Runtime() {
-    LocalStatics();
-    LargeFrame();
-    Exceptions();
-    Containers();
-}
