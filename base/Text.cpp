@@ -9,6 +9,23 @@ bool SameText(std::wstring_view a, std::wstring_view b) {
                                                           static_cast<int>(b.size()), TRUE) == CSTR_EQUAL;
 }
 
+std::wstring JsonText(std::wstring_view text) {
+    std::wstring quoted = L"\"";
+    for (const wchar_t c : text) {
+        if (c == L'"' || c == L'\\') {
+            quoted += L'\\';
+            quoted += c;
+        } else if (c < L' ') {
+            wchar_t escaped[8] = {};
+            swprintf(escaped, 8, L"\\u%04x", static_cast<unsigned>(c));
+            quoted += escaped;
+        } else {
+            quoted += c;
+        }
+    }
+    return quoted + L"\"";
+}
+
 std::string ToUtf8(TextRef text) {
     const int length = static_cast<int>(wcslen(text));
     std::string bytes(::WideCharToMultiByte(CP_UTF8, 0, text, length, nullptr, 0, nullptr, nullptr), '\0');

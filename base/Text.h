@@ -29,6 +29,9 @@ private:
 /// Equality as the file system has it for names: ordinal, without regard to case.
 bool SameText(std::wstring_view a, std::wstring_view b);
 
+/// The text as a JSON string, quotation marks included.
+std::wstring JsonText(std::wstring_view text);
+
 /// UTF-8 without a byte order mark.
 std::string ToUtf8(TextRef text);
 

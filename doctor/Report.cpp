@@ -25,23 +25,6 @@ std::wstring Fill(const wchar_t* pattern, const std::wstring& subject, const std
     return text;
 }
 
-std::wstring Quoted(const std::wstring& text) {
-    std::wstring quoted = L"\"";
-    for (const wchar_t c : text) {
-        if (c == L'"' || c == L'\\') {
-            quoted += L'\\';
-            quoted += c;
-        } else if (c < L' ') {
-            wchar_t escaped[8] = {};
-            swprintf(escaped, 8, L"\\u%04x", static_cast<unsigned>(c));
-            quoted += escaped;
-        } else {
-            quoted += c;
-        }
-    }
-    return quoted + L"\"";
-}
-
 const wchar_t* LevelName(Level level) {
     switch (level) {
     case Level::Ok:
@@ -63,9 +46,10 @@ void Report::Add(const wchar_t* code, const std::wstring& subject, const std::ws
     const std::wstring remedy =
         Fill(m_form.chinese ? reason.chineseRemedy : reason.englishRemedy, subject, detail);
     if (m_form.json) {
-        PrintLine(L"{\"level\":" + Quoted(LevelName(reason.level)) + L",\"code\":" + Quoted(reason.code) +
-                  L",\"subject\":" + Quoted(subject) + L",\"detail\":" + Quoted(detail) + L",\"text\":" +
-                  Quoted(text) + L",\"remedy\":" + Quoted(remedy) + L"}");
+        PrintLine(L"{\"level\":" + base::JsonText(LevelName(reason.level)) + L",\"code\":" +
+                  base::JsonText(reason.code) + L",\"subject\":" + base::JsonText(subject) + L",\"detail\":" +
+                  base::JsonText(detail) + L",\"text\":" + base::JsonText(text) + L",\"remedy\":" +
+                  base::JsonText(remedy) + L"}");
     } else if (reason.level == Level::Ok) {
         PrintLine(L"ok       " + text);
     } else {

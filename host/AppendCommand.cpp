@@ -5,7 +5,7 @@
 
 #include "base/WholeFile.h"
 #include "host/Commands.h"
-#include "host/Console.h"
+#include "host/Report.h"
 #include "host/Document.h"
 #include "host/InteractiveSession.h"
 #include "host/Paths.h"
@@ -24,16 +24,13 @@ int RunAppend(const Options& options) {
     if (!LoadRunInput(options, input)) return kExitRefused;
     const CString kept = SignDataFile(input.work, L"StartSign.Xml");
     if (!FileExists(kept)) {
-        PrintError(Text(TextId::NothingKept, {input.work}));
+        TellError(TextId::NothingKept, {input.work});
         return kExitRefused;
     }
     InteractiveSession session(options);
     if (!session.Open()) return kExitFailed;
     const RunLock lock(input.work);
-    if (lock.State() != RunLock::Result::Held) {
-        session.Tell(Text(TextId::WorkFolderBusy, {input.work}));
-        return kExitBusy;
-    }
+    if (!session.Holds(lock, input.work)) return kExitBusy;
     std::string before;
     std::string after;
     base::ReadWholeFile(kept, before);
@@ -41,12 +38,12 @@ int RunAppend(const Options& options) {
     if (!StartMessage(session.Plm(), &CPLMInteract::AppendStartSign, input.message, input.work, records)) {
         // The library merges first and lets the user choose then.
         base::ReadWholeFile(kept, after);
-        session.Tell(Text(after == before ? TextId::NothingMerged : TextId::MergedUnchosen));
+        session.Tell(after == before ? Outcome::Because(TextId::NothingMerged) : TextId::MergedUnchosen);
         return kExitNone;
     }
     // The library adds every new document to the kept message, but hands only the first one out.
     for (const Document& document : DocumentsOf(*records.files)) {
-        PrintLine(Text(TextId::Merged, {document.Name()}));
+        Tell(TextId::Merged, {document.Name()});
     }
     return kExitDone;
 }

@@ -3,7 +3,7 @@
 
 #include "host/BackSignRun.h"
 #include "host/Commands.h"
-#include "host/Console.h"
+#include "host/Report.h"
 #include "host/DocumentLine.h"
 #include "host/Paths.h"
 #include "host/Preflight.h"
@@ -57,13 +57,13 @@ int SignAll(Session& session, const RunInput& input, const MessageRecords& recor
     run.Run(documents);
 
     const size_t done = static_cast<size_t>(run.SignedNames().GetCount());
-    PrintLine(Text(TextId::Summary, {NumberText(done), NumberText(documents.size())}));
+    TellResult(TextId::Summary, {NumberText(done), NumberText(documents.size())});
     if (!session.Plm().NotifyPLMSignForBackSignRet(run.SignedNames(), InText(kNameProperty),
                                                    InText(input.work), InText(returnPath))) {
-        PrintError(Text(TextId::ReturnFileFailed, {ReturnFileOf(returnPath)}));
+        TellError(Outcome::Because(TextId::ReturnFileFailed), {ReturnFileOf(returnPath)});
         return kExitFailed;
     }
-    PrintLine(Text(TextId::ReturnFile, {ReturnFileOf(returnPath)}));
+    Tell(TextId::ReturnFile, {ReturnFileOf(returnPath)});
     return ExitOf(run, documents.size());
 }
 
@@ -72,12 +72,12 @@ int CheckAndSign(const RunInput& input, const Options& options, const CString& f
     const CString returnPath = ReturnPath(options.Value(L"--return"));
     Session session;
     if (!session.Open(false)) {
-        PrintError(Text(TextId::FrameworkFailed));
+        TellError(TextId::FrameworkFailed);
         return kExitFailed;
     }
     MessageRecords records;
     if (!StartMessage(session.Plm(), &CPLMInteract::StartSignForBackSign, input.message, folder, records)) {
-        PrintError(Text(TextId::MessageRefused));
+        TellError(Outcome::Because(TextId::MessageRefused));
         return kExitRefused;
     }
     Preflight preflight(session, input.work, !options.Has(kNoLog));
@@ -90,7 +90,7 @@ int DryRun(const RunInput& input, const Options& options) {
     // Private, since the library keeps a copy of every message that it reads.
     const TemporaryFolder folder;
     if (!folder.Path().IsEmpty()) return CheckAndSign(input, options, folder.Path(), nullptr);
-    PrintError(Text(TextId::NoTemporaryFolder));
+    TellError(TextId::NoTemporaryFolder);
     return kExitFailed;
 }
 
@@ -117,7 +117,7 @@ int RunBackSign(const Options& options) {
     RunLock lock(input.work);
     if (lock.State() == RunLock::Result::Held) return CheckAndSign(input, options, input.work, &lock);
     const bool busy = lock.State() == RunLock::Result::Busy;
-    PrintError(Text(busy ? TextId::WorkFolderBusy : TextId::WorkFolderReadOnly, {input.work}));
+    TellError(busy ? TextId::WorkFolderBusy : TextId::WorkFolderReadOnly, {input.work});
     return busy ? kExitBusy : kExitRefused;
 }
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "host/BackSignRun.h"
-#include "host/Console.h"
+#include "host/Report.h"
 #include "host/DocumentLine.h"
 #include "host/Paths.h"
 #include "host/Records.h"
@@ -27,13 +27,14 @@ void BackSignRun::Run(const std::vector<Document>& documents) {
     const size_t firstLine = m_givenUp.documents.empty() ? 0 : m_givenUp.documents.back();
     for (size_t i = 0; i < documents.size(); ++i) {
         m_current = i;
-        const TextId outcome = OutcomeOf(documents[i], refusals[i]);
+        if (i >= firstLine) TellProgress(i, documents.size());
+        const Outcome outcome = OutcomeOf(documents[i], refusals[i]);
         if (outcome == TextId::Signed || outcome == TextId::AlreadySigned) {
             m_signedNames.AddTail(documents[i].Name());
         } else if (outcome != TextId::NotTried) {
             ++m_failures;
         }
-        if (i >= firstLine) PrintDocumentLine(documents, i, outcome);
+        if (i >= firstLine) TellDocument(documents[i].Name(), i, documents.size(), outcome);
     }
     if (m_options.log) SendLog();
 }
@@ -47,13 +48,13 @@ GivenUp BackSignRun::HandOver() {
     return inHand;
 }
 
-TextId BackSignRun::OutcomeOf(const Document& document, TextId refusal) {
+Outcome BackSignRun::OutcomeOf(const Document& document, TextId refusal) {
     if (refusal != TextId::Ready) return refusal;
     const bool enough = m_options.maxFailures > 0 && m_failures >= m_options.maxFailures;
-    return enough || m_stop.IsMade() ? TextId::NotTried : Process(document);
+    return enough || m_stop.IsMade() ? Outcome(TextId::NotTried) : Process(document);
 }
 
-TextId BackSignRun::Process(const Document& document) {
+Outcome BackSignRun::Process(const Document& document) {
     const CString path = JoinPath(m_work, document.Name());
     DocumentState state = m_state.Of(document.Name());
     const CString fingerprint = FingerprintOf(document, m_login.m_strUserName);
@@ -78,32 +79,32 @@ TextId BackSignRun::Process(const Document& document) {
     return SignAnew(document, state, again || mayBeSigned);
 }
 
-TextId BackSignRun::SignAnew(const Document& document, DocumentState& state, bool deleteFirst) {
-    const TextId connection = Connect();
+Outcome BackSignRun::SignAnew(const Document& document, DocumentState& state, bool deleteFirst) {
+    const Outcome& connection = Connect();
     if (connection != TextId::Ready) return connection;
-    if (!Download(document)) return TextId::FailedDownload;
-    const TextId outcome = Sign(document, state, deleteFirst);
+    if (!Download(document)) return Outcome::Because(TextId::FailedDownload);
+    const Outcome outcome = Sign(document, state, deleteFirst);
     return outcome == TextId::Signed ? Return(document, state) : outcome;
 }
 
-TextId BackSignRun::Return(const Document& document, DocumentState& state) {
+Outcome BackSignRun::Return(const Document& document, DocumentState& state) {
     // The server's log must not tell of a signature that the server doesn't have: upload first.
-    if (!Upload(document)) return TextId::FailedUpload;
+    if (!Upload(document)) return Outcome::Because(TextId::FailedUpload);
     state.progress = Progress::Uploaded;
     m_state.Note(state);
     Log(document, state);
     return TextId::Signed;
 }
 
-TextId BackSignRun::Connect() {
+const Outcome& BackSignRun::Connect() {
     if (m_connection == TextId::Count) {
         m_askingSignServer = true;
         const CallLimit::Call call(m_limit);
         m_connection = TextId::Ready;
         if (!m_session.ConnectSignServer()) {
-            m_connection = TextId::NoSignServer;
+            m_connection = Outcome::Because(TextId::NoSignServer);
         } else if (!m_session.Login(m_login)) {
-            m_connection = TextId::NotLoggedIn;
+            m_connection = Outcome::Because(TextId::NotLoggedIn);
         }
         m_askingSignServer = false;
     }
@@ -119,13 +120,13 @@ bool BackSignRun::Download(const Document& document) {
     return true;
 }
 
-TextId BackSignRun::Sign(const Document& document, DocumentState& state, bool deleteFirst) {
+Outcome BackSignRun::Sign(const Document& document, DocumentState& state, bool deleteFirst) {
     const CallLimit::Call call(m_limit);
     const CString path = JoinPath(m_work, document.Name());
     SSignInfo* made = nullptr;
     const long assembled = m_session.SignOpt().GetSignInfoForBackSign(InText(path), &made);
     const SignInfoPtr info(made);
-    if (!assembled || !info) return TextId::FailedSignInfo;
+    if (!assembled || !info) return Outcome::Because(TextId::FailedSignInfo);
     CompleteSignInfo(*info, document, path, m_login.m_strUserName);
 
     state.progress = Progress::Signing;
@@ -138,9 +139,10 @@ TextId BackSignRun::Sign(const Document& document, DocumentState& state, bool de
     const bool placed = SignDrawing(m_session.SignOpt(), &CSignOpt::SignForBackSign, *info, path);
     m_askingSignServer = false;
     if (!placed) {
+        const Outcome failed = Outcome::Because(TextId::FailedSign);
         // A server that has gone signs nothing more: the other documents are not fetched for it.
         if (!m_session.SignServerAnswers()) m_connection = TextId::SignServerGone;
-        return TextId::FailedSign;
+        return failed;
     }
     state.progress = Progress::Signed;
     state.stamp = StampOf(path);
@@ -157,9 +159,10 @@ bool BackSignRun::Upload(const Document& document) {
 void BackSignRun::Log(const Document& document, DocumentState& state) {
     if (state.progress == Progress::Done) return;
     const bool logged = m_options.log && LogSignature(m_session.Plm(), m_work, document, state.signature);
+    const Outcome notLogged = Outcome::Because(TextId::LogNotWritten);
     MarkSigned(m_session.Plm(), m_work, document, logged);
     if (m_options.log && !logged) {
-        PrintError(Text(TextId::LogNotWritten, {document.Name()}));
+        TellError(notLogged, {document.Name()});
         m_logComplete = false;
         return; // the next run writes it
     }
@@ -171,7 +174,7 @@ void BackSignRun::SendLog() {
     m_sending = true;
     const CallLimit::Call call(m_limit);
     if (!m_givenUp.log && m_session.Plm().SendSignLog(m_work) == 0) return;
-    PrintError(Text(TextId::LogNotSent));
+    TellError(m_givenUp.log ? TextId::LogNotSent : Outcome::Because(TextId::LogNotSent));
     m_logComplete = false;
 }
 

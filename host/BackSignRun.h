@@ -8,6 +8,7 @@
 
 #include "host/CallLimit.h"
 #include "host/Document.h"
+#include "host/Outcome.h"
 #include "host/RunState.h"
 #include "host/Session.h"
 #include "host/StopRequest.h"
@@ -48,17 +49,17 @@ public:
     GivenUp HandOver();
 
 private:
-    TextId OutcomeOf(const Document& document, TextId refusal);
+    Outcome OutcomeOf(const Document& document, TextId refusal);
     /// Signed, AlreadySigned, or the step that failed.
-    TextId Process(const Document& document);
-    TextId SignAnew(const Document& document, DocumentState& state, bool deleteFirst);
-    TextId Return(const Document& document, DocumentState& state);
+    Outcome Process(const Document& document);
+    Outcome SignAnew(const Document& document, DocumentState& state, bool deleteFirst);
+    Outcome Return(const Document& document, DocumentState& state);
     bool Download(const Document& document);
     bool Upload(const Document& document);
-    TextId Sign(const Document& document, DocumentState& state, bool deleteFirst);
+    Outcome Sign(const Document& document, DocumentState& state, bool deleteFirst);
     /// Ready once the signing server takes calls, else the reason why it doesn't. Connects when it is first
     /// needed.
-    TextId Connect();
+    const Outcome& Connect();
     void Log(const Document& document, DocumentState& state);
     void SendLog();
 
@@ -71,7 +72,7 @@ private:
     RunState m_state;
     StopRequest m_stop;
     CStringList m_signedNames;
-    TextId m_connection = TextId::Count; ///< Count: not tried yet
+    Outcome m_connection = TextId::Count; ///< Count: not tried yet
     size_t m_failures = 0;
     volatile size_t m_current = 0;
     volatile bool m_askingSignServer = false;

@@ -3,6 +3,7 @@
 
 #include "host/Commands.h"
 #include "host/Console.h"
+#include "host/Report.h"
 #include "host/Texts.h"
 
 namespace host {
@@ -32,8 +33,15 @@ bool AsksForHelp(const CString& argument) {
     return false;
 }
 
+std::vector<OptionRule> RulesOf(const CommandEntry& command) {
+    std::vector<OptionRule> rules = command.rules();
+    for (const OptionRule& rule : ReportRules())
+        rules.push_back(rule);
+    return rules;
+}
+
 void PrintHelp(const CommandEntry& command) {
-    PrintLine(CString(L"  ") + command.name + UsageOf(command.rules()));
+    PrintLine(CString(L"  ") + command.name + UsageOf(RulesOf(command)));
     PrintLine(CString(L"      ") + Text(command.purpose));
 }
 
@@ -60,7 +68,8 @@ int Run(const CommandEntry& command, const std::vector<CString>& arguments) {
     }
     Options options;
     CString error;
-    return options.Parse(arguments, command.rules(), error) ? command.run(options) : RefuseUsage(error);
+    if (!options.Parse(arguments, RulesOf(command), error)) return RefuseUsage(error);
+    return EndReport(BeginReport(options, command.name) ? command.run(options) : kExitRefused);
 }
 
 } // namespace

@@ -3,17 +3,18 @@
 
 #include <afxwin.h>
 
-#include <vector>
-
 namespace host {
 
-/// Prints one line to standard output, control characters as "?". Lines reach a pipe at once.
+/// The line with "?" for control characters, which names from outside may hold.
+CString Printable(CString line);
+
+/// Prints one line to standard output. Lines reach a pipe at once.
 void PrintLine(const CString& line);
 
 /// The same to standard error.
 void PrintError(const CString& line);
 
-/// Prints rows in columns of equal display width, a Chinese character taking two places.
-void PrintTable(const std::vector<std::vector<CString>>& rows);
+/// Shows a line on the console that the next one replaces; nothing where errors go to a pipe or a file.
+void ShowStatus(const CString& line);
 
 } // namespace host

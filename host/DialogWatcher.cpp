@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "host/Console.h"
+#include "host/Report.h"
 #include "host/DialogWatcher.h"
 #include "host/Paths.h"
 #include "host/PngFile.h"
@@ -96,7 +96,7 @@ void DialogWatcher::TakePicture(HWND dialog) {
     ::GetWindowTextW(dialog, title, _countof(title));
     CString name;
     name.Format(L"%02d-%s.png", ++m_pictures, title);
-    if (!SavePicture(dialog, JoinPath(m_folder, name))) PrintError(Text(TextId::PictureFailed, {name}));
+    if (!SavePicture(dialog, JoinPath(m_folder, name))) TellError(TextId::PictureFailed, {name});
 }
 
 void DialogWatcher::Confirm(HWND dialog) {

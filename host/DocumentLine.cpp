@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "host/Commands.h"
-#include "host/Console.h"
 #include "host/DocumentLine.h"
 
 namespace host {
@@ -69,12 +68,6 @@ std::vector<TextId> RefusalsOf(const std::vector<Document>& documents) {
         }
     }
     return refusals;
-}
-
-void PrintDocumentLine(const std::vector<Document>& documents, size_t index, TextId outcome) {
-    CString name = documents[index].Name();
-    if (name.IsEmpty()) name = Text(TextId::Document, {NumberText(index + 1)});
-    PrintLine(name + L": " + Text(outcome));
 }
 
 int ExitOfCount(size_t done, size_t all) {

@@ -14,9 +14,6 @@ namespace host {
 /// would overwrite the other in the work folder, and the result file couldn't tell them apart.
 std::vector<TextId> RefusalsOf(const std::vector<Document>& documents);
 
-/// Prints the line of one document, by its name, or by its place in the message when it has none.
-void PrintDocumentLine(const std::vector<Document>& documents, size_t index, TextId outcome);
-
 /// Exit code of a run over so many documents.
 int ExitOfCount(size_t done, size_t all);
 

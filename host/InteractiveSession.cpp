@@ -1,7 +1,7 @@
 // A session with a visible main window.
 #include <afxwin.h>
 
-#include "host/Console.h"
+#include "host/Report.h"
 #include "host/InteractiveSession.h"
 #include "host/Paths.h"
 #include "host/Texts.h"
@@ -22,25 +22,32 @@ std::vector<OptionRule> InteractiveSession::Rules() {
 bool InteractiveSession::Open() {
     const CString pictures = m_options.Has(kPictures) ? FullPath(m_options.Value(kPictures)) : CString();
     if (!pictures.IsEmpty() && !EnsureFolder(pictures)) {
-        PrintError(Text(TextId::NoPictureFolder, {pictures}));
+        TellError(TextId::NoPictureFolder, {pictures});
         return false;
     }
     // The library's dialogs follow the host: unaware, they would be enlarged as blurred pictures.
     ::SetProcessDPIAware();
     if (!m_session.Open(true)) {
-        PrintError(Text(TextId::FrameworkFailed));
+        TellError(TextId::FrameworkFailed);
         return false;
     }
-    if (!m_session.HasModel()) PrintError(Text(TextId::NoModel));
+    if (m_session.Model() != TextId::Ready) TellError(m_session.Model());
     if (!pictures.IsEmpty() || m_options.Has(kAuto)) {
         m_watcher = std::make_unique<DialogWatcher>(pictures, m_options.Has(kAuto));
     }
     return true;
 }
 
-void InteractiveSession::Tell(const CString& text) {
-    PrintError(text);
-    ::MessageBoxW(m_session.Window().GetSafeHwnd(), text, Text(TextId::WindowTitle), MB_OK | MB_ICONWARNING);
+void InteractiveSession::Tell(const Outcome& outcome, std::initializer_list<CString> arguments) {
+    TellError(outcome, arguments);
+    ::MessageBoxW(m_session.Window().GetSafeHwnd(), Explained(Text(outcome.id, arguments), outcome),
+                  Text(TextId::WindowTitle), MB_OK | MB_ICONWARNING);
+}
+
+bool InteractiveSession::Holds(const RunLock& lock, const CString& work) {
+    if (lock.State() == RunLock::Result::Held) return true;
+    Tell(TextId::WorkFolderBusy, {work});
+    return false;
 }
 
 } // namespace host

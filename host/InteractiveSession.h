@@ -5,6 +5,8 @@
 
 #include "host/DialogWatcher.h"
 #include "host/Options.h"
+#include "host/Outcome.h"
+#include "host/RunLock.h"
 #include "host/Session.h"
 
 namespace host {
@@ -21,7 +23,9 @@ public:
     bool Open();
 
     /// Says in a window, and on the console for who watches that, what keeps the signer from going on.
-    void Tell(const CString& text);
+    void Tell(const Outcome& outcome, std::initializer_list<CString> arguments = {});
+    /// Whether this run has the work folder for itself; tells it when it hasn't.
+    bool Holds(const RunLock& lock, const CString& work);
 
     MainWindow& Window() { return m_session.Window(); }
     CPLMInteract& Plm() { return m_session.Plm(); }

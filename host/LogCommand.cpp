@@ -2,11 +2,12 @@
 #include <afxwin.h>
 
 #include "host/Commands.h"
-#include "host/Console.h"
+#include "host/Report.h"
 #include "host/Document.h"
 #include "host/Paths.h"
 #include "host/Records.h"
 #include "host/Texts.h"
+#include "varnoke/Elements.h"
 #include "varnoke/PLMInteract.h"
 
 namespace host {
@@ -35,7 +36,7 @@ std::vector<OptionRule> LogRules() {
 int RunLog(const Options& options) {
     const CString folder = FullPath(options.Value(L"--work"));
     if (!FolderExists(folder)) {
-        PrintError(Text(TextId::NoFolder, {options.Value(L"--work")}));
+        TellError(TextId::NoFolder, {options.Value(L"--work")});
         return kExitRefused;
     }
     CPLMInteract plm;
@@ -43,19 +44,20 @@ int RunLog(const Options& options) {
     const long read = plm.GetUnsentSignLog(folder, &made);
     const SignTypePtr entries(made);
     if (!read || !entries) {
-        PrintError(Text(TextId::RecordUnreadable, {folder}));
+        TellError(Outcome::Because(TextId::RecordUnreadable), {folder});
         return kExitFailed;
     }
     if (entries->m_lstObj.IsEmpty()) {
-        PrintLine(Text(TextId::NoRecord));
+        TellResult(TextId::NoRecord);
         return kExitDone;
     }
-    std::vector<std::vector<CString>> rows = {
-        {Text(TextId::ColumnDocument), Text(TextId::ColumnRole), Text(TextId::ColumnKind)}};
-    for (POSITION position = entries->m_lstObj.GetHeadPosition(); position;) {
-        rows.push_back(RowOf(*entries->m_lstObj.GetNext(position)));
-    }
-    PrintTable(rows);
+    std::vector<std::vector<CString>> rows;
+    for (const SSignObj* entry : varnoke::Elements(entries->m_lstObj))
+        rows.push_back(RowOf(*entry));
+    TellTable(
+        L"entry",
+        {{L"document", TextId::ColumnDocument}, {L"role", TextId::ColumnRole}, {L"kind", TextId::ColumnKind}},
+        rows);
     return kExitDone;
 }
 

@@ -8,7 +8,7 @@
 #include "base/WholeFile.h"
 #include "host/Gb18030.h"
 #include "host/MessageFile.h"
-#include "host/Texts.h"
+#include "host/Report.h"
 
 namespace host {
 
@@ -29,11 +29,11 @@ constexpr EncodingName kEncodingNames[] = {
     {"gb18030", kGb18030}, {"us-ascii", 20127}, {"iso-8859-1", 28591},
 };
 
-bool ReadBytes(const CString& path, std::string& bytes, CString& error) {
+bool ReadBytes(const CString& path, std::string& bytes) {
     const base::ReadResult result = base::ReadWholeFile(path, bytes, kLargestFile);
     if (result == base::ReadResult::Done) return true;
     const bool tooLarge = result == base::ReadResult::TooLarge;
-    error = Text(tooLarge ? TextId::FileTooLarge : TextId::FileUnreadable, {path});
+    TellError(tooLarge ? TextId::FileTooLarge : TextId::FileUnreadable, {path});
     return false;
 }
 
@@ -58,9 +58,9 @@ bool StartsWith(const std::string& bytes, const char* mark, size_t size) {
     return bytes.compare(0, size, mark, size) == 0;
 }
 
-/// Finds the encoding and removes a byte order mark. False for an encoding that is declared but not known
-/// here.
-bool DetectEncoding(std::string& bytes, UINT& codePage, CString& error) {
+/// Finds the encoding and removes a byte order mark. False, after an error line, for an encoding that is
+/// declared but not known here.
+bool DetectEncoding(std::string& bytes, UINT& codePage) {
     if (StartsWith(bytes, "\xEF\xBB\xBF", 3)) {
         codePage = CP_UTF8;
         bytes.erase(0, 3);
@@ -78,8 +78,7 @@ bool DetectEncoding(std::string& bytes, UINT& codePage, CString& error) {
             codePage = known.codePage;
             return true;
         }
-        error =
-            Text(TextId::UnknownEncoding, {CString(std::wstring(declared.begin(), declared.end()).c_str())});
+        TellError(TextId::UnknownEncoding, {CString(std::wstring(declared.begin(), declared.end()).c_str())});
         return false;
     }
     return true;
@@ -112,12 +111,12 @@ bool Decode(const std::string& bytes, UINT codePage, CString& text) {
 
 } // namespace
 
-bool ReadMessageFile(const CString& path, CString& message, CString& error) {
+bool ReadMessageFile(const CString& path, CString& message) {
     std::string bytes;
     UINT codePage = CP_UTF8;
-    if (!ReadBytes(path, bytes, error) || !DetectEncoding(bytes, codePage, error)) return false;
+    if (!ReadBytes(path, bytes) || !DetectEncoding(bytes, codePage)) return false;
     if (Decode(bytes, codePage, message)) return true;
-    error = Text(TextId::BadEncoding, {path});
+    TellError(TextId::BadEncoding, {path});
     return false;
 }
 

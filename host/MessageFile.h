@@ -6,8 +6,8 @@
 namespace host {
 
 /// The message as UTF-16 text without byte order mark. The encoding is told by that mark, else by the XML
-/// declaration (UTF-8, UTF-16, GBK and its relatives, US-ASCII, ISO-8859-1), else it is UTF-8. False, with an
-/// explanation in `error`, for a file that can't be read or whose bytes don't fit its encoding.
-bool ReadMessageFile(const CString& path, CString& message, CString& error);
+/// declaration (UTF-8, UTF-16, GBK and its relatives, US-ASCII, ISO-8859-1), else it is UTF-8. False, after
+/// an error line, for a file that can't be read or whose bytes don't fit its encoding.
+bool ReadMessageFile(const CString& path, CString& message);
 
 } // namespace host

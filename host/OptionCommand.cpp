@@ -1,7 +1,7 @@
 // option: the option dialog.
 #include <afxwin.h>
 
-#include "host/Console.h"
+#include "host/Report.h"
 #include "host/InteractiveSession.h"
 #include "host/Commands.h"
 #include "host/Texts.h"
@@ -18,7 +18,13 @@ int RunOption(const Options& options) {
     // The dialog needs the settings only, which connecting prepares whether the server is there or not.
     session.Library().ConnectSignServer();
     const bool confirmed = session.SignOpt().SetOption() != 0;
-    PrintLine(Text(confirmed ? TextId::OptionStored : TextId::Cancelled));
+    // Confirmed, the operation succeeds even where the file could not be written; its cause tells.
+    const Outcome fault = Outcome::Because(confirmed ? TextId::OptionNotStored : TextId::Cancelled);
+    if (fault.cause != 0) {
+        TellError(fault);
+        return confirmed ? kExitFailed : kExitNone;
+    }
+    TellResult(confirmed ? TextId::OptionStored : TextId::Cancelled);
     return confirmed ? kExitDone : kExitNone;
 }
 

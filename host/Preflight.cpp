@@ -5,7 +5,7 @@
 #include "base/TextEncoding.h"
 #include "base/WholeFile.h"
 #include "host/Commands.h"
-#include "host/Console.h"
+#include "host/Report.h"
 #include "host/DocumentLine.h"
 #include "host/Paths.h"
 #include "host/Preflight.h"
@@ -21,13 +21,17 @@ constexpr int kPathSize = MAX_PATH;
 /// Room for the longest name that is used below SignData, temporary names included.
 constexpr int kOwnNames = 40;
 
-bool Refuse(TextId reason, const CString& about) {
-    PrintError(Text(reason, {about}));
+bool Refuse(const Outcome& reason, const CString& about) {
+    TellError(reason, {about});
     return false;
 }
 
 bool FitsPath(const CString& path, int further = 0) {
     return path.GetLength() + further < kPathSize || Refuse(TextId::PathTooLong, path);
+}
+
+CString SettingsPath() {
+    return JoinPath(ModuleFolder(L"Varnoke.dll"), L"Varnoke.ini");
 }
 
 /// Whether a file can be put in this place, tried with a temporary one.
@@ -39,7 +43,7 @@ bool CanPlaceFile(const CString& path) {
 } // namespace
 
 bool Preflight::CheckSettings() {
-    const CString settings = JoinPath(ModuleFolder(L"Varnoke.dll"), L"Varnoke.ini");
+    const CString settings = SettingsPath();
     std::string bytes;
     if (base::ReadWholeFile(settings, bytes) != base::ReadResult::Done) return true;
     return base::IsProfileEncoding(base::EncodingOf(bytes)) || Refuse(TextId::SettingsEncoding, settings);
@@ -57,25 +61,27 @@ bool Preflight::Check(const std::vector<Document>& documents) {
     for (const Document& document : documents) {
         if (!FitsPath(JoinPath(m_work, document.Name()))) return false;
     }
-    if (!m_session.HasModel() && m_log) return Refuse(TextId::NoModel, CString());
-    m_server = m_session.ConnectSignServer();
+    if (m_log && m_session.Model() != TextId::Ready) return Refuse(m_session.Model(), CString());
+    m_server =
+        m_session.ConnectSignServer() ? TextId::DrySignServer : Outcome::Because(TextId::DryNoSignServer);
     CString missing;
-    return !m_server || m_session.HasSignMethods(missing) || Refuse(TextId::MissingMethod, missing);
+    return m_server == TextId::DryNoSignServer || m_session.HasSignMethods(missing) ||
+           Refuse(TextId::MissingMethod, missing);
 }
 
 int Preflight::Report(const RunInput& input, const MessageRecords& records) {
     const std::vector<Document> documents = DocumentsOf(*records.files);
-    PrintLine(Text(TextId::DryMessage, {records.login->m_strUserName, NumberText(documents.size())}));
-    if (!input.vault.IsEmpty()) PrintLine(Text(TextId::DryVault, {input.vault}));
-    PrintLine(Text(m_server ? TextId::DrySignServer : TextId::DryNoSignServer));
+    Tell(TextId::DryMessage, {records.login->m_strUserName, NumberText(documents.size())});
+    if (!input.vault.IsEmpty()) Tell(TextId::DryVault, {input.vault});
+    Tell(m_server);
     ReportSettings();
     size_t ready = 0;
     const std::vector<TextId> refusals = RefusalsOf(documents);
     for (size_t i = 0; i < documents.size(); ++i) {
-        if (m_server && refusals[i] == TextId::Ready) ++ready;
-        PrintDocumentLine(documents, i, refusals[i]);
+        if (m_server == TextId::DrySignServer && refusals[i] == TextId::Ready) ++ready;
+        TellDocument(documents[i].Name(), i, documents.size(), refusals[i]);
     }
-    PrintLine(Text(TextId::DrySummary, {NumberText(ready), NumberText(documents.size())}));
+    TellResult(TextId::DrySummary, {NumberText(ready), NumberText(documents.size())});
     return ExitOfCount(ready, documents.size());
 }
 
@@ -84,9 +90,9 @@ void Preflight::ReportSettings() {
     SSignInfo* made = nullptr;
     const long assembled = m_session.SignOpt().GetSignInfoForBackSign(InText(m_work), &made);
     const SignInfoPtr info(made);
-    const CString settings = JoinPath(ModuleFolder(L"Varnoke.dll"), L"Varnoke.ini");
-    PrintLine(Text(FileExists(settings) ? TextId::DrySettings : TextId::DryDefaults, {settings}));
-    if (assembled && info) PrintLine(Text(TextId::DryDate, {info->m_strDateText, info->m_strDateFontName}));
+    const CString settings = SettingsPath();
+    Tell(FileExists(settings) ? TextId::DrySettings : TextId::DryDefaults, {settings});
+    if (assembled && info) Tell(TextId::DryDate, {info->m_strDateText, info->m_strDateFontName});
 }
 
 } // namespace host

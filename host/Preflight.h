@@ -37,7 +37,7 @@ private:
     Session& m_session;
     const CString m_work;
     const bool m_log;
-    bool m_server = false;
+    Outcome m_server = TextId::DryNoSignServer;
 };
 
 } // namespace host

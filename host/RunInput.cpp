@@ -1,7 +1,7 @@
 // Input of the commands that take a start-sign message.
 #include <afxwin.h>
 
-#include "host/Console.h"
+#include "host/Report.h"
 #include "host/MessageFile.h"
 #include "host/Paths.h"
 #include "host/RunInput.h"
@@ -20,21 +20,17 @@ bool LoadRunInput(const Options& options, RunInput& input) {
     if (options.Has(L"--vault")) input.vault = FullPath(options.Value(L"--vault"));
     input.work = FullPath(options.Value(L"--work"));
     if (options.Has(L"--vault") && !FolderExists(input.vault)) {
-        PrintError(Text(TextId::NoVault, {options.Value(L"--vault")}));
+        TellError(TextId::NoVault, {options.Value(L"--vault")});
         return false;
     }
-    CString error;
-    if (!ReadMessageFile(FullPath(options.Value(L"--message")), input.message, error)) {
-        PrintError(error);
-        return false;
-    }
+    if (!ReadMessageFile(FullPath(options.Value(L"--message")), input.message)) return false;
     if (!input.vault.IsEmpty()) ::SetEnvironmentVariableW(L"DURVELL_VAULT", input.vault);
     return true;
 }
 
 bool PrepareWorkFolder(const RunInput& input) {
     if (EnsureFolder(input.work)) return true;
-    PrintError(Text(TextId::NoWorkFolder, {input.work}));
+    TellError(TextId::NoWorkFolder, {input.work});
     return false;
 }
 

@@ -17,7 +17,7 @@ Session::~Session() {
 bool Session::Open(bool visible) {
     if (!m_window.Create(visible)) return false;
     m_plmOpen = true;
-    m_hasModel = m_plm.Initialize(&m_window) != 0;
+    m_model = m_plm.Initialize(&m_window) ? TextId::Ready : Outcome::Because(TextId::NoModel);
     return true;
 }
 

@@ -4,6 +4,7 @@
 #include <afxwin.h>
 
 #include "host/MainWindow.h"
+#include "host/Outcome.h"
 #include "varnoke/PLMInteract.h"
 #include "varnoke/SignOpt.h"
 
@@ -18,7 +19,7 @@ public:
     Session& operator=(const Session&) = delete;
 
     /// Makes the main window and begins the exchange with the PLM side. False when there is no window. A
-    /// missing model configuration only means that no sign log can be written; see HasModel().
+    /// missing model configuration only means that no sign log can be written; see Model().
     bool Open(bool visible);
     /// Connects to the signing server that the settings name; once is enough.
     bool ConnectSignServer();
@@ -29,7 +30,8 @@ public:
     /// False when the connected server has gone.
     bool SignServerAnswers();
 
-    bool HasModel() const { return m_hasModel; }
+    /// Ready, or NoModel with its cause.
+    const Outcome& Model() const { return m_model; }
     MainWindow& Window() { return m_window; }
     CPLMInteract& Plm() { return m_plm; }
     CSignOpt& SignOpt() { return m_signOpt; }
@@ -39,7 +41,7 @@ private:
     CPLMInteract m_plm;
     CSignOpt m_signOpt;
     bool m_plmOpen = false;
-    bool m_hasModel = false;
+    Outcome m_model = TextId::NoModel;
     bool m_signOptOpen = false;
     bool m_connected = false;
 };

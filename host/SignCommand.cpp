@@ -2,7 +2,7 @@
 #include <afxwin.h>
 
 #include "host/Commands.h"
-#include "host/Console.h"
+#include "host/Report.h"
 #include "host/DocumentLine.h"
 #include "host/InteractiveSession.h"
 #include "host/Paths.h"
@@ -29,11 +29,11 @@ public:
         : m_session(session), m_login(login), m_work(work), m_state(work) {}
 
     /// Signed, or the step that failed.
-    TextId Process(const Document& document);
+    Outcome Process(const Document& document);
 
 private:
     bool Transfer(const Document& document, TextId step, long (CPLMInteract::*operation)(SSignFileDUL*));
-    TextId Sign(const Document& document, DocumentState& state);
+    Outcome Sign(const Document& document, DocumentState& state);
     SignInfoPtr AskSignInfo(const Document& document, const CString& path);
 
     InteractiveSession& m_session;
@@ -42,17 +42,19 @@ private:
     RunState m_state;
 };
 
-TextId InteractiveRun::Process(const Document& document) {
+Outcome InteractiveRun::Process(const Document& document) {
     if (!m_state.Open()) return TextId::NotNoted;
-    if (!Transfer(document, TextId::StepDownload, &CPLMInteract::DownloadDoc)) return TextId::FailedDownload;
+    if (!Transfer(document, TextId::StepDownload, &CPLMInteract::DownloadDoc))
+        return Outcome::Because(TextId::FailedDownload);
     DocumentState state;
     state.name = document.Name();
     state.fingerprint = FingerprintOf(document, m_login.m_strUserName);
-    const TextId outcome = Sign(document, state);
+    const Outcome outcome = Sign(document, state);
     if (outcome != TextId::Signed) return outcome;
-    if (!Transfer(document, TextId::StepUpload, &CPLMInteract::UploadDoc)) return TextId::FailedUpload;
+    if (!Transfer(document, TextId::StepUpload, &CPLMInteract::UploadDoc))
+        return Outcome::Because(TextId::FailedUpload);
     const bool logged = LogSignature(m_session.Plm(), m_work, document, state.signature);
-    if (!logged) m_session.Tell(Text(TextId::LogNotWritten, {document.Name()}));
+    if (!logged) m_session.Tell(Outcome::Because(TextId::LogNotWritten), {document.Name()});
     MarkSigned(m_session.Plm(), m_work, document, logged);
     state.progress = logged ? Progress::Done : Progress::Uploaded;
     m_state.Note(state);
@@ -68,18 +70,19 @@ bool InteractiveRun::Transfer(const Document& document, TextId step,
     return list.Moved();
 }
 
-TextId InteractiveRun::Sign(const Document& document, DocumentState& state) {
+Outcome InteractiveRun::Sign(const Document& document, DocumentState& state) {
     m_session.Window().ShowStep(Text(TextId::StepSign, {document.Name()}));
-    if (!m_session.Library().ConnectSignServer()) return TextId::NoSignServer;
-    if (!m_session.Library().Login(m_login)) return TextId::NotLoggedIn;
+    if (!m_session.Library().ConnectSignServer()) return Outcome::Because(TextId::NoSignServer);
+    if (!m_session.Library().Login(m_login)) return Outcome::Because(TextId::NotLoggedIn);
     const CString path = JoinPath(m_work, document.Name());
     const SignInfoPtr info = AskSignInfo(document, path);
-    if (!info) return TextId::FailedSignInfo;
+    if (!info) return Outcome::Because(TextId::FailedSignInfo);
     CompleteSignInfo(*info, document, path, m_login.m_strUserName);
     state.progress = Progress::Signing;
     state.signature = {info->m_strUserName, info->m_strRole, info->m_strDateText};
     if (!m_state.Note(state)) return TextId::NotNoted;
-    if (!SignDrawing(m_session.SignOpt(), &CSignOpt::Sign, *info, path)) return TextId::FailedSign;
+    if (!SignDrawing(m_session.SignOpt(), &CSignOpt::Sign, *info, path))
+        return Outcome::Because(TextId::FailedSign);
     state.progress = Progress::Signed;
     state.stamp = StampOf(path);
     m_state.Note(state);
@@ -112,36 +115,33 @@ int RunSign(const Options& options) {
     InteractiveSession session(options);
     if (!session.Open()) return kExitFailed;
     const RunLock lock(input.work);
-    if (lock.State() != RunLock::Result::Held) {
-        session.Tell(Text(TextId::WorkFolderBusy, {input.work}));
-        return kExitBusy;
-    }
+    if (!session.Holds(lock, input.work)) return kExitBusy;
     session.Window().ShowStep(Text(TextId::StepStart));
     MessageRecords records;
     if (!StartMessage(session.Plm(), &CPLMInteract::StartSign, input.message, input.work, records)) {
-        session.Tell(Text(TextId::NothingChosen));
+        session.Tell(Outcome::Because(TextId::NothingChosen));
         return kExitRefused;
     }
     const std::vector<Document> documents = DocumentsOf(*records.files);
     if (documents.empty()) return kExitNone;
 
-    TextId outcome = RefusalsOf(documents).front();
+    Outcome outcome = RefusalsOf(documents).front();
     if (outcome == TextId::Ready)
         outcome = InteractiveRun(session, *records.login, input.work).Process(documents.front());
-    PrintDocumentLine(documents, 0, outcome);
+    TellDocument(documents.front().Name(), 0, 1, outcome);
     if (outcome != TextId::Signed) {
-        session.Tell(Text(outcome));
+        session.Tell(outcome);
         return kExitNone;
     }
     if (options.Has(kKeepLog)) {
-        PrintLine(Text(TextId::LogKept));
+        Tell(TextId::LogKept);
         return kExitDone;
     }
     if (session.Plm().SendSignLog(input.work) != 0) {
-        session.Tell(Text(TextId::LogNotSent));
+        session.Tell(Outcome::Because(TextId::LogNotSent));
         return kExitLog;
     }
-    PrintLine(Text(TextId::LogSent));
+    Tell(TextId::LogSent);
     return kExitDone;
 }
 

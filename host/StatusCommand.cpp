@@ -2,7 +2,7 @@
 #include <afxwin.h>
 
 #include "host/Commands.h"
-#include "host/Console.h"
+#include "host/Report.h"
 #include "host/Paths.h"
 #include "host/RunState.h"
 #include "host/Texts.h"
@@ -40,22 +40,26 @@ std::vector<OptionRule> StatusRules() {
 int RunStatus(const Options& options) {
     const CString folder = FullPath(options.Value(kFolder));
     if (!FolderExists(folder)) {
-        PrintError(Text(TextId::NoFolder, {options.Value(kFolder)}));
+        TellError(TextId::NoFolder, {options.Value(kFolder)});
         return kExitRefused;
     }
     RunState state(folder);
     state.Read();
     if (state.All().empty()) {
-        PrintLine(Text(TextId::NoDocuments));
+        TellResult(TextId::NoDocuments);
         return kExitNone;
     }
     CPLMInteract plm;
-    std::vector<std::vector<CString>> rows = {{Text(TextId::ColumnDocument), Text(TextId::ColumnSign),
-                                               Text(TextId::ColumnLog), Text(TextId::ColumnChange)}};
+    std::vector<std::vector<CString>> rows;
     for (const DocumentState& document : state.All()) {
         rows.push_back(RowOf(plm, folder, document.name));
     }
-    PrintTable(rows);
+    TellTable(L"tags",
+              {{L"document", TextId::ColumnDocument},
+               {L"sign", TextId::ColumnSign},
+               {L"log", TextId::ColumnLog},
+               {L"file", TextId::ColumnChange}},
+              rows);
     return kExitDone;
 }
 

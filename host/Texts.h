@@ -41,6 +41,7 @@ enum class TextId {
     FileTooLarge,
     BadEncoding,
     UnknownEncoding,
+    NoLogFile,
     // Start of a run
     FrameworkFailed,
     Unexpected,
@@ -83,6 +84,16 @@ enum class TextId {
     Summary,
     ReturnFile,
     ReturnFileFailed,
+    Progress,
+    ProgressLeft,
+    // What to do
+    RemedyAnywhere,
+    RemedySettings,
+    RemedySignServer,
+    RemedyMessage,
+    RemedyTransfer,
+    RemedyFiles,
+    RemedyLog,
     // Dry run
     DryMessage,
     DryVault,
@@ -94,6 +105,7 @@ enum class TextId {
     DrySummary,
     // Other commands
     Cancelled,
+    OptionNotStored,
     OptionStored,
     PictureFailed,
     NoRecord,
@@ -125,6 +137,9 @@ const wchar_t* Text(TextId id);
 
 /// The same with "%1", "%2" ... replaced by the arguments. A replaced text is not looked at again.
 CString Text(TextId id, std::initializer_list<CString> arguments);
+
+/// The name by which other programs know the text: it stays when the words change. Null for parts of lines.
+const wchar_t* CodeOf(TextId id);
 
 /// A count as an argument.
 CString NumberText(size_t number);

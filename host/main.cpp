@@ -2,7 +2,7 @@
 #include <afxwin.h>
 
 #include "host/Commands.h"
-#include "host/Console.h"
+#include "host/Report.h"
 #include "base/ComApartment.h"
 #include "base/Owned.h"
 #include "host/LocalClasses.h"
@@ -36,6 +36,6 @@ int wmain(int argc, wchar_t** argv) {
         exception->Delete();
     } catch (...) {
     }
-    host::PrintError(host::Text(host::TextId::Unexpected));
-    return host::kExitFailed;
+    host::TellError(host::TextId::Unexpected);
+    return host::EndReport(host::kExitFailed);
 }

@@ -49,7 +49,8 @@ std::wstring BinFolder() {
 }
 
 bool HostResult::Said(const std::string& line) const {
-    return ("\n" + out).find("\n" + line + "\r\n") != std::string::npos;
+    const std::string text = "\n" + out, start = "\n" + line;
+    return text.find(start + "\r\n") != std::string::npos || text.find(start + ": ") != std::string::npos;
 }
 
 HostResult RunHost(const std::vector<std::wstring>& arguments,

@@ -1,0 +1,26 @@
+// How something ended, and why.
+#pragma once
+
+#include <afxwin.h>
+
+#include "host/Texts.h"
+
+namespace host {
+
+struct Outcome {
+    Outcome(TextId id) : id(id) {} // NOLINT(google-explicit-constructor): most outcomes need no cause
+    /// With the cause of the library's last operation on this thread, if it failed.
+    static Outcome Because(TextId id);
+
+    bool operator==(TextId other) const { return id == other; }
+    bool operator!=(TextId other) const { return id != other; }
+
+    TextId id;
+    long cause = 0; ///< the library's reason code; 0: none is known
+    CString why;    ///< in the library's language
+};
+
+/// What, why, and what to do: "text: cause [code] -> remedy", or the text alone when no cause is known.
+CString Explained(const CString& text, const Outcome& outcome);
+
+} // namespace host
