@@ -25,8 +25,6 @@ bool InteractiveSession::Open() {
         TellError(TextId::NoPictureFolder, {pictures});
         return false;
     }
-    // The library's dialogs follow the host: unaware, they would be enlarged as blurred pictures.
-    ::SetProcessDPIAware();
     if (!m_session.Open(true)) {
         TellError(TextId::FrameworkFailed);
         return false;

@@ -46,7 +46,7 @@ export LC_ALL=zh_CN.UTF-8 DISPLAY=$VARNOKE_DISPLAY
     stamp=$WINEPREFIX/registered
     servers=$(xargs -r cksum 2>/dev/null <com-servers.txt || true) # those that are built
     if [ "$servers" != "$(cat "$stamp" 2>/dev/null)" ]; then
-        while read -r _ _ dll; do
+        while read -r _ _ dll && [ -n "$dll" ]; do
             $wine regsvr32 /s "$dll" </dev/null >/dev/null 2>&1 || { echo "cannot register $dll" >&2; exit 1; }
         done <<<"$servers"
         echo "$servers" >"$stamp"

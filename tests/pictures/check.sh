@@ -27,6 +27,7 @@ take_pictures() { # FRAMEWORK
     cd "$place"
     mv run "$1"
 }
+cp "$subset"/*Server*.dll "$subset"/*Grid*.dll "$subset"/*Viewer*.dll "$subset"/{QORParser.dll,com-servers.txt} "$real/bin"
 take_pictures subset
 take_pictures real
 exec "$root/tests/pictures/compare.py" "$place/subset/pictures" "$place/real/pictures"
