@@ -15,6 +15,7 @@ DialogFixture::~DialogFixture() {
     EXPECT_TRUE(m_driver.AllRan()) << "a dialog, a box or a message that was waited for did not come";
     for (const HWND owner : m_driver.Owners())
         EXPECT_EQ(owner, m_host.Window()->m_hWnd) << "whichever window is active";
+    EXPECT_TRUE(IsWindowEnabled(*m_host.Window()));
     SetEnvironmentVariableW(L"DURVELL_FAULT", nullptr);
     SetEnvironmentVariableW(L"DURVELL_VAULT", nullptr);
 }
@@ -27,8 +28,7 @@ void DialogFixture::ExpectBoxes(const wchar_t* owner, const std::vector<std::wst
     ASSERT_EQ(m_driver.Boxes().size(), texts.size());
     for (size_t i = 0; i < texts.size(); ++i) {
         const SeenBox& box = m_driver.Boxes()[i];
-        EXPECT_EQ(ToUtf8(box.text), ToUtf8(texts[i]));
-        EXPECT_EQ(ToUtf8(box.caption), ToUtf8(L"提示"));
+        EXPECT_EQ(ToUtf8(box.caption + L": " + box.text), ToUtf8(L"提示: " + texts[i]));
         EXPECT_EQ(ToUtf8(box.ownerCaption), ToUtf8(owner)) << ToUtf8(texts[i]);
         EXPECT_TRUE(box.information) << ToUtf8(texts[i]);
     }

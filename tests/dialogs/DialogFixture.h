@@ -9,9 +9,19 @@
 #include "tests/support/ObjectCounts.h"
 #include "tests/support/SettingsFile.h"
 #include "tests/support/TempFolder.h"
+#include "tests/support/TestClass.h"
 #include "tests/support/Text.h"
 
 namespace tests {
+
+// A control that is not installed.
+struct BrokenClass final : TestClass {
+    using TestClass::TestClass;
+    HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID, void** object) override {
+        *object = nullptr;
+        return REGDB_E_CLASSNOTREG;
+    }
+};
 
 class DialogFixture : public testing::Test {
 protected:

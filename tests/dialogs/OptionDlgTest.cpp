@@ -25,7 +25,7 @@ protected:
                 << "black first";
             const std::pair<int, int> parts[] = {{706, red}, {707, green}, {708, blue}};
             for (const auto& [id, value] : parts)
-                if (red >= 0) SetText(picker, id, std::to_wstring(value).c_str());
+                if (red >= 0) SetDlgItemTextW(picker, id, std::to_wstring(value).c_str());
             PostMessageW(picker, WM_COMMAND, red < 0 ? IDCANCEL : IDOK, 0);
         });
         Choose(dialog, Color, static_cast<int>(Items(dialog, Color).size()) - 1);
@@ -173,8 +173,7 @@ TEST_F(OptionDlg, Items_AreDrawnAsSwatchAndText) {
         EXPECT_LT(30, more.Count(text, inText));
         EXPECT_EQ(4 * 16, more.Count(window, textEnd));
         EXPECT_EQ(window, more.At(140, 8)) << "no swatch";
-        for (const int height : {-15, -20})
-            EXPECT_EQ(4 * 16, DrawnItem(dialog, 4, 0, height).Count(window, textEnd)) << "cut at " << height;
+        EXPECT_EQ(4 * 16, DrawnItem(dialog, 4, 0, -20).Count(window, textEnd)) << "a wide text is cut";
         SetFocus(GetDlgItem(dialog, Confirm));
         EXPECT_EQ(177, DrawnItem(dialog, 1, ODS_SELECTED).Count(highlight, topEdge));
         EXPECT_EQ(177 * 16, DrawnItem(dialog, static_cast<UINT>(-1)).Count(0, all));

@@ -1,35 +1,16 @@
-// Module state per thread; a regular DLL's application object starts and ends with the DLL, and may refuse to
-// be loaded.
+// Module state: nested, and per thread.
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include "tests/support/OtherThread.h"
-
 namespace {
 
-std::wstring Notes() {
-    wchar_t notes[64] = {};
-    ::GetEnvironmentVariableW(L"REGULAR_DLL_NOTES", notes, _countof(notes));
-    return notes;
+DWORD WINAPI NoteState(void* state) {
+    *static_cast<AFX_MODULE_STATE**>(state) = AfxGetModuleState();
+    return 0;
 }
 
 } // namespace
-
-TEST(RegularDll, StartAndEnd_AreCalledOnceEach) {
-    for (const wchar_t* mode : {L"", L"refuse", L"throw"}) {
-        ::SetEnvironmentVariableW(L"REGULAR_DLL_MODE", mode);
-        ::SetEnvironmentVariableW(L"REGULAR_DLL_NOTES", nullptr);
-        const HMODULE hModule = ::LoadLibraryW(L"regular-dll.dll");
-        EXPECT_EQ(*mode == 0, hModule != nullptr) << mode;
-        if (hModule != nullptr) {
-            EXPECT_EQ(L"init ", Notes());
-            ::FreeLibrary(hModule);
-        }
-        EXPECT_EQ(L"init exit ", Notes()) << mode;
-    }
-}
 
 TEST(ModuleState, ScopesNestAndEndWithExceptions) {
     // Static, as module states are: MFC counts on memory that began as zeros.
@@ -45,7 +26,9 @@ TEST(ModuleState, ScopesNestAndEndWithExceptions) {
         }
         EXPECT_EQ(AfxGetModuleState(), &outer);
         AFX_MODULE_STATE* seenByOther = nullptr;
-        tests::OnOtherThread([&] { seenByOther = AfxGetModuleState(); });
+        const HANDLE thread = ::CreateThread(nullptr, 0, &NoteState, &seenByOther, 0, nullptr);
+        ::WaitForSingleObject(thread, INFINITE);
+        ::CloseHandle(thread);
         EXPECT_EQ(seenByOther, AfxGetStaticModuleState()) << "each thread has its own";
     }
     EXPECT_EQ(AfxGetModuleState(), AfxGetStaticModuleState());

@@ -1,4 +1,4 @@
-// CString's operations on text; CTime and CFile::GetStatus.
+// CString's operations on text.
 #include <afxdisp.h>
 #include <gtest/gtest.h>
 
@@ -31,27 +31,4 @@ TEST(String, Format) {
     EXPECT_STREQ(text, L"宽|narrow|narrow 2024-07  1.50 1099511627776 签%");
     text.Format(L"%s", CString(L'y', 5000).GetString());
     EXPECT_EQ(text.GetLength(), 5000);
-}
-
-TEST(Time, StatusOfFiles) {
-    wchar_t program[_MAX_PATH];
-    ::GetModuleFileName(nullptr, program, _MAX_PATH);
-    CFileStatus status = {};
-    EXPECT_TRUE(CFile::GetStatus(program, status));
-    EXPECT_STREQ(program, status.m_szFullName);
-    EXPECT_GT(status.m_size, 4096u);
-    WIN32_FILE_ATTRIBUTE_DATA data;
-    ::GetFileAttributesEx(program, GetFileExInfoStandard, &data);
-    SYSTEMTIME utc, local;
-    ::FileTimeToSystemTime(&data.ftLastWriteTime, &utc);
-    ::SystemTimeToTzSpecificLocalTime(nullptr, &utc, &local);
-    EXPECT_EQ(local.wYear, status.m_mtime.GetYear());
-    EXPECT_EQ(local.wDay, status.m_mtime.GetDay());
-    EXPECT_EQ(local.wMinute * 60 + local.wSecond,
-              status.m_mtime.GetMinute() * 60 + status.m_mtime.GetSecond());
-
-    const CString missing = CString(program) + L".no", tooLong(L'x', 300);
-    for (const wchar_t* name : {L"", missing.GetString(), L"C:\\*", tooLong.GetString()})
-        EXPECT_FALSE(CFile::GetStatus(name, status)) << name;
-    EXPECT_THROW(CTime{FILETIME{}}, COleException*);
 }

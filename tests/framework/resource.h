@@ -3,9 +3,7 @@
 
 #define IDD_PLAIN 100
 #define IDC_NAME 101
-#define IDC_COLORS 102
 
-#define IDD_BROKEN 109
 #define IDD_CONTROLS 110
 #define IDC_UNKNOWN_CONTROL 112
 #define IDC_FAKE_CONTROL 113

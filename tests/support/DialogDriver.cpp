@@ -1,5 +1,6 @@
 #include "tests/support/DialogDriver.h"
 #include <gtest/gtest.h>
+#include "tests/support/Watchdog.h"
 
 namespace tests {
 
@@ -44,6 +45,7 @@ bool HasInformationIcon(HWND box) {
 
 DialogDriver::DialogDriver() {
     g_driver = this;
+    Progress();
     m_runner = CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
     SetWindowLongPtrW(m_runner, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&RunnerProc));
     SetTimer(m_runner, 1, 500, nullptr);
@@ -58,6 +60,7 @@ DialogDriver::~DialogDriver() {
     MSG quit;
     if (m_stuck) PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
     g_driver = nullptr;
+    Watchdog::Allow();
 }
 
 void DialogDriver::Next(Script script) {
@@ -70,10 +73,6 @@ void DialogDriver::AtEnd(Script script) {
 
 void DialogDriver::After(UINT message, int count, Script script) {
     m_triggers.push_back({message, count, std::move(script)});
-}
-
-void DialogDriver::NextBox(Script script) {
-    m_boxScripts.push_back(std::move(script));
 }
 
 LRESULT CALLBACK DialogDriver::CbtHook(int code, WPARAM wParam, LPARAM lParam) {
@@ -95,7 +94,7 @@ LRESULT CALLBACK DialogDriver::RunnerProc(HWND window, UINT message, WPARAM wPar
 
 void DialogDriver::Progress() {
     m_lastProgress = GetTickCount64();
-    Watchdog::Progress();
+    Watchdog::Allow(std::chrono::seconds(20)); // with a thread that takes no messages
 }
 
 // The request to quit ends every modal loop, however deep.
@@ -115,7 +114,6 @@ void DialogDriver::Activated(HWND window) {
     }
     if (m_known.size() == 1) m_owners.insert(GetWindow(window, GW_OWNER));
     ++m_shownDialogs;
-    m_shownAt = GetTickCount64();
     m_current = window;
     if (m_scripts.empty()) {
         ADD_FAILURE() << "an unexpected dialog was shown";
@@ -172,22 +170,15 @@ void DialogDriver::Run(HWND window) {
 
 void DialogDriver::AnswerBox(HWND box) {
     const HWND owner = GetWindow(box, GW_OWNER);
-    m_boxes.push_back(
-        {WindowText(box), TextOf(box, kBoxText), HasInformationIcon(box), owner, WindowText(owner)});
-    if (!m_boxScripts.empty()) {
-        const Script script = std::move(m_boxScripts.front());
-        m_boxScripts.pop_front();
-        script(box);
-    }
+    RECT bounds = {};
+    GetWindowRect(box, &bounds);
+    m_boxes.push_back({WindowText(box), TextOf(box, kBoxText), HasInformationIcon(box), WindowText(owner),
+                       static_cast<int>(bounds.bottom - bounds.top)});
     PostMessageW(box, WM_COMMAND, IDOK, 0);
 }
 
 std::wstring TextOf(HWND dialog, int id) {
     return WindowText(GetDlgItem(dialog, id));
-}
-
-void SetText(HWND dialog, int id, const wchar_t* text) {
-    SetDlgItemTextW(dialog, id, text);
 }
 
 void Click(HWND dialog, int id) {
@@ -200,10 +191,6 @@ bool Checked(HWND dialog, int id) {
 
 bool Enabled(HWND dialog, int id) {
     return IsWindowEnabled(GetDlgItem(dialog, id)) != FALSE;
-}
-
-bool Visible(HWND dialog, int id) {
-    return IsWindowVisible(GetDlgItem(dialog, id)) != FALSE;
 }
 
 int Selection(HWND dialog, int id) {

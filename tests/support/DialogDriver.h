@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 #include <windows.h>
-#include "tests/support/Watchdog.h"
 
 namespace tests {
 
@@ -14,8 +13,8 @@ struct SeenBox {
     std::wstring caption;
     std::wstring text;
     bool information = false; // shown with the information icon
-    HWND owner = nullptr;
     std::wstring ownerCaption;
+    int height = 0; // pixels
 };
 
 // A private message of a transfer dialog, as the dialog took it from the queue.
@@ -43,21 +42,18 @@ public:
     void AtEnd(Script script);
     // Runs in the modal loop after the dialog took the count-th private or timer message of that number.
     void After(UINT message, int count, Script script);
-    // Runs before the next message box gets its OK.
-    void NextBox(Script script);
     // Runs in the modal loop, behind the messages that are waiting.
     void Post(HWND window, Script script);
 
     int ShownDialogs() const { return m_shownDialogs; }
-    // When the last dialog was shown and destroyed, ms.
-    ULONGLONG ShownAt() const { return m_shownAt; }
+    // When the last dialog was destroyed, ms.
     ULONGLONG EndedAt() const { return m_endedAt; }
     // The owners of the dialogs that were not shown over another one.
     const std::set<HWND>& Owners() const { return m_owners; }
     const std::vector<SeenBox>& Boxes() const { return m_boxes; }
     const std::vector<SeenMessage>& Messages() const { return m_messages; }
     // Whether every script has run.
-    bool AllRan() const { return m_scripts.empty() && m_boxScripts.empty() && m_triggers.empty(); }
+    bool AllRan() const { return m_scripts.empty() && m_triggers.empty(); }
 
 private:
     struct Trigger {
@@ -77,18 +73,17 @@ private:
     void EndWhenStuck();
     void Progress();
 
-    const Watchdog::Patience m_patience{std::chrono::seconds(20)}; // with a thread that takes no messages
     HWND m_runner = nullptr;
     HHOOK m_cbtHook = nullptr;
     HHOOK m_messageHook = nullptr;
     std::set<HWND> m_known, m_owners;
-    std::deque<Script> m_scripts, m_boxScripts;
+    std::deque<Script> m_scripts;
     std::deque<std::pair<HWND, Script>> m_posted;
     std::vector<Trigger> m_triggers;
     Script m_atEnd;
     HWND m_current = nullptr;
     int m_shownDialogs = 0;
-    ULONGLONG m_shownAt = 0, m_endedAt = 0, m_lastProgress = GetTickCount64();
+    ULONGLONG m_endedAt = 0, m_lastProgress = 0;
     bool m_stuck = false;
     std::vector<SeenBox> m_boxes;
     std::vector<SeenMessage> m_messages;
@@ -96,12 +91,10 @@ private:
 
 // Controls of a dialog, by id.
 std::wstring TextOf(HWND dialog, int id);
-void SetText(HWND dialog, int id, const wchar_t* text);
 // Presses a button or toggles a check box, as a user would.
 void Click(HWND dialog, int id);
 bool Checked(HWND dialog, int id);
 bool Enabled(HWND dialog, int id);
-bool Visible(HWND dialog, int id);
 // Combo boxes. Choose selects an item and sends the notifications of a confirmed selection.
 int Selection(HWND dialog, int id);
 void Choose(HWND dialog, int id, int index);
