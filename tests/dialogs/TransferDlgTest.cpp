@@ -50,7 +50,6 @@ protected:
     }
     long Run(const Variant& variant) {
         m_callsBefore = ServerCalls();
-        m_messagesBefore = m_driver.Messages().size();
         m_begun = GetTickCount64();
         return &variant == &kDownload ? m_plm.DownloadDoc(&m_list) : m_plm.UploadDoc(&m_list);
     }
@@ -68,11 +67,12 @@ protected:
         return Run(variant);
     }
     // The same without the delays before the start and the end.
-    long Hurry(const Variant& variant, Step last = Ended) {
+    long Hurry(const Variant& variant, Step last = Ended, bool block = false) {
         const bool empty = m_list.m_lstItem.IsEmpty();
         if (!empty) AfterStep(variant, last, [this](HWND dialog) { EndSoon(dialog); });
         return Transfer(variant, [=](HWND dialog) {
             SendMessageW(dialog, WM_TIMER, StartTimer, 0);
+            if (block) Block();
             if (empty) EndSoon(dialog);
         });
     }
@@ -120,13 +120,14 @@ protected:
     }
     // Keeps the dialog busy until 128 messages lie there, two a document, and its worker has to wait for it.
     void Block() const {
-        const size_t taken = m_driver.Messages().size() - m_messagesBefore;
-        while (ServerCalls() - m_callsBefore < (taken + 128) / 2)
+        while (ServerCalls() - m_callsBefore < 64)
             Sleep(10);
+        Sleep(200);
+        EXPECT_EQ(64u, ServerCalls() - m_callsBefore) << "the worker waits";
     }
 
     SSignFileDUL m_list;
-    size_t m_callsBefore = 0, m_messagesBefore = 0;
+    size_t m_callsBefore = 0;
     ULONGLONG m_begun = 0; // ms
     std::function<void()> m_beforeEnd;
     std::wstring m_fileLabel, m_totalLabel, m_log;
@@ -284,25 +285,20 @@ TEST_F(TransferDlg, AFailingWorker_ReportsTheInterruption) {
 
 TEST_F(TransferDlg, ABusyDialog_LosesNoReport) {
     AddFiles(130); // more text than an edit box holds by default
-    AfterStep(kDownload, Begins, [this](HWND) {
-        Block();
-        Sleep(300);
-        EXPECT_GT(130u, ServerCalls()) << "the worker waits";
-    });
-    EXPECT_EQ(1, Hurry(kDownload));
+    EXPECT_EQ(1, Hurry(kDownload, Ended, true));
     EXPECT_EQ(262u, Log().size());
     EXPECT_EQ(L"下载进度：\t130 / 130", m_totalLabel);
 }
 
 TEST_F(TransferDlg, Runs_LeaveNothingWhetherTakenOrNot) {
     AddFiles(100);
-    const long long messages = 1024 * 2 * 64; // the least that stays unread
+    const long long messages = 1024 * 2 * 64; // half of what lies there
     ExpectNothingLeft(4, messages, [this] {
-        AfterStep(kUpload, Begins, [this](HWND dialog) {
+        Transfer(kUpload, [this](HWND dialog) {
+            SendMessageW(dialog, WM_TIMER, StartTimer, 0);
             Block();
             SendMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
         });
-        Transfer(kUpload, [](HWND dialog) { SendMessageW(dialog, WM_TIMER, StartTimer, 0); });
     });
     EXPECT_EQ(std::wstring::npos, m_fileLabel.find(L"完成：")) << "what was waiting is not shown any more";
     ExpectNothingLeft(4, messages, [this] { Hurry(kUpload); });
