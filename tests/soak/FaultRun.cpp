@@ -10,6 +10,7 @@
 #include "tests/soak/FaultPoints.h"
 #include "tests/soak/Readers.h"
 #include "tests/soak/Workplace.h"
+#include "tests/support/Message.h"
 
 namespace soak {
 
@@ -29,17 +30,16 @@ std::wstring g_folder;
 std::wstring g_message;
 
 bool Start(Library& library, bool merge) {
-    SLoginInfo* login = nullptr;
-    SSignType *steps = nullptr, *files = nullptr;
+    Records records;
     std::wstring text = g_message;
     const auto operation =
         merge ? &CPLMInteract::AppendParserStartSignXmlString : &CPLMInteract::StartSignForBackSign;
-    const long result = (library.plm.*operation)(text.data(), g_folder.data(), &login, &steps, &files);
-    if (!result && (login || steps || files)) Stop("records were handed out by a failed operation");
-    if (result && (!login || !steps || !files)) Stop("a successful operation handed out nothing");
-    Cmn_ReleaseLoginInfo(login);
-    Cmn_ReleaseSignType(steps);
-    Cmn_ReleaseSignType(files);
+    const long result = (library.plm.*operation)(text.data(), g_folder.data(), &records.login, &records.steps,
+                                                 &records.files);
+    const bool any = records.login || records.steps || records.files;
+    if (!result && any) Stop("records were handed out by a failed operation");
+    if (result && !(records.login && records.steps && records.files))
+        Stop("a successful operation handed out nothing");
     return result != 0;
 }
 
@@ -127,29 +127,15 @@ const Step kSteps[] = {
 };
 
 std::wstring MessageOf(const wchar_t* document) {
-    return std::wstring(L"<root><objs><type id='LoginInfo'><obj><pro name='UserName' value='wang'/>"
-                        L"<pro name='Password' value='p'/><pro name='PLMServer' value='s'/></obj></type>"
-                        L"<type id='step'><obj><pro name='STEP' value='1'/></obj></type>"
-                        L"<type id='DOC'><obj><pro name='FNAME' value='") +
-           document + L"'/></obj></type></objs></root>";
-}
-
-/// What a failed deletion left: the library removes it once this process has ended.
-void RemoveLeftFiles(const std::wstring& folder) {
-    WIN32_FIND_DATAW found = {};
-    const HANDLE find = ::FindFirstFileW((folder + L"\\~varnoke-*").c_str(), &found);
-    if (find == INVALID_HANDLE_VALUE) return;
-    do {
-        ::DeleteFileW((folder + L"\\" + found.cFileName).c_str());
-    } while (::FindNextFileW(find, &found));
-    ::FindClose(find);
+    return tests::Message(std::wstring(L"LoginInfo:UserName=wang,Password=p,PLMServer=s|step:STEP=1|DOC:") +
+                          document);
 }
 
 /// The folder as an earlier run left it: every file of the steps is there and sound.
 void Prepare(Library& library) {
-    for (const wchar_t* folder : {L".", L"work", L"work\\SignData"}) {
-        RemoveLeftFiles(Path(folder));
-    }
+    // What a failed deletion left: the library removes it once this process has ended.
+    for (const wchar_t* folder : {L".\\", L"work\\", L"work\\SignData\\"})
+        DeleteAll(Path(folder), L"~varnoke-*");
     g_message = MessageOf(kDocument);
     WriteAll(Path(L"vault\\files\\a.dwg"), "a drawing");
     WriteAll(Path(L"work\\a.dwg"), "old");

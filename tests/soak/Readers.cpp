@@ -12,18 +12,6 @@ namespace soak {
 
 namespace {
 
-/// The records of one message.
-struct Records {
-    ~Records() {
-        Cmn_ReleaseLoginInfo(login);
-        Cmn_ReleaseSignType(steps);
-        Cmn_ReleaseSignType(files);
-    }
-    SLoginInfo* login = nullptr;
-    SSignType* steps = nullptr;
-    SSignType* files = nullptr;
-};
-
 std::wstring SignData(const wchar_t* name) {
     const std::wstring folder = Path(L"work\\SignData");
     ::CreateDirectoryW(folder.c_str(), nullptr);
@@ -52,15 +40,7 @@ void ReadRecord(Library& library, const std::string& bytes) {
     object.AddTail(&id);
     object.AddTail(&role);
     library.plm.WriteDelOrSignLogToLocal(&object, Path(L"work").c_str(), bytes.size() % 2 ? L"N" : L"D");
-    for (const wchar_t* left : {L"work\\SignData\\*.bad*", L"work\\SignData\\*unread*"}) {
-        WIN32_FIND_DATAW found = {};
-        const HANDLE find = ::FindFirstFileW(Path(left).c_str(), &found);
-        if (find == INVALID_HANDLE_VALUE) continue;
-        do {
-            ::DeleteFileW(SignData(found.cFileName).c_str());
-        } while (::FindNextFileW(find, &found));
-        ::FindClose(find);
-    }
+    DeleteAll(SignData(L""), L"*unread*");
 }
 
 void ReadSettings(Library& library, const std::string& bytes) {

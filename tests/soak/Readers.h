@@ -9,6 +9,18 @@
 
 namespace soak {
 
+/// The records of one message.
+struct Records {
+    ~Records() {
+        Cmn_ReleaseLoginInfo(login);
+        Cmn_ReleaseSignType(steps);
+        Cmn_ReleaseSignType(files);
+    }
+    SLoginInfo* login = nullptr;
+    SSignType* steps = nullptr;
+    SSignType* files = nullptr;
+};
+
 /// The objects that the readers use; initialised once.
 class Library {
 public:

@@ -8,40 +8,37 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "base/Owned.h"
+#include "base/Paths.h"
+#include "base/WholeFile.h"
+
 namespace soak {
 
 std::wstring Path(const wchar_t* name) {
-    std::wstring folder(::GetCurrentDirectoryW(0, nullptr), L'\0');
-    folder.resize(::GetCurrentDirectoryW(static_cast<DWORD>(folder.size()), folder.data()));
-    return folder + L"\\" + name;
+    return base::FullPath(name);
 }
 
 std::wstring ProgramFolder() {
-    wchar_t path[MAX_PATH] = {};
-    ::GetModuleFileNameW(nullptr, path, MAX_PATH - 1);
-    const std::wstring text = path;
-    return text.substr(0, text.rfind(L'\\') + 1);
+    return base::FolderPrefix(base::ModulePath(nullptr));
 }
 
 std::string ReadAll(const std::wstring& path) {
     std::string bytes;
-    if (FILE* file = _wfopen(path.c_str(), L"rb")) {
-        char buffer[65536];
-        for (size_t count; (count = std::fread(buffer, 1, sizeof buffer, file)) > 0;) {
-            bytes.append(buffer, count);
-        }
-        std::fclose(file);
-    }
+    base::ReadWholeFile(path, bytes);
     return bytes;
 }
 
 void WriteAll(const std::wstring& path, const std::string& bytes) {
-    ::SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-    FILE* file = _wfopen(path.c_str(), L"wb");
-    if (!file || std::fwrite(bytes.data(), 1, bytes.size(), file) != bytes.size()) {
-        Stop("cannot write %ls", path.c_str());
-    }
-    std::fclose(file);
+    if (!base::WriteWholeFile(path, bytes)) Stop("cannot write %ls", path.c_str());
+}
+
+void DeleteAll(const std::wstring& folder, const wchar_t* pattern) {
+    WIN32_FIND_DATAW found = {};
+    const base::FindHandle find = base::OwnFind(::FindFirstFileW((folder + pattern).c_str(), &found));
+    if (!find) return;
+    do {
+        ::DeleteFileW((folder + found.cFileName).c_str());
+    } while (::FindNextFileW(find.get(), &found));
 }
 
 std::wstring FromUtf8(const std::string& bytes) {

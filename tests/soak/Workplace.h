@@ -14,6 +14,9 @@ std::wstring ProgramFolder();
 std::string ReadAll(const std::wstring& path);
 /// Ends the run when the file can't be written.
 void WriteAll(const std::wstring& path, const std::string& bytes);
+/// The files of a folder (with its trailing backslash) whose names match.
+void DeleteAll(const std::wstring& folder, const wchar_t* pattern);
+/// Also of bytes that are none.
 std::wstring FromUtf8(const std::string& bytes);
 
 /// Bytes that the process has committed.
