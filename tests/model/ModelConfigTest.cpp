@@ -45,22 +45,6 @@ TEST_F(ModelConfigTest, Getters_GiveWhatTheFileSays) {
     ASSERT_EQ(InitializeAndLoad(), 1);
     // The first map's server is empty, the next is another object's, "sign" comes before "SIGN".
     EXPECT_EQ(Captions(), kSampleCaptions);
-
-    const IQORObjConfigPtr server = m_config->GetServerObjectConfig();
-    const auto attribute = [&](long index, const wchar_t* name) -> std::wstring {
-        _bstr_t value;
-        const HRESULT result = server->GetEntryAttribute(index, _bstr_t(name), value.GetAddress());
-        if (result != S_OK) return result == S_FALSE ? L"<absent>" : L"<failed>";
-        return std::wstring(value, value.length());
-    };
-    long count = 0;
-    ASSERT_EQ(server->GetCount(&count), S_OK);
-    EXPECT_EQ(count, 5);
-    EXPECT_EQ(attribute(1, L"name") + attribute(1, L"caption") + attribute(2, L"caption"),
-              L"DOCNAME图纸名称");
-    EXPECT_EQ(attribute(2, L"width"), L"<absent>");
-    EXPECT_EQ(attribute(5, L"name") + attribute(-1, L"name"), L"<failed><failed>");
-    EXPECT_EQ(server->GetCount(nullptr), E_POINTER);
 }
 
 TEST_F(ModelConfigTest, Getters_FollowTheSettings) {
