@@ -1,5 +1,4 @@
-// The headers against mfc140u.dll itself: sizes of classes, places of virtual functions, numbers of
-// signatures.
+// The headers against mfc140u.dll itself: sizes of classes, places of virtual functions.
 #include <afxcmn.h>
 #include <afxcoll.h>
 #include <afxdisp.h>
@@ -62,17 +61,6 @@ void CompareSizes() {
     (CompareSize<TClasses>(), ...);
 }
 
-struct MapsOf : CDialog {
-    static UINT_PTR Signature(const AFX_MSGMAP* map, UINT message, UINT id) {
-        for (const AFX_MSGMAP_ENTRY* entry = map->lpEntries; entry->nSig != AfxSig_end; ++entry)
-            if (entry->nMessage == message && entry->nID == id) return entry->nSig;
-        return AfxSig_end;
-    }
-    MapsOf() : CDialog(0u) {}
-    static const AFX_MSGMAP* OfDialog() { return CDialog::GetThisMessageMap(); }
-    static const AFX_MSGMAP* OfWindow() { return CWnd::GetThisMessageMap(); }
-};
-
 } // namespace
 
 TEST(Layout, Classes_HaveTheDllsSizes) {
@@ -100,11 +88,4 @@ TEST(Layout, VirtualFunctions_StandWhereTheDllHasThem) {
     const Derived<CWinApp> derived;
     const CWinApp app;
     CompareTables("CWinApp", derived, app, 70, 13);
-}
-
-TEST(Layout, Handlers_HaveTheDllsSignatures) {
-    EXPECT_EQ(UINT_PTR(AfxSigCmd_v), MapsOf::Signature(MapsOf::OfDialog(), WM_COMMAND, IDOK));
-    EXPECT_EQ(UINT_PTR(AfxSig_l_w_l), MapsOf::Signature(MapsOf::OfDialog(), WM_INITDIALOG, 0));
-    EXPECT_EQ(UINT_PTR(AfxSig_v_v_v), MapsOf::Signature(MapsOf::OfWindow(), WM_NCDESTROY, 0));
-    EXPECT_EQ(UINT_PTR(AfxSig_v_i_s), MapsOf::Signature(MapsOf::OfWindow(), WM_DRAWITEM, 0));
 }
