@@ -20,7 +20,10 @@ struct Outcome {
     CString why;    ///< in the library's language
 };
 
-/// What, why, and what to do: "text: cause [code] -> remedy", or the text alone when no cause is known.
+/// What to do about it; empty when there is nothing to do.
+CString Remedy(const Outcome& outcome);
+
+/// What, why, and what to do: "text: cause [code] -> remedy", as far as they are known.
 CString Explained(const CString& text, const Outcome& outcome);
 
 } // namespace host

@@ -30,8 +30,9 @@ public:
     Event& Add(const wchar_t* key, const wchar_t* text) { return AddRaw(key, base::JsonText(text)); }
     Event& Add(const wchar_t* key, size_t number) { return AddRaw(key, std::to_wstring(number)); }
     Event& Add(const Outcome& outcome) {
-        if (outcome.cause == 0) return *this;
-        return Add(L"cause", static_cast<size_t>(outcome.cause)).Add(L"why", outcome.why);
+        if (outcome.cause != 0) Add(L"cause", static_cast<size_t>(outcome.cause)).Add(L"why", outcome.why);
+        const CString remedy = Remedy(outcome);
+        return remedy.IsEmpty() ? *this : Add(L"remedy", remedy);
     }
     void Print() { PrintLine((m_text + L"}").c_str()); }
 

@@ -56,8 +56,7 @@ constexpr TextEntry kTexts[] = {
     {TextId::PathTooLong, L"path-too-long", L"the path is too long: %1", L"路径过长：%1"},
     {TextId::SettingsEncoding, L"settings-encoding",
      L"the system reads the settings in another encoding than they have; save them as UTF-16 with a byte "
-     L"order "
-     L"mark: %1",
+     L"order mark: %1",
      L"系统不能按设置文件的编码读取，请另存为带字节顺序标记的 UTF-16：%1"},
     {TextId::NoReturnFolder, L"no-return-folder", L"the return file has no folder: %1",
      L"返回文件的目录不存在：%1"},
@@ -157,6 +156,16 @@ constexpr TextEntry kTexts[] = {
     {TextId::RemedyFiles, nullptr, L"check rights and space in the folder", L"请检查目录的权限和空间"},
     {TextId::RemedyLog, nullptr, L"close what uses the sign record; the next run goes on with it",
      L"请关闭占用签名记录的程序，下次运行会继续"},
+    {TextId::RemedyFolder, nullptr, L"make the folder, or name another one", L"请新建该目录或改用其他目录"},
+    {TextId::RemedyShorter, nullptr, L"use a folder with a shorter path", L"请改用路径较短的目录"},
+    {TextId::RemedyBusy, nullptr, L"wait for its end, or use another work folder",
+     L"请等待其结束，或使用其他工作目录"},
+    {TextId::RemedyName, nullptr, L"have the document renamed on the PLM server",
+     L"请在 PLM 服务器上更改文档名称"},
+    {TextId::RemedySlow, nullptr, L"check that server; --timeout allows for longer calls",
+     L"请检查该服务器；--timeout 可延长时限"},
+    {TextId::RemedyAgain, nullptr, L"run it again, it goes on where it stopped",
+     L"请再次运行，将从停止处继续"},
 
     {TextId::DryMessage, L"dry-message", L"message: signer %1, documents: %2", L"消息：签名人 %1，文档数 %2"},
     {TextId::DryVault, L"dry-vault", L"vault: %1", L"服务端目录：%1"},

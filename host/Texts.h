@@ -94,6 +94,12 @@ enum class TextId {
     RemedyTransfer,
     RemedyFiles,
     RemedyLog,
+    RemedyFolder,
+    RemedyShorter,
+    RemedyBusy,
+    RemedyName,
+    RemedySlow,
+    RemedyAgain,
     // Dry run
     DryMessage,
     DryVault,

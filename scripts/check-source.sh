@@ -38,6 +38,17 @@ done < <(grep -oE '^#define +ID[A-Z]_[A-Z0-9_]+' ui/resource.h | awk '{print $2}
 dup=$(grep -oE '^#define +ID[A-Z]*_[A-Z0-9_]+' ui/resource.h | sort | uniq -d)
 [ -z "$dup" ] || complain "defined twice: $dup"
 
+# Every reason code is explained to its readers.
+while read -r code; do
+    for page in docs/troubleshooting.md docs/troubleshooting.zh-CN.md; do
+        grep -qE "(^\\| $code \\||\`$code\`)" "$page" || complain "$page does not have the code $code"
+    done
+done < <(
+    grep -oE '^    [A-Z][A-Za-z0-9]* = [1-9][0-9]*,' include/varnoke/Cause.h | grep -oE '[0-9]+'
+    grep -oE 'TextId::[A-Za-z]+, L"[a-z-]+"' host/Texts.cpp | cut -d'"' -f2
+    grep -oE '\{L"[a-z0-9.-]+", k(Fault|Warning)' doctor/Reasons.cpp | cut -d'"' -f2
+)
+
 scripts/check-rooms.py || failed=1
 
 exit $failed

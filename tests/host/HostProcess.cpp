@@ -50,7 +50,8 @@ std::wstring BinFolder() {
 
 bool HostResult::Said(const std::string& line) const {
     const std::string text = "\n" + out, start = "\n" + line;
-    return text.find(start + "\r\n") != std::string::npos || text.find(start + ": ") != std::string::npos;
+    const auto has = [&](const char* end) { return text.find(start + end) != std::string::npos; };
+    return has("\r\n") || has(": ") || has(" -> ");
 }
 
 HostResult RunHost(const std::vector<std::wstring>& arguments,

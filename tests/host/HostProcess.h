@@ -14,7 +14,7 @@ struct HostResult {
     std::string out; // UTF-8, as the host wrote it
     std::string err;
 
-    bool Said(const std::string& line) const; // a line of standard output, up to the cause behind it
+    bool Said(const std::string& line) const; // a line of standard output, up to cause and remedy behind it
     std::string Text() const { return "exit " + std::to_string(exitCode) + "\n" + out + err; }
 };
 
