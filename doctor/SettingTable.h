@@ -12,6 +12,7 @@ struct Setting {
     const wchar_t* key;
     const wchar_t* fallback;
     SettingKind kind;
+    bool choice = false; ///< the user's, in a dialog: it may stand in the user's own file
 };
 
 extern const Setting kSettings[];

@@ -52,7 +52,9 @@ size_t Distance(const std::wstring& a, const std::wstring& b) {
 
 class SettingsCheck {
 public:
-    SettingsCheck(const std::wstring& file, Report& report) : m_file(file), m_report(report) {}
+    /// `userFile` is empty when there is no layer of the user's own.
+    SettingsCheck(const std::wstring& file, const std::wstring& userFile, Report& report)
+        : m_file(file), m_userFile(userFile), m_report(report) {}
 
     void CheckNames() {
         const auto sections = TextList([this](wchar_t* buffer, DWORD size) {
@@ -72,14 +74,19 @@ public:
             const Setting& setting = kSettings[i];
             const std::wstring name = L"[" + std::wstring(setting.section) + L"] " + setting.key;
             bool set = false;
-            const std::wstring value = ReadSetting(m_file, setting, &set);
+            const wchar_t* origin = L"  (the user's Varnoke.ini)";
+            std::wstring value;
+            if (setting.choice && !m_userFile.empty()) value = ReadSetting(m_userFile, setting, &set);
+            if (!set) {
+                value = ReadSetting(m_file, setting, &set);
+                origin = set ? L"  (Varnoke.ini)" : L"  (default)";
+            }
             if (!IsUsable(setting, value)) {
                 m_report.Add(L"settings.bad-value", name, value);
                 continue;
             }
             const bool secret = setting.kind == SettingKind::Secret;
-            m_report.Add(L"settings.value", name,
-                         (secret ? L"***" : value) + (set ? L"  (Varnoke.ini)" : L"  (default)"));
+            m_report.Add(L"settings.value", name, (secret ? L"***" : value) + origin);
         }
     }
 
@@ -114,6 +121,7 @@ private:
     }
 
     std::wstring m_file;
+    std::wstring m_userFile;
     Report& m_report;
 };
 
@@ -128,6 +136,10 @@ DWORD WriteError(const std::wstring& file) {
 
 void CheckSettings(const std::wstring& file, Report& report) {
     std::string bytes;
+    // With a layer of the user's own, nobody but the administrator writes here.
+    const bool userLayer = ::GetPrivateProfileIntW(L"Settings", L"UserLayer", 0, file.c_str()) == 1;
+    const std::wstring userFile =
+        userLayer ? base::WithVariables(L"%APPDATA%\\Varnoke\\Varnoke.ini") : std::wstring();
     const base::ReadResult read = base::ReadWholeFile(file, bytes, 16 << 20);
     if (read == base::ReadResult::Missing) {
         report.Add(L"settings.missing", file);
@@ -138,12 +150,11 @@ void CheckSettings(const std::wstring& file, Report& report) {
         report.Add(L"settings.file", file);
         const std::wstring encoding = MisreadEncoding(bytes);
         if (!encoding.empty()) report.Add(L"settings.encoding", file, encoding);
-        // With a layer of the user's own, nobody but the administrator writes here.
-        const bool userLayer = ::GetPrivateProfileIntW(L"Settings", L"UserLayer", 0, file.c_str()) == 1;
         if (const DWORD error = userLayer ? 0 : WriteError(file))
             report.Add(L"settings.read-only", file, ErrorText(error));
     }
-    SettingsCheck check(file, report);
+    if (base::FileExists(userFile)) report.Add(L"settings.file", userFile);
+    SettingsCheck check(file, userFile, report);
     check.CheckNames();
     check.CheckValues();
 }

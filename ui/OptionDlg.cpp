@@ -43,7 +43,8 @@ void COptionDlg::OnOK() {
             varnoke::ShowInfo(varnoke::ResourceText(IDS_BAD_TEXT_COLOR), this);
             return;
         }
-        if (m_settings) m_settings->SetDateTextColor(color);
+        if (m_settings && !m_settings->SetDateTextColor(color))
+            varnoke::ShowInfo(varnoke::ResourceText(IDS_NOT_STORED), this);
         EndDialog(IDOK);
     });
 }

@@ -1,5 +1,8 @@
 #include "ui/SignDlg.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "varnoke/INIConfig.h"
 #include "module/Guarded.h"
 #include "ui/InfoMessage.h"
@@ -123,7 +126,9 @@ void CSignDlg::OnOK() {
         return true;
     });
     if (!confirmed) return;
-    Guarded([this] { WriteBack(); });
+    Guarded([this] {
+        if (!WriteBack()) ShowInfo(ResourceText(IDS_NOT_STORED), this);
+    });
     EndDialog(IDOK);
 }
 
@@ -155,11 +160,11 @@ void CSignDlg::Collect(const SignInput& input) {
     m_scope = ChosenScope(input.opened, input.all);
 }
 
-void CSignDlg::WriteBack() {
-    if (!m_settings) return;
-    m_settings->SetDateStyle(m_dateFormatOut);
-    m_settings->SetDateLocation(m_dateLocationOut);
-    m_settings->SetDateFontSize(FontSizeValue(m_fontSizeOut));
-    m_settings->SetDateTextColor(m_textColor);
-    m_settings->SetScope(m_scope);
+bool CSignDlg::WriteBack() {
+    if (!m_settings) return true;
+    const long stored[] = {m_settings->SetDateStyle(m_dateFormatOut),
+                           m_settings->SetDateLocation(m_dateLocationOut),
+                           m_settings->SetDateFontSize(FontSizeValue(m_fontSizeOut)),
+                           m_settings->SetDateTextColor(m_textColor), m_settings->SetScope(m_scope)};
+    return std::find(std::begin(stored), std::end(stored), 0) == std::end(stored);
 }

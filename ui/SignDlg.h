@@ -56,7 +56,7 @@ private:
     void OnScopeClicked(int scope, const CButton& box);
     varnoke::SignInput ReadInput() const;
     void Collect(const varnoke::SignInput& input);
-    void WriteBack();
+    bool WriteBack(); // whether all choices are stored
 
     CEdit m_editUserName;
     CEdit m_editRole;

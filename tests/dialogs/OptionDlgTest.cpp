@@ -1,6 +1,7 @@
 // The option dialog and its colour combo box, shown by CSignOpt::SetOption.
 #include "tests/dialogs/DialogFixture.h"
 #include "base/Owned.h"
+#include "varnoke/Cause.h"
 
 namespace {
 
@@ -109,6 +110,10 @@ TEST_F(OptionDlg, MoreColours_EndAtTheCapacity) {
 TEST_F(OptionDlg, Confirm_EndsEvenWhenNothingCanBeStored) {
     std::filesystem::create_directory(m_settings.Path());
     EXPECT_EQ(1, SetOption([](HWND dialog) { Click(dialog, Confirm); }));
+    ExpectBoxes(L"选项", {L"设置未能保存。"});
+    long cause = 0;
+    Cmn_GetLastCause(&cause, nullptr, 0);
+    EXPECT_EQ(static_cast<long>(varnoke::Cause::SettingNotStored), cause);
     std::filesystem::remove(m_settings.Path());
 }
 

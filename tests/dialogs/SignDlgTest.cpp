@@ -210,6 +210,14 @@ TEST_F(SignDlg, Confirm_HandsOutAndStoresTheChoices) {
     EXPECT_EQ(m_settings.Get(L"SignScope", L"Scope"), L"2");
 }
 
+TEST_F(SignDlg, Confirm_TellsWhenTheChoicesAreNotStored) {
+    m_settings.Set(L"SignScope", L"Scope", L"2");
+    SetFileAttributesW(m_settings.Path().c_str(), FILE_ATTRIBUTE_READONLY);
+    EXPECT_EQ(1, Sign(1, [](HWND dialog) { Click(dialog, Confirm); }));
+    SetFileAttributesW(m_settings.Path().c_str(), FILE_ATTRIBUTE_NORMAL);
+    ExpectBoxes(L"签名", {L"设置未能保存。"});
+}
+
 TEST_F(SignDlg, Confirm_FixedScopeIsAllDocuments) {
     m_settings.Set(L"SignScope", L"Scope", L"1");
     ASSERT_EQ(1, Sign(0, [](HWND dialog) { Click(dialog, Confirm); }));

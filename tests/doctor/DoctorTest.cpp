@@ -138,7 +138,11 @@ std::vector<std::wstring> WorkOptions(const Installation& at, std::vector<std::w
 
 TEST(Doctor, GoodInstallation_HasNoComplaints) {
     const Installation at;
+    at.Set(L"Settings", L"UserLayer", L"1");
+    SetEnvironmentVariableW(L"APPDATA", at.m_folder.Text().c_str());
+    WriteBytes(at.m_folder / L"Varnoke" / L"Varnoke.ini", "[SignScope]\r\nScope=3\r\n[DynDisp]\r\nProgID=x");
     const HostResult report = at.Examine(WorkOptions(at, {L"--login"}));
+    EXPECT_NE(std::string::npos, report.out.find("3  (the user's Varnoke.ini)")) << report.Text();
     EXPECT_EQ(0u, report.exitCode) << report.Text();
     EXPECT_TRUE(Complaints(report).empty()) << report.Text();
     for (const char* code : {"file.ok", "settings.value", "progid.ok", "method.ok", "server.reachable",
