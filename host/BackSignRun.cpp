@@ -114,7 +114,7 @@ const Outcome& BackSignRun::Connect() {
 bool BackSignRun::Download(const Document& document) {
     const CallLimit::Call call(m_limit);
     TransferList list(m_work, document);
-    if (!m_session.Plm().DownloadDocForBackSign(list.Start()) || !list.Moved()) return false;
+    if (!m_session.Plm().DownloadDocForBackSign(list.Start())) return false;
     // The fresh copy is unsigned, whatever the tags say of an earlier one.
     m_session.Plm().UpdateDocsSignTag(list.List(), 1);
     return true;
@@ -153,7 +153,7 @@ Outcome BackSignRun::Sign(const Document& document, DocumentState& state, bool d
 bool BackSignRun::Upload(const Document& document) {
     const CallLimit::Call call(m_limit);
     TransferList list(m_work, document);
-    return m_session.Plm().UploadDocForBackSign(list.Start()) && list.Moved();
+    return m_session.Plm().UploadDocForBackSign(list.Start()) != 0;
 }
 
 void BackSignRun::Log(const Document& document, DocumentState& state) {

@@ -105,13 +105,9 @@ DocumentState RunState::Of(const CString& name) const {
 bool RunState::Note(const DocumentState& state) {
     const std::string line = LineOf(state);
     DWORD written = 0;
-    if (!m_file ||
-        !::WriteFile(m_file.get(), line.data(), static_cast<DWORD>(line.size()), &written, nullptr) ||
-        written != line.size()) {
-        return false;
-    }
-    Keep(state);
-    return true;
+    return m_file &&
+           ::WriteFile(m_file.get(), line.data(), static_cast<DWORD>(line.size()), &written, nullptr) &&
+           written == line.size();
 }
 
 void RunState::Keep(const DocumentState& state) {

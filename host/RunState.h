@@ -41,7 +41,7 @@ public:
     bool Open();
     /// Notes nothing more.
     void Close() { m_file.reset(); }
-    /// What was noted of the file name; an empty state when nothing was.
+    /// What earlier runs noted of the file name; an empty state when nothing was.
     DocumentState Of(const CString& name) const;
     /// False when the line could not be written: the step must not be taken then.
     bool Note(const DocumentState& state);

@@ -114,8 +114,14 @@ std::vector<std::wstring> JournalTexts(const Arguments& arguments) {
 // with "***" in place of a password.
 //
 // SIGNSERVER_FAULT makes calls fail: "Sign:2" the second call of Sign, "Login" every Login; several with ";"
-// between them. Calls are counted per process, from 1 again when the variable's text changes.
+// between them. Calls are counted per process, from 1 again when the variable's text changes. "Gone:2": as if
+// the server's process ended in the second call of any method.
 class SignServer final : public DispatchObject<> {
+public:
+    STDMETHODIMP GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID locale, DISPID* ids) override {
+        return m_gone ? RPC_E_DISCONNECTED : DispatchObject::GetIDsOfNames(iid, names, count, locale, ids);
+    }
+
 protected:
     const DispatchTable& Members() const override;
 
@@ -133,6 +139,7 @@ private:
     HRESULT Run(const wchar_t* method, std::vector<std::wstring> journaled, VARIANT& result, Work work);
 
     bool m_loggedIn = false;
+    bool m_gone = false;
 };
 
 const DispatchTable& SignServer::Members() const {
@@ -152,6 +159,8 @@ const DispatchTable& SignServer::Members() const {
 template <class Work>
 HRESULT SignServer::Run(const wchar_t* method, std::vector<std::wstring> journaled, VARIANT& result,
                         Work work) {
+    m_gone = m_gone || IsFaultDue(L"Gone");
+    if (m_gone) return RPC_E_DISCONNECTED;
     const long answer = !IsFaultDue(method) && work() ? 1 : 0;
     AppendJournal(JournalFile(), method, journaled, answer);
     return GiveLong(result, answer);

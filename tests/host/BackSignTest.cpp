@@ -156,7 +156,7 @@ TEST_F(BackSignTest, Killed_IsGoneOnWithWhereItEnded) {
     for (const auto& [step, deletions, signatures] : {std::tuple("signing", 1, 4), {"uploaded", 1, 4}}) {
         std::string text = ReadBytes(notes);
         text.replace(text.find("done"), 4, step);
-        WriteBytes(notes, text + "done\tcut");
+        WriteBytes(notes, text + "done\tcut\xE5");
         EXPECT_EQ(0u, BackSign().exitCode) << step;
         EXPECT_EQ(deletions, SignCalls("SignatureDelete", "\tD1\t")) << step;
         EXPECT_EQ(signatures, SignCalls("Sign")) << step;
@@ -203,6 +203,16 @@ TEST_F(BackSignTest, Failures_StopTheRunWhenThereAreEnough) {
     EXPECT_TRUE(result.Said("b.dwg: not signed: the download failed")) << result.Text();
     EXPECT_TRUE(result.Said("c.dwg: not tried: the run was stopped")) << result.Text();
     EXPECT_EQ("000", ReturnValues());
+}
+
+TEST_F(BackSignTest, DeadSigningServer_IsNotFetchedFor) {
+    Prepare({{L"a.dwg"}, {L"b.dwg"}, {L"c.dwg"}});
+    SetEnvironmentVariableW(L"SIGNSERVER_FAULT", L"Gone:3"); // after the login and a.dwg
+    const HostResult result = BackSign();
+    EXPECT_EQ(3u, result.exitCode) << result.Text();
+    EXPECT_TRUE(result.Said("b.dwg: not signed: the signing server did not sign")) << result.Text();
+    EXPECT_TRUE(result.Said("c.dwg: not signed: the signing server has gone")) << result.Text();
+    EXPECT_EQ(2, Calls("dvl_DownloadFile"));
 }
 
 TEST_F(BackSignTest, CallsThatDoNotReturn_AreGivenUpWithTheirDocument) {

@@ -17,7 +17,8 @@ using tests::Text;
 class Cause : public testing::Test {
 protected:
     Cause() {
-        m_server.m_methods = {{L"Login", 1}, {L"Test", 2}, {L"DeleteAllSign", 3}};
+        m_server.m_methods = {
+            {L"Login", 1}, {L"Test", 2}, {L"DeleteAllSign", 3}, {L"SignatureInvalidDelete", 0}};
         m_settings.Set(L"DynDisp", L"ProgID", m_server.m_progID.c_str());
     }
     static long Code() {
@@ -85,9 +86,12 @@ TEST_F(Cause, EachFailureNamesItsOwn) {
         {Cause::ArgumentMissing, L"password", [&] { return m_opt.Login(Text(L"u"), nullptr, Text(L"s")); }},
         {Cause::MethodMissing, L"SignatureValidate",
          [&] { return m_opt.SignatureValidateForBackSign(m_drawing, Text(L"x")); }},
+        {Cause::MethodMissing, L"SignatureInvalidDelete",
+         [&] { return m_opt.ClearInvalidSignForBackSign(m_drawing, Text(L"x")); }},
         {Cause::MethodRefused, L"DeleteAllSign", [&] { return DeleteAllAnswered(0L); }},
         {Cause::MethodResultUnusable, L"DeleteAllSign", [&] { return DeleteAllAnswered(L"ok"); }},
         {Cause::None, L"", [&] { return DeleteAllAnswered(7L) - 7; }},
+        {Cause::None, L"", [&] { return DeleteAllAnswered(0xFFFFFFFFul) + 1; }},
         {Cause::MethodFailed, L"许可: 已过期（0x80040201",
          [&] {
              m_server.m_answer = Expired;

@@ -16,7 +16,7 @@ struct FakeObject final : IDispatch {
     explicit FakeObject(FakeServer& server) : server(server) { ++server.m_objects; }
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
         const bool known = iid == IID_IUnknown || (iid == IID_IDispatch && server.m_automation);
-        *object = known ? this : nullptr;
+        *object = known ? this : reinterpret_cast<void*>(8); // there are servers that leave it unset
         return known ? AddRef(), S_OK : E_NOINTERFACE;
     }
     ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
