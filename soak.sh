@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The long checks: damaged input against every reader, every call failing once, kills at random moments, two runs
-# at once, a full disk. Takes hours; the short form, which test.sh runs, takes seconds.
+# The long checks: damaged input against every reader, every call failing once, many runs of a dialog, kills at random
+# moments, two runs at once, a full disk. Takes hours; the short form, which test.sh runs, takes seconds.
 # usage: soak.sh [--short] [BUILD-FOLDER]   (default: build/mingw, built when it is missing)
 set -euo pipefail
 root=$(cd "$(dirname "$0")" && pwd)
@@ -34,6 +34,10 @@ export DURVELL_VAULT="Z:${place//\//\\}\\vault" SIGNSERVER_JOURNAL="Z:${place//\
 
 run app/varnoke-soak.exe faults
 run app/varnoke-soak.exe readers "$inputs" "${VARNOKE_SOAK_SEED:-1}"
+if [ -z "$short" ]; then
+    VARNOKE_SOAK_RUNS=1000 run "$build/bin/test-listdlg.exe" --gtest_filter='*.Runs_LeaveNothingBehind' --gtest_brief=1
+    echo "dialog: nothing left of 1000 runs"
+fi
 mkdir "$place/kills"
 cd "$place/kills"
 "$root/tests/soak/kills.py" "$build" "$kills"

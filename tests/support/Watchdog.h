@@ -11,8 +11,8 @@ class Watchdog : public testing::EmptyTestEventListener {
 public:
     Watchdog();
 
-    // The running test has this long from now on, unless the next call comes before. It starts with 180 s.
-    static void Allow(std::chrono::seconds limit = std::chrono::seconds(180));
+    // The running test has this long from now on, unless the next call comes before. It starts with 60 s.
+    static void Allow(std::chrono::seconds limit = std::chrono::seconds(60));
 
 private:
     void OnTestStart(const testing::TestInfo& test) override;
