@@ -2,6 +2,7 @@
 #include <afxwin.h>
 
 #include "host/Document.h"
+#include "varnoke/Elements.h"
 
 namespace host {
 
@@ -11,9 +12,8 @@ constexpr wchar_t kDefaultRole[] = L"设计";
 
 std::vector<CString> ValuesOf(const SSignObj& object, const wchar_t* name) {
     std::vector<CString> values;
-    for (POSITION position = object.GetHeadPosition(); position;) {
-        const SSignPro* property = object.GetNext(position);
-        if (property && property->m_strName.CompareNoCase(name) == 0) values.push_back(property->m_strValue);
+    for (const SSignPro* property : varnoke::Elements(object)) {
+        if (property->m_strName.CompareNoCase(name) == 0) values.push_back(property->m_strValue);
     }
     return values;
 }
@@ -32,9 +32,8 @@ Document::Document(const SSignObj& object)
 
 std::vector<Document> DocumentsOf(const SSignType& files) {
     std::vector<Document> documents;
-    for (POSITION position = files.m_lstObj.GetHeadPosition(); position;) {
-        const SSignObj* object = files.m_lstObj.GetNext(position);
-        if (object) documents.emplace_back(*object);
+    for (const SSignObj* object : varnoke::Elements(files.m_lstObj)) {
+        documents.emplace_back(*object);
     }
     return documents;
 }

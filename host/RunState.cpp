@@ -1,13 +1,14 @@
 #include <afxwin.h>
 
 #include <algorithm>
-#include <cstdint>
 #include <string>
 
+#include "base/Fnv1a.h"
 #include "base/Text.h"
 #include "base/WholeFile.h"
 #include "host/Paths.h"
 #include "host/RunState.h"
+#include "varnoke/Elements.h"
 
 namespace host {
 
@@ -59,10 +60,10 @@ bool IsBefore(const DocumentState& state, const CString& name) {
     return CompareFileNames(state.name, name) < 0;
 }
 
-void Mix(uint64_t& hash, const CString& text) {
-    // The length keeps neighbouring texts apart.
-    for (int i = -1; i < text.GetLength(); ++i) {
-        hash = (hash ^ static_cast<uint64_t>(i < 0 ? text.GetLength() : text[i])) * 0x100000001B3u;
+void Mix(base::Fnv1a& hash, const CString& text) {
+    hash.Add(static_cast<uint64_t>(text.GetLength())); // keeps neighbouring texts apart
+    for (int i = 0; i < text.GetLength(); ++i) {
+        hash.Add(text[i]);
     }
 }
 
@@ -120,16 +121,14 @@ void RunState::Keep(const DocumentState& state) {
 }
 
 CString FingerprintOf(const Document& document, const CString& signer) {
-    uint64_t hash = 0xCBF29CE484222325u;
+    base::Fnv1a hash;
     Mix(hash, signer);
-    for (POSITION position = document.Object().GetHeadPosition(); position;) {
-        const SSignPro* property = document.Object().GetNext(position);
-        if (!property) continue;
+    for (const SSignPro* property : varnoke::Elements(document.Object())) {
         Mix(hash, property->m_strName);
         Mix(hash, property->m_strValue);
     }
     CString text;
-    text.Format(L"%08x%08x", static_cast<unsigned>(hash >> 32), static_cast<unsigned>(hash));
+    text.Format(L"%08x%08x", static_cast<unsigned>(hash.Value() >> 32), static_cast<unsigned>(hash.Value()));
     return text;
 }
 

@@ -4,6 +4,7 @@
 
 #include "host/Records.h"
 #include "host/SignNotes.h"
+#include "varnoke/Elements.h"
 
 namespace host {
 
@@ -22,9 +23,7 @@ void Set(std::vector<SSignPro>& properties, const wchar_t* name, const CString& 
 /// The document's properties, with the identifier and the role that it was signed with.
 std::vector<SSignPro> LoggedProperties(const Document& document, const SignatureNote& signature) {
     std::vector<SSignPro> properties;
-    for (POSITION position = document.Object().GetHeadPosition(); position;) {
-        const SSignPro* property = document.Object().GetNext(position);
-        if (!property) continue;
+    for (const SSignPro* property : varnoke::Elements(document.Object())) {
         properties.push_back(*property);
         CString& value = properties.back().m_strValue;
         if (!value.IsEmpty()) continue;

@@ -6,6 +6,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
+#include "base/Fnv1a.h"
 #include "base/Text.h"
 
 namespace varnoke {
@@ -19,12 +20,12 @@ struct NoCaseEqual {
 /// Folds what the comparison folds, so that equal texts meet in one bucket.
 struct NoCaseHash {
     std::size_t operator()(const CString& text) const {
-        std::size_t hash = 14695981039346656037u;
+        base::Fnv1a hash;
         const wchar_t* characters = text;
         for (int i = 0; i < text.GetLength(); ++i) {
-            hash = (hash ^ Upper(characters[i])) * 1099511628211u;
+            hash.Add(Upper(characters[i]));
         }
-        return hash;
+        return hash.Value();
     }
 
 private:

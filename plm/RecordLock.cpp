@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+#include "base/Fnv1a.h"
+
 namespace varnoke {
 
 namespace {
@@ -18,10 +20,10 @@ struct Header {
 };
 
 ULONGLONG SumOf(const TailChange& change) {
-    ULONGLONG sum = 14695981039346656037u ^ change.offset;
+    base::Fnv1a sum(change.offset);
     for (const char byte : change.bytes)
-        sum = (sum ^ static_cast<unsigned char>(byte)) * 1099511628211u;
-    return sum;
+        sum.Add(static_cast<unsigned char>(byte));
+    return sum.Value();
 }
 
 bool WriteAt(HANDLE file, ULONGLONG offset, const std::string& bytes) {

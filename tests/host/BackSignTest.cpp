@@ -301,7 +301,13 @@ TEST_F(BackSignTest, DryRun_LeavesEverythingAsItIs) {
     EXPECT_EQ(before, Snapshot());
 
     fs::remove(m_work);
-    EXPECT_EQ(0u, BackSign({L"--dry-run"}).exitCode);
+    const fs::path settings = fs::path(BinFolder()) / L"Varnoke.ini";
+    WriteBytes(settings, "[DynDisp]\r\nProgID=No.Such.Server\r\n");
+    result = BackSign({L"--dry-run"});
+    fs::remove(settings);
+    EXPECT_EQ(4u, result.exitCode) << result.Text();
+    EXPECT_TRUE(result.Said("signing server: not available")) << result.Text();
+    EXPECT_TRUE(result.Said("could be signed: 0 of 2"));
     EXPECT_FALSE(fs::exists(m_work));
 }
 
