@@ -48,7 +48,8 @@ std::wstring HostTest::MessageText(const std::vector<TestDocument>& documents,
     int number = 0;
     for (const TestDocument& document : documents)
         objects += L"ID=D" + std::to_wstring(++number) + L",FNAME=" + document.name +
-                   (document.remote.empty() ? L"" : L",LOCATION=" + document.remote) + L",SIGN_ROLE=校对;";
+                   (document.remote.empty() ? L"" : L",LOCATION=" + document.remote) +
+                   L",SIGN_ROLE=校对,SIGN_USER=;";
     return declaration +
            Message(L"LoginInfo:UserName=wang,Password=secret,PLMServer=plm|step:STEPID=S1|DRAWING:" +
                    objects);
@@ -106,7 +107,8 @@ bool HostTest::ServerLogged(const std::string& id, const std::string& role) cons
     for (const auto& entry : fs::directory_iterator(m_vault / L"signlog")) {
         const std::string record = ReadBytes(entry.path());
         const size_t at = record.find("name=\"QORMFILEID\" value=\"" + id + "\"");
-        if (at == std::string::npos) continue;
+        if (at == std::string::npos || record.find("name=\"USERNAME\" value=\"wang\"", at) == record.npos)
+            continue;
         const size_t value = record.find("value=\"", record.find("name=\"QORMROLE\"", at));
         return role.empty() || record.compare(value + 7, role.size(), role) == 0;
     }
