@@ -1,9 +1,8 @@
 // Varnoke.dll as another compiler's program uses it: records built on either side and released by the
-// library; CString by value; exceptions that must not come out; what its run-time library makes of numbers.
+// library; CString by value; exceptions that must not come out.
 #include <afxwin.h>
 #include <gtest/gtest.h>
 #include <utility>
-#include <locale.h>
 #include <malloc.h>
 #include "tests/support/Message.h"
 #include "varnoke/Varnoke.h"
@@ -94,32 +93,6 @@ TEST_F(Library, Exceptions_StayInside) {
         EXPECT_EQ(0, m_plm.GetLoginInfo(reinterpret_cast<IXMLDOMDocument*>(&thrower), &login));
         EXPECT_FALSE(login);
     }
-}
-
-TEST_F(Library, Numbers_AreDecimalInAnyLocale) {
-    CString settings;
-    GetModuleFileNameW(GetModuleHandleW(L"Varnoke.dll"), settings.GetBuffer(MAX_PATH), MAX_PATH);
-    settings.ReleaseBuffer();
-    settings = settings.Left(settings.ReverseFind(L'\\') + 1) + L"Varnoke.ini";
-    DeleteFileW(settings);
-    WritePrivateProfileStringW(L"DynDisp", L"ProgID", L"No.Such.Server", settings);
-    CSignOpt sign;
-    EXPECT_EQ(0, sign.Initialize(nullptr));
-    EXPECT_TRUE(setlocale(LC_ALL, "de-DE") != nullptr);
-    const struct {
-        const wchar_t* text;
-        double number;
-    } numbers[] = {{L"-1.5e1x", -15.0}, {L"nan", 0.0},   {L"inf", 0.0},
-                   {L"0x10", 0.0},      {L"9e999", 0.0}, {L"4,5", 4.0}};
-    for (const auto& row : numbers) {
-        WritePrivateProfileStringW(L"SignDate", L"DateOffsetY", row.text, settings);
-        SSignInfo* info = nullptr;
-        EXPECT_EQ(1, sign.GetSignInfoForBackSign(CString(L"a.dwg").GetBuffer(), &info));
-        EXPECT_EQ(row.number, info->m_dDateOffsetY) << &row - numbers;
-        EXPECT_EQ(1, Cmn_ReleaseSignInfo(info));
-    }
-    setlocale(LC_ALL, "C");
-    DeleteFileW(settings);
 }
 
 // The memory comes from this program; the destructor in the table, which frees it, is the library's.

@@ -1,7 +1,6 @@
 // Sign tags of single documents and of lists.
 #include "tests/plm/PlmFixture.h"
 #include <time.h>
-#include <chrono>
 
 using namespace tests;
 
@@ -171,25 +170,6 @@ TEST_F(TagsTest, FilesChangedByOthers_AreReadAgain) {
     EXPECT_EQ(ReadBytes(TagFile(0)), "[DocSignTag]\r\nb=1\r\nA.dwg=4\r\n");
     std::filesystem::remove(TagFile(0));
     EXPECT_EQ(tag(), 0);
-}
-
-TEST_F(TagsTest, FurtherDocument_TakesNoLongerInALongFile) {
-    const auto seconds = [&](int documents) {
-        std::wstring text = L"[DocSignTag]\r\n";
-        for (int number = 0; number < documents; ++number)
-            text += L"old " + std::to_wstring(number) + L".dwg=1\r\n";
-        WriteBytes(TagFile(0), Utf16(text));
-        const auto start = std::chrono::steady_clock::now();
-        for (int number = 0; number < 300; ++number) {
-            const std::wstring name = L"new " + std::to_wstring(number);
-            for (long value : {0, 1})
-                EXPECT_EQ(m_plm.SetDocSignTag(Text(m_folder.Text()), Text(name), value), 1);
-        }
-        return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    };
-    const double few = seconds(10);
-    EXPECT_LT(seconds(10000), 10 * few)
-        << "reading and writing the whole file each time makes some hundredfold";
 }
 
 TEST_F(TagsTest, LogTagsOnlyWhenWanted) {
