@@ -58,8 +58,6 @@ TEST_F(ModelConfigTest, Getters_FollowTheSettings) {
         {L"ServerObjectConfigId", L"Archive", L"签名记录|<null>|归档"},
         {L"ServerObjectConfigId", L"OTHER", L"签名记录|<null>|<null>"},
         {L"DesignDoMain", L" ", kSampleCaptions},
-        {L"LocalObjectConfigId", L" ", kSampleCaptions},
-        {L"ServerObjectConfigId", L" ", kSampleCaptions},
     };
     const LocalServices services;
     ASSERT_EQ(InitializeAndLoad(), 1);

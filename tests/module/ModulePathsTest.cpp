@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 #include "base/Paths.h"
 #include "module/ModulePaths.h"
-#include "module/NewGuid.h"
 #include "module/VarnokeApp.h"
 #include "tests/support/TempFolder.h"
 
@@ -25,13 +24,6 @@ TEST(ModulePaths, Files_LieBesideTheirModuleOrElsewhere) {
     EXPECT_STREQ(varnoke::ModelConfigPath(), (folder / "ModelConfig.Xml").c_str());
     FreeLibrary(module);
     EXPECT_EQ(varnoke::TemporaryFolder().Right(1), L"\\");
-}
-
-TEST(NewGuid, IsUpperCaseWithoutBracesAndFresh) {
-    const CString guid = varnoke::NewGuid();
-    GUID parsed;
-    EXPECT_EQ(CLSIDFromString((L"{" + guid + L"}").GetString(), &parsed), S_OK);
-    EXPECT_TRUE(guid == CString(guid).MakeUpper() && guid != varnoke::NewGuid());
 }
 
 } // namespace

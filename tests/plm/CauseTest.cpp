@@ -55,6 +55,7 @@ TEST_F(CauseTest, Message_NamesWhatItLacks) {
     Results results;
     EXPECT_EQ(Merge(Documents(L"B"), results), 0);
     EXPECT_EQ(Last().first, Cause::KeptMessageUnreadable);
+    EXPECT_EQ(Kept(), "<root>");
     std::filesystem::remove_all(m_kept.parent_path());
     WriteBytes(m_kept.parent_path(), "a file in the folder's place");
     EXPECT_EQ(Read(Documents(L"B")), 0);

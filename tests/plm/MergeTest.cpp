@@ -59,21 +59,6 @@ TEST_F(MergeTest, SignerAndStepsMustBeTheSame) {
     EXPECT_EQ(Described(results.steps), L":n=1,m=2;N=3");
 }
 
-TEST_F(MergeTest, KeptMessageMustBeThere) {
-    Results missing, merged;
-    EXPECT_EQ(Merge(Documents(L"A"), missing), 0);
-    EXPECT_EQ(Call(&CPLMInteract::AppendStartSign, Documents(L"A"), missing, m_folder.Text()), 0);
-    for (const char* bytes : {"", "<root>", "<root/>"}) {
-        WriteBytes(m_kept, bytes);
-        ExpectRefused(Documents(L"A"));
-    }
-    ASSERT_EQ(Read(Documents(L"A")), 1);
-    SetFileAttributesW(m_kept.c_str(), FILE_ATTRIBUTE_READONLY);
-    EXPECT_EQ(Merge(Documents(L"B"), merged), 1);
-    EXPECT_EQ(DocumentsIn(m_kept), L"DOC:A;B");
-    EXPECT_EQ(GetFileAttributesW(m_kept.c_str()) & FILE_ATTRIBUTE_READONLY, 0u);
-}
-
 TEST_F(MergeTest, RecordsOfTheHost) {
     SLoginInfo wang{L"wang", L"", L""}, nobody;
     EXPECT_EQ(m_plm.ValidateLoginInfo(&wang, &wang), 1);

@@ -155,8 +155,10 @@ TEST_F(MessageTest, KeptMessage_IsReplacedAsAWhole) {
     Results merged, elsewhere;
     std::filesystem::remove(other);
     ASSERT_TRUE(CreateHardLinkW(other.c_str(), m_kept.c_str(), nullptr));
+    SetFileAttributesW(m_kept.c_str(), FILE_ATTRIBUTE_READONLY);
     ASSERT_EQ(Merge(Documents(L"C"), merged), 1);
     EXPECT_NE(ReadBytes(other), Kept());
+    EXPECT_EQ(GetFileAttributesW(m_kept.c_str()) & FILE_ATTRIBUTE_READONLY, 0u);
 
     // What a killed run left goes when a run turns to the folder.
     const TempFolder folder;

@@ -90,15 +90,6 @@ bool Transfer(Library& library) {
     return library.plm.DownloadDocForBackSign(&list) != 0 && item.m_nState == 1;
 }
 
-bool Assemble(Library& library) {
-    SSignInfo* info = nullptr;
-    std::wstring path = g_folder + L"\\a.dwg";
-    const bool made = library.signOpt.GetSignInfoForBackSign(path.data(), &info) != 0;
-    if (made != (info != nullptr)) Stop("result and record of the sign parameters differ");
-    Cmn_ReleaseSignInfo(info);
-    return made;
-}
-
 bool Connect(Library&) {
     CSignOpt other;
     wchar_t user[] = L"wang", password[] = L"p", server[] = L"s";
@@ -122,7 +113,6 @@ const Step kSteps[] = {
     {"notify", L"back_Ret.Xml", &Notify,
      [](Library&) { return Keeps(L"back_Ret.Xml", "SignRet\" value=\"1"); }},
     {"download", L"work\\a.dwg", &Transfer, [](Library&) { return Keeps(L"work\\a.dwg", "drawing"); }},
-    {"parameters", nullptr, &Assemble, &Always},
     {"login", nullptr, &Connect, &Always},
 };
 
