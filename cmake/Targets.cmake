@@ -12,8 +12,8 @@ if(MSVC)
     target_compile_definitions(varnoke_common INTERFACE _CRT_SECURE_NO_WARNINGS)
 else()
     # MFC's classes hide virtual functions, and its message maps hold handlers of every signature as one type.
-    target_compile_options(varnoke_common INTERFACE -Wall -Wextra -Werror -Wno-overloaded-virtual
-        $<$<CXX_COMPILER_ID:GNU>:-Wno-cast-function-type>)
+    target_compile_options(varnoke_common INTERFACE -Wall -Wextra -Wno-overloaded-virtual
+        $<$<NOT:$<BOOL:${VARNOKE_LENIENT}>>:-Werror> $<$<CXX_COMPILER_ID:GNU>:-Wno-cast-function-type>)
 endif()
 set(VARNOKE_SYSTEM_LIBS user32 gdi32 ole32 oleaut32 uuid advapi32 shell32 comctl32 comdlg32)
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "base/Owned.h"
 #include "base/TextEncoding.h"
 #include "base/WholeFile.h"
 #include "host/Commands.h"
@@ -34,9 +35,16 @@ CString SettingsPath() {
     return JoinPath(ModuleFolder(L"Varnoke.dll"), L"Varnoke.ini");
 }
 
+/// Whether another program holds the file so that it can't be replaced.
+bool IsHeld(const CString& path) {
+    constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    return !base::OwnFile(::CreateFileW(path, DELETE, kShareAll, nullptr, OPEN_EXISTING, 0, nullptr)) &&
+           ::GetLastError() == ERROR_SHARING_VIOLATION;
+}
+
 /// Whether a file can be put in this place, tried with a temporary one.
 bool CanPlaceFile(const CString& path) {
-    if (FolderExists(path)) return false;
+    if (FolderExists(path) || IsHeld(path)) return false;
     return !base::ReplacedFile(path).TemporaryPath().empty();
 }
 

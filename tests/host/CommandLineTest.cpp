@@ -124,6 +124,12 @@ TEST_F(CommandLineTest, RefusedMessagesAndMissingFolders_SignNothing) {
     fs::create_directory(m_folder / L"ret_Ret.Xml");
     EXPECT_EQ(2u, BackSign().exitCode) << "the return file cannot be written";
     fs::remove(m_folder / L"ret_Ret.Xml");
+    WriteBytes(m_returned, "");
+    const HANDLE held =
+        CreateFileW(m_returned.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    EXPECT_EQ(2u, BackSign().exitCode) << "another program holds the return file";
+    CloseHandle(held);
+    fs::remove(m_returned);
     for (fs::path* option : {&m_work, &m_return}) {
         const fs::path kept = std::exchange(*option, longName);
         EXPECT_EQ(2u, BackSign().exitCode) << kept;

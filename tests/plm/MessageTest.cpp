@@ -181,8 +181,9 @@ TEST_F(MessageTest, RefusedMessagesLeaveNoRecords) {
             EXPECT_EQ(Merge(Message(group), merged), 0);
             EXPECT_EQ(Call(kRead, Message(group), read, other.Text()), 0);
         }
-        Results merged;
+        Results merged, known;
         EXPECT_EQ(Merge(Message(otherSteps), merged), 0);
+        EXPECT_EQ(Merge(Documents(L"A,X=" + big), known), 1);
     };
     EXPECT_LT(MemoryGrowth(15, refuse), 5 << 20) << "one text left behind each time makes 6 MB";
 }

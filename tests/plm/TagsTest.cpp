@@ -122,6 +122,7 @@ TEST_F(TagsTest, Files_AreThoseOfTheProfileFunctions) {
         {L";c.dwg"},
         {L"[d].dwg"},
         {L"b.dwg"},
+        {L"한.dwg", L"a.dwg"},
         {L"한 Ä.dwg", L"a.dwg"}};
     for (const std::string& before : befores) {
         for (const auto& names : nameLists) {

@@ -230,6 +230,17 @@ TEST_F(SignLogTest, CutOffChange_IsFinished) {
         EXPECT_EQ(ReadEntries(m_record).size(), 4u);
         EXPECT_EQ(FileNames(m_signData), m_recordOnly);
     }
+
+    const TempFolder vault;
+    SetEnvironmentVariableW(L"DURVELL_VAULT", vault.Text().c_str());
+    WriteBytes(m_record, after.substr(0, offset + 100));
+    WriteBytes(lock, announced);
+    EXPECT_EQ(m_plm->WriteSignLogToServer(m_folder.Text().c_str()), 0);
+    EXPECT_EQ(ReadBytes(vault / L"signlog" / FileNames(vault / L"signlog").back()), after);
+    WriteBytes(m_record, after.substr(0, offset + 100));
+    WriteBytes(lock, "?" + announced.substr(1));
+    WriteSome(1);
+    EXPECT_EQ(ReadEntries(m_record).size(), 1u) << "an announcement cut off itself finishes nothing";
 }
 
 TEST_F(SignLogTest, RecordInUse_IsWaitedFor) {
