@@ -204,7 +204,18 @@ TEST(TraceWriter, DISABLED_Writes) {
         opt.Logout();
 }
 
-TEST_F(Trace, SeveralProcessesLoseNoLine) {
+// Lets a process that is being debugged run to its end; gives how often it told the debugger something.
+int CountTold() {
+    int count = 0;
+    for (DEBUG_EVENT event = {}; event.dwDebugEventCode != EXIT_PROCESS_DEBUG_EVENT;) {
+        if (!WaitForDebugEvent(&event, INFINITE)) return -1;
+        count += event.dwDebugEventCode == OUTPUT_DEBUG_STRING_EVENT;
+        ContinueDebugEvent(event.dwProcessId, event.dwThreadId, DBG_CONTINUE);
+    }
+    return count;
+}
+
+TEST_F(Trace, SeveralProcessesLoseNoLine_AndADebuggerHearsThem) {
     SetEnvironmentVariableW(L"VARNOKE_TRACE", L"2");
     SetEnvironmentVariableW(L"VARNOKE_TRACE_FILE", m_file.c_str());
     std::wstring program(1000, L'\0');
@@ -216,11 +227,13 @@ TEST_F(Trace, SeveralProcessesLoseNoLine) {
         STARTUPINFOW startup = {};
         startup.cb = sizeof startup;
         PROCESS_INFORMATION process;
-        ASSERT_TRUE(CreateProcessW(nullptr, &command[0], nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                                   &startup, &process));
+        ASSERT_TRUE(CreateProcessW(nullptr, &command[0], nullptr, nullptr, FALSE,
+                                   i == 0 ? DEBUG_ONLY_THIS_PROCESS : 0, nullptr, nullptr, &startup,
+                                   &process));
         CloseHandle(process.hThread);
         processes.push_back(process.hProcess);
     }
+    EXPECT_GE(CountTold(), kWrites);
     WaitForMultipleObjects(3, processes.data(), TRUE, INFINITE);
     for (HANDLE process : processes)
         CloseHandle(process);
