@@ -42,8 +42,8 @@ using Address = std::unique_ptr<ADDRINFOW, AddressFreer>;
 constexpr int kNoAnswer = WSAETIMEDOUT;
 
 /// 0 when connected, else the error; kNoAnswer after the time.
-int Connect(const ADDRINFOW& address,
-            int seconds) { // NOLINT(readability-function-cognitive-complexity): the set macros
+// NOLINTNEXTLINE(readability-function-cognitive-complexity): the set macros
+int Connect(const ADDRINFOW& address, int seconds) {
     const Socket made(::socket(address.ai_family, address.ai_socktype, address.ai_protocol));
     if (made == INVALID_SOCKET) return ::WSAGetLastError();
     u_long nonBlocking = 1;

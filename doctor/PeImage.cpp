@@ -86,8 +86,9 @@ bool PeImage::Get(size_t rva, T& value) const {
 std::string PeImage::TextAt(size_t rva) const {
     const char* text = At(rva, 1);
     if (!text) return std::string();
-    const char* end = static_cast<const char*>(memchr(text, 0, m_bytes.data() + m_bytes.size() - text));
-    return end ? std::string(text, end) : std::string();
+    const std::string_view rest(text, static_cast<size_t>(m_bytes.data() + m_bytes.size() - text));
+    const size_t end = rest.find('\0');
+    return end == std::string_view::npos ? std::string() : std::string(rest.substr(0, end));
 }
 
 size_t PeImage::Directory(size_t index) const {
