@@ -169,6 +169,10 @@ TEST_F(SignLogTest, GrowingRecord_IsTheParserLibrarysOwn) {
         WriteSome(2);
         EXPECT_EQ(ReadBytes(m_record), normal());
     }
+    WriteRecord(m_record, L"DD");
+    WriteSome(1);
+    EXPECT_EQ(Write(L"D"), 1);
+    EXPECT_EQ(Summary(m_record), L"D1") << "one of them is enough";
     m_settings.Set(L"SignLog", L"LocalObjectConfigId", L"IQORM_OBJ_REVIEW");
     EXPECT_EQ(Write(L"N"), 1);
     EXPECT_EQ(ReadEntries(m_record).back().type, L"IQORM_OBJ_REVIEW");
@@ -189,12 +193,15 @@ TEST_F(SignLogTest, RecordChangedByOthers_IsReadAgain) {
     WriteSome(2);
     // Changed by others without getting longer.
     std::string bytes = ReadBytes(m_record);
-    const fs::file_time_type time = fs::last_write_time(m_record);
+    WIN32_FILE_ATTRIBUTE_DATA facts; // fs::last_write_time may know whole seconds only
+    GetFileAttributesExW(m_record.c_str(), GetFileExInfoStandard, &facts);
     const std::string id = ToUtf8(ReadEntries(m_record).back().properties[L"QORMFILEID"]);
     for (size_t at; (at = bytes.find('"' + id + '"')) != std::string::npos;)
         bytes.replace(at + 1, id.size(), std::string(id.size(), 'z'));
     WriteBytes(m_record, bytes);
-    fs::last_write_time(m_record, time);
+    const HANDLE file = CreateFileW(m_record.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    SetFileTime(file, nullptr, nullptr, &facts.ftLastWriteTime);
+    CloseHandle(file);
     EXPECT_EQ(Write(L"N", L"SIGN_ROLE=r|ID=" + std::wstring(id.size(), L'z')), 1);
     EXPECT_EQ(ReadEntries(m_record).size(), 3u) << "replaces the entry that others made";
 }
