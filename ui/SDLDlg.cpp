@@ -15,9 +15,9 @@ using namespace varnoke;
 
 namespace {
 
-const long kNumberColumn = 0;
-const long kChosenColumn = 1;
-const long kFirstAttributeColumn = 2;
+// The list's own columns stand before those of the documents' attributes; their captions are the lines of
+// IDS_OWN_COLUMNS.
+enum Column : long { kNumberColumn, kChosenColumn, kFirstAttributeColumn };
 const int kMinColumnWidth = 80; // pixels at 96 dots per inch
 
 // A control and the windows inside it are not painted from construction to destruction: a grid would do it
@@ -101,8 +101,12 @@ void CSDLDlg::FillGrid() {
     const PaintingOff paintingOff(m_grid);
     m_grid.SetUp();
     m_grid.SetColumnCount(attributes + kFirstAttributeColumn);
-    AddColumn(kNumberColumn, ResourceText(IDS_COLUMN_NUMBER), CString());
-    AddColumn(kChosenColumn, ResourceText(IDS_COLUMN_CHOSEN), L"SelectStatus");
+    CString captions = ResourceText(IDS_OWN_COLUMNS) + L"\n";
+    for (long column = 0; column < kFirstAttributeColumn; ++column) {
+        const int end = captions.Find(L'\n');
+        AddColumn(column, captions.Left(end), column == kChosenColumn ? L"SelectStatus" : L"");
+        captions = captions.Mid(end + 1);
+    }
     m_grid.SetColumnKind(kNumberColumn, kGridColumnText);
     m_grid.SetColumnKind(kChosenColumn, kGridColumnCheck);
     m_grid.SetColumnEditor(kChosenColumn, L"QORCheckBoxEdit.dll");

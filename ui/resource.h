@@ -88,8 +88,7 @@
 // Server document list
 #define IDS_NO_DOCUMENTS 5030
 #define IDS_NO_CHOSEN_DOCUMENTS 5031
-#define IDS_COLUMN_NUMBER 5032
-#define IDS_COLUMN_CHOSEN 5033
+#define IDS_OWN_COLUMNS 5032
 
 // Transfer dialogs
 #define IDS_DOWNLOAD_CURRENT 5040
