@@ -14,8 +14,7 @@ public:
     ~ComApartment() {
         if (SUCCEEDED(m_result)) ::CoUninitialize();
     }
-    ComApartment(const ComApartment&) = delete;
-    ComApartment& operator=(const ComApartment&) = delete;
+    ComApartment& operator=(ComApartment&&) = delete;
 
     /// S_OK: a new apartment; S_FALSE: one of this kind was there; a failure: one of another kind, or none.
     HRESULT Result() const { return m_result; }

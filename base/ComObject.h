@@ -15,8 +15,7 @@ class ModuleReference {
 public:
     ModuleReference() { ::InterlockedIncrement(&g_liveCount); }
     ~ModuleReference() { ::InterlockedDecrement(&g_liveCount); }
-    ModuleReference(const ModuleReference&) = delete;
-    ModuleReference& operator=(const ModuleReference&) = delete;
+    ModuleReference& operator=(ModuleReference&&) = delete;
 };
 
 // Runs the body of a COM method; an exception becomes a failure code, since none may cross the interface.
@@ -37,8 +36,7 @@ template <class First, class... Others>
 class ComObject : public First, public Others... {
 public:
     ComObject() = default;
-    ComObject(const ComObject&) = delete;
-    ComObject& operator=(const ComObject&) = delete;
+    ComObject& operator=(ComObject&&) = delete;
 
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
         if (!object) return E_POINTER;

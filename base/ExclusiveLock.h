@@ -10,8 +10,7 @@ class ExclusiveLock {
 public:
     explicit ExclusiveLock(SRWLOCK& lock) : m_lock(lock) { ::AcquireSRWLockExclusive(&m_lock); }
     ~ExclusiveLock() { ::ReleaseSRWLockExclusive(&m_lock); }
-    ExclusiveLock(const ExclusiveLock&) = delete;
-    ExclusiveLock& operator=(const ExclusiveLock&) = delete;
+    ExclusiveLock& operator=(ExclusiveLock&&) = delete;
 
 private:
     SRWLOCK& m_lock;

@@ -20,8 +20,7 @@ public:
     ~NamedMutex() {
         if (m_held) ::ReleaseMutex(m_mutex.get());
     }
-    NamedMutex(const NamedMutex&) = delete;
-    NamedMutex& operator=(const NamedMutex&) = delete;
+    NamedMutex& operator=(NamedMutex&&) = delete;
 
 private:
     KernelHandle m_mutex;

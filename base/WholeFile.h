@@ -38,8 +38,7 @@ public:
     /// Creates the temporary file, empty and closed.
     explicit ReplacedFile(TextRef target);
     ~ReplacedFile();
-    ReplacedFile(const ReplacedFile&) = delete;
-    ReplacedFile& operator=(const ReplacedFile&) = delete;
+    ReplacedFile& operator=(ReplacedFile&&) = delete;
 
     /// The temporary file, for others to write to; empty when it could not be created.
     const std::wstring& TemporaryPath() const { return m_path; }

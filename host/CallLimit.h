@@ -24,16 +24,14 @@ public:
     /// No limit for 0 seconds. `expiry` is borrowed.
     CallLimit(DWORD seconds, CallExpiry& expiry);
     ~CallLimit();
-    CallLimit(const CallLimit&) = delete;
-    CallLimit& operator=(const CallLimit&) = delete;
+    CallLimit& operator=(CallLimit&&) = delete;
 
     /// One call, from construction to destruction.
     class Call {
     public:
         explicit Call(CallLimit& limit) : m_limit(limit) { limit.Set(::GetTickCount64()); }
         ~Call() { m_limit.Set(0); }
-        Call(const Call&) = delete;
-        Call& operator=(const Call&) = delete;
+        Call& operator=(Call&&) = delete;
 
     private:
         CallLimit& m_limit;

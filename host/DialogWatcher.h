@@ -15,8 +15,7 @@ public:
     /// all the same. A dialog without buttons is left to close by itself.
     DialogWatcher(const CString& folder, bool confirm);
     ~DialogWatcher();
-    DialogWatcher(const DialogWatcher&) = delete;
-    DialogWatcher& operator=(const DialogWatcher&) = delete;
+    DialogWatcher& operator=(DialogWatcher&&) = delete;
 
 private:
     struct SeenDialog {

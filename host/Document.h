@@ -30,8 +30,8 @@ public:
     /// "SIGN_ROLE", the role in which the document is signed; the designer's without one.
     const CString& Role() const { return m_role; }
 
-    /// Why the document is refused; None for one that may be fetched.
-    NameFault Fault() const { return CheckDocumentName(m_name); }
+    /// Why the document is refused; Ready for one that may be fetched.
+    TextId Fault() const { return CheckDocumentName(m_name); }
     /// All values of the name property: the result file finds a document by any of them.
     const std::vector<CString>& AllNames() const { return m_names; }
 

@@ -10,26 +10,6 @@ namespace host {
 
 namespace {
 
-TextId TextOfFault(NameFault fault) {
-    switch (fault) {
-    case NameFault::Empty:
-        return TextId::RefusedEmpty;
-    case NameFault::Path:
-        return TextId::RefusedPath;
-    case NameFault::Device:
-        return TextId::RefusedDevice;
-    case NameFault::Ending:
-        return TextId::RefusedEnding;
-    case NameFault::Character:
-        return TextId::RefusedCharacter;
-    case NameFault::SignData:
-        return TextId::RefusedSignData;
-    case NameFault::None:
-        break;
-    }
-    return TextId::Ready;
-}
-
 struct OwnedName {
     CString name;
     size_t document;
@@ -55,7 +35,7 @@ std::vector<OwnedName> SortedNames(const std::vector<Document>& documents) {
 std::vector<TextId> RefusalsOf(const std::vector<Document>& documents) {
     std::vector<TextId> refusals;
     for (const Document& document : documents) {
-        refusals.push_back(TextOfFault(document.Fault()));
+        refusals.push_back(document.Fault());
     }
     const std::vector<OwnedName> names = SortedNames(documents);
     for (size_t i = 1; i < names.size(); ++i) {

@@ -17,15 +17,15 @@ bool HasForbiddenCharacter(const CString& name) {
 
 } // namespace
 
-NameFault CheckDocumentName(const CString& name) {
-    if (name.IsEmpty()) return NameFault::Empty;
-    if (name.FindOneOf(L"\\/:") >= 0 || name == L"." || name == L"..") return NameFault::Path;
-    if (base::IsDeviceName(name)) return NameFault::Device;
+TextId CheckDocumentName(const CString& name) {
+    if (name.IsEmpty()) return TextId::RefusedEmpty;
+    if (name.FindOneOf(L"\\/:") >= 0 || name == L"." || name == L"..") return TextId::RefusedPath;
+    if (base::IsDeviceName(name)) return TextId::RefusedDevice;
     const wchar_t last = name[name.GetLength() - 1];
-    if (last == L'.' || last == L' ') return NameFault::Ending;
-    if (HasForbiddenCharacter(name)) return NameFault::Character;
-    if (name.CompareNoCase(L"SignData") == 0) return NameFault::SignData;
-    return NameFault::None;
+    if (last == L'.' || last == L' ') return TextId::RefusedEnding;
+    if (HasForbiddenCharacter(name)) return TextId::RefusedCharacter;
+    if (name.CompareNoCase(L"SignData") == 0) return TextId::RefusedSignData;
+    return TextId::Ready;
 }
 
 int CompareFileNames(const CString& a, const CString& b) {

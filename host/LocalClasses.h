@@ -11,8 +11,7 @@ class LocalClasses {
 public:
     LocalClasses();
     ~LocalClasses();
-    LocalClasses(const LocalClasses&) = delete;
-    LocalClasses& operator=(const LocalClasses&) = delete;
+    LocalClasses& operator=(LocalClasses&&) = delete;
 
 private:
     HANDLE m_context = INVALID_HANDLE_VALUE;

@@ -16,8 +16,7 @@ public:
     /// Makes the library's own folder below `work` when it is missing. A run that is just ending is waited
     /// for a moment.
     explicit RunLock(const CString& work);
-    RunLock(const RunLock&) = delete;
-    RunLock& operator=(const RunLock&) = delete;
+    RunLock& operator=(RunLock&&) = delete;
 
     Result State() const { return m_state; }
     /// From any thread.

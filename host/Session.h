@@ -15,8 +15,7 @@ public:
     Session() = default;
     /// Ends what was begun, in reverse order.
     ~Session();
-    Session(const Session&) = delete;
-    Session& operator=(const Session&) = delete;
+    Session& operator=(Session&&) = delete;
 
     /// Makes the main window and begins the exchange with the PLM side. False when there is no window. A
     /// missing model configuration only means that no sign log can be written; see Model().

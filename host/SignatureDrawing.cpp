@@ -12,7 +12,7 @@ namespace host {
 SignatureDrawing::SignatureDrawing(CPLMInteract& plm, const CString& user, const CString& role) {
     // The role comes with the message: it must not lead out of the temporary folder.
     const CString name = user + L"_" + role + L".dwg";
-    if (CheckDocumentName(name) != NameFault::None) return;
+    if (CheckDocumentName(name) != TextId::Ready) return;
     if (!plm.DownloadSignFileEx(InText(user), InText(role))) return;
     m_path = JoinPath(base::TemporaryFolderPrefix().c_str(), name);
 }

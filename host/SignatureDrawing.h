@@ -14,8 +14,7 @@ public:
     /// Without a drawing on the server the preview stays empty; that is no error.
     SignatureDrawing(CPLMInteract& plm, const CString& user, const CString& role);
     ~SignatureDrawing();
-    SignatureDrawing(const SignatureDrawing&) = delete;
-    SignatureDrawing& operator=(const SignatureDrawing&) = delete;
+    SignatureDrawing& operator=(SignatureDrawing&&) = delete;
 
 private:
     CString m_path;

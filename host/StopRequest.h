@@ -9,8 +9,7 @@ class StopRequest {
 public:
     StopRequest();
     ~StopRequest();
-    StopRequest(const StopRequest&) = delete;
-    StopRequest& operator=(const StopRequest&) = delete;
+    StopRequest& operator=(StopRequest&&) = delete;
 
     bool IsMade() const;
 };

@@ -11,8 +11,7 @@ public:
     TemporaryFolder();
     /// Removes the folder with everything in it.
     ~TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(TemporaryFolder&&) = delete;
 
     const CString& Path() const { return m_path; }
 

@@ -11,12 +11,19 @@ namespace host {
 /// and the result of its upload is that of the last item only.
 class TransferList {
 public:
-    TransferList(const CString& folder, const Document& document);
-    TransferList(const TransferList&) = delete;
-    TransferList& operator=(const TransferList&) = delete;
+    TransferList(const CString& folder, const Document& document) {
+        m_item.m_strRemoteName = document.RemoteName();
+        m_item.m_strLocalName = document.Name();
+        m_list.m_strFolder = folder;
+        m_list.m_lstItem.AddTail(&m_item);
+    }
+    TransferList& operator=(TransferList&&) = delete;
 
     /// For one library call at a time; forgets the state of the transfer before.
-    SSignFileDUL* Start();
+    SSignFileDUL* Start() {
+        m_item.m_nState = 0;
+        return &m_list;
+    }
     /// Whether the transfer moved the file. The library's own result also calls a skipped item a success.
     bool Moved() const { return m_item.m_nState == 1; }
     SSignFileDUL* List() { return &m_list; }

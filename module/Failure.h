@@ -46,8 +46,7 @@ public:
     /// `name` must live on; null for what is no operation.
     explicit Operation(const char* name) noexcept;
     ~Operation();
-    Operation(const Operation&) = delete;
-    Operation& operator=(const Operation&) = delete;
+    Operation& operator=(Operation&&) = delete;
 
     /// Leaves a line in the trace; success forgets causes that did not prevent it.
     void End(long result, bool failed) const noexcept;

@@ -26,8 +26,7 @@ public:
     /// Waits up to ten seconds for another user.
     explicit RecordLock(const CString& signDataFolder);
     ~RecordLock();
-    RecordLock(const RecordLock&) = delete;
-    RecordLock& operator=(const RecordLock&) = delete;
+    RecordLock& operator=(RecordLock&&) = delete;
 
     bool IsHeld() const { return m_file != nullptr; }
     /// Whether somebody else held it all the time; otherwise there is no folder that could be written to.

@@ -1,10 +1,10 @@
 // New entries of the sign log: filled from the sign object, and mapped to what the server gets.
 #include "plm/SignLogEntry.h"
 
+#include "base/Owned.h"
 #include "config/EntryAttribute.h"
 #include "module/BstrText.h"
 #include "module/DocumentCopy.h"
-#include "module/NewGuid.h"
 
 using namespace QORMODEL;
 using _com_util::CheckError;
@@ -12,6 +12,17 @@ using _com_util::CheckError;
 namespace varnoke {
 
 namespace {
+
+// A new identifier as 36 upper-case characters in 8-4-4-4-12 form, without braces; empty when the system has
+// none.
+CString NewGuid() {
+    GUID guid = {};
+    LPOLESTR text = nullptr;
+    if (FAILED(::CoCreateGuid(&guid)) || FAILED(::StringFromCLSID(guid, &text))) return CString();
+    const base::TaskMemory<wchar_t> owned(text);
+    const CString braced(text);
+    return braced.Mid(1, braced.GetLength() - 2);
+}
 
 // Empty when the sign object has no such property.
 CString SignValue(const SSignObj& obj, const CString& name) {

@@ -29,8 +29,7 @@ public:
     /// Of SignData, with its trailing backslash.
     explicit SignRecordFile(const CString& signDataFolder)
         : m_folder(signDataFolder), m_path(SignRecordPath(signDataFolder)) {}
-    SignRecordFile(const SignRecordFile&) = delete;
-    SignRecordFile& operator=(const SignRecordFile&) = delete;
+    SignRecordFile& operator=(SignRecordFile&&) = delete;
 
     /// False when there is no model to be had. A missing or unreadable file leaves the model empty.
     bool Read();

@@ -25,8 +25,7 @@ struct ExceptionInfo : EXCEPINFO {
         const base::OwnedBstr texts[] = {base::OwnedBstr(bstrSource), base::OwnedBstr(bstrDescription),
                                          base::OwnedBstr(bstrHelpFile)};
     }
-    ExceptionInfo(const ExceptionInfo&) = delete;
-    ExceptionInfo& operator=(const ExceptionInfo&) = delete;
+    ExceptionInfo& operator=(ExceptionInfo&&) = delete;
 
     /// "source: description", as far as the server gives them.
     CString Explanation() {

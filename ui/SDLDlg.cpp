@@ -30,8 +30,7 @@ public:
         Set(FALSE);
     }
     ~PaintingOff() { Set(TRUE); }
-    PaintingOff(const PaintingOff&) = delete;
-    PaintingOff& operator=(const PaintingOff&) = delete;
+    PaintingOff& operator=(PaintingOff&&) = delete;
 
 private:
     // Painting again would show a hidden window.

@@ -14,8 +14,7 @@ class CTransferWorker {
 public:
     explicit CTransferWorker(const varnoke::TransferVariant& variant);
     ~CTransferWorker(); // closes and waits
-    CTransferWorker(const CTransferWorker&) = delete;
-    CTransferWorker& operator=(const CTransferWorker&) = delete;
+    CTransferWorker& operator=(CTransferWorker&&) = delete;
 
     /// Starts the thread. The list is borrowed; the worker writes the state of its items.
     bool Start(SSignFileDUL* list, HWND window);

@@ -20,8 +20,7 @@ class Canvas {
 public:
     Canvas();
     ~Canvas();
-    Canvas(const Canvas&) = delete;
-    Canvas& operator=(const Canvas&) = delete;
+    Canvas& operator=(Canvas&&) = delete;
 
     void Line(int x1, int y1, int x2, int y2, COLORREF color, int width = 1);
     void Frame(int left, int top, int right, int bottom, COLORREF color, int width = 1);

@@ -21,8 +21,7 @@ struct GridLook {
 class GridView {
 public:
     GridView(GridModel& model, const GridLook& look) : m_model(model), m_look(look) {}
-    GridView(const GridView&) = delete;
-    GridView& operator=(const GridView&) = delete;
+    GridView& operator=(GridView&&) = delete;
 
     // Makes the list view; the parent's owner passes its messages on.
     void Create(HWND parent);

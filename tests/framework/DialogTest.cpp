@@ -46,14 +46,6 @@ TEST_F(Dialog, WithoutItsTemplate_EndsWithoutResult) {
     EXPECT_EQ(-1, CScriptedDialog(999, m_host).DoModal());
 }
 
-#ifndef VARNOKE_MFC_DLL // whose loop outlives the dialog's window
-TEST_F(Dialog, Destroyed_EndsWithoutResult) {
-    CScriptedDialog dialog(IDD_PLAIN, m_host);
-    dialog.m_script = [](CScriptedDialog& d) { d.DestroyWindow(); };
-    EXPECT_EQ(-1, dialog.DoModal());
-}
-#endif
-
 TEST_F(Dialog, Quit_EndsItAndTheProgramsOwnLoop) {
     CScriptedDialog dialog(IDD_PLAIN, m_host);
     dialog.m_script = [](CScriptedDialog&) { ::PostQuitMessage(12); };

@@ -1,4 +1,4 @@
-// Dialogs with ActiveX controls: what a template makes, places whose control is missing, errors of calls.
+// Dialogs with ActiveX controls: what a template makes, errors of calls.
 #include "tests/framework/ScriptedDialog.h"
 
 #include <afxdisp.h>
@@ -44,15 +44,6 @@ SCODE ThrownStatus(TCall call) {
     return S_OK;
 }
 
-#ifndef VARNOKE_MFC_DLL
-// False when windows that lie above it clip it away completely.
-bool CanBeSeen(CWnd& window) {
-    CRect box;
-    CClientDC dc(&window);
-    return ::GetClipBox(dc, box) != NULLREGION && !box.IsRectEmpty();
-}
-#endif
-
 class OleControl : public testing::Test {
 protected:
     OleControl() {
@@ -66,59 +57,27 @@ protected:
         ::CoRevokeClassObject(m_dwCookie);
     }
 
-    // Runs the script in the dialog with the control of that id attached.
-    void Run(UINT nTemplate, int nID, std::function<void(CWnd&, CDataExchange&)> script) {
-        CScriptedDialog dialog(nTemplate);
-        CWnd control;
-        dialog.m_script = [&](CScriptedDialog& d) {
-            d.EndDialog(1); // whatever the script throws
-            CDataExchange dx(&d, FALSE);
-            DDX_Control(&dx, nID, control);
-            script(control, dx);
-        };
-        EXPECT_EQ(1, dialog.DoModal());
-        EXPECT_EQ(nullptr, control.m_hWnd);
-    }
-
 private:
     DWORD m_dwCookie = 0;
 };
 
 } // namespace
 
-#ifndef VARNOKE_MFC_DLL // which doesn't open the dialog then; the subset leaves the rest of it usable
-TEST_F(OleControl, Unregistered_LeavesAnEmptyPlace) {
-    Run(IDD_UNKNOWN, IDC_UNKNOWN_CONTROL, [](CWnd& control, CDataExchange&) {
-        EXPECT_EQ(OLE_E_BLANK, ThrownStatus([&] { control.SetProperty(kFakeName, VT_I4, 1L); }));
-        const HWND hDialog = ::GetParent(control);
-        CRect place;
-        control.GetClientRect(place);
-        EXPECT_GT(place.Width(), 50);
-        EXPECT_EQ(control.m_hWnd, ::GetNextDlgTabItem(hDialog, ::GetDlgItem(hDialog, IDC_NAME), FALSE))
-            << "the tab order is the template's";
-    });
-}
-
-// With MFC the fake control has no window of its own; the host's pictures show the preview.
-TEST_F(OleControl, GroupBox_CoversTheControlsBehindIt) {
-    CWnd covered;
-    Run(IDD_CONTROLS, IDC_FAKE_CONTROL, [&](CWnd& control, CDataExchange& dx) {
-        DDX_Control(&dx, IDC_COVERED_CONTROL, covered);
-        EXPECT_TRUE(CanBeSeen(control));
-        EXPECT_FALSE(CanBeSeen(covered));
-    });
-}
-#endif
-
 TEST_F(OleControl, Failures_AreExceptions) {
-    Run(IDD_CONTROLS, IDC_FAKE_CONTROL, [](CWnd& control, CDataExchange& dx) {
+    CScriptedDialog dialog(IDD_CONTROLS);
+    CWnd control, unlisted; // the initialisation resource leaves the second one out
+    dialog.m_script = [&](CScriptedDialog& d) {
+        d.EndDialog(1); // whatever is thrown
+        CDataExchange dx(&d, FALSE);
+        DDX_Control(&dx, IDC_FAKE_CONTROL, control);
         long nNumber = 0;
         EXPECT_EQ(DISP_E_MEMBERNOTFOUND, ThrownStatus([&] {
                       control.InvokeHelper(99, DISPATCH_METHOD, VT_EMPTY, nullptr, nullptr);
                   }));
         EXPECT_EQ(DISP_E_TYPEMISMATCH,
                   ThrownStatus([&] { control.GetProperty(kFakeName, VT_I4, &nNumber); }));
-        CWnd unlisted; // the initialisation resource leaves it out
         EXPECT_THROW(DDX_Control(&dx, IDC_UNLISTED_CONTROL, unlisted), CNotSupportedException*);
-    });
+    };
+    EXPECT_EQ(1, dialog.DoModal());
+    EXPECT_EQ(nullptr, control.m_hWnd);
 }

@@ -21,16 +21,6 @@ std::string Gbk(const std::wstring& text) {
     return bytes;
 }
 
-// The resolution that programs started from now on find.
-class ScreenResolution {
-public:
-    explicit ScreenResolution(DWORD dpi) {
-        RegSetKeyValueW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", L"LogPixels", REG_DWORD, &dpi,
-                        sizeof dpi);
-    }
-    ~ScreenResolution() { RegDeleteKeyValueW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", L"LogPixels"); }
-};
-
 struct PictureSize {
     double width, height;
 };
@@ -197,16 +187,19 @@ TEST_F(CommandLineTest, Sign_WalksThroughItsDialogsUnattended) {
 
 TEST_F(CommandLineTest, Dialogs_GrowWithTheScreensResolution) {
     PictureSize usual = {};
+    const wchar_t desktop[] =
+        L"Control Panel\\Desktop"; // the resolution that programs started from now on find
     for (const DWORD dpi : {96, 144, 192}) {
-        const ScreenResolution resolution(dpi);
+        RegSetKeyValueW(HKEY_CURRENT_USER, desktop, L"LogPixels", REG_DWORD, &dpi, sizeof dpi);
         const fs::path pictures = m_folder / std::to_wstring(dpi);
-        ASSERT_EQ(0u, RunHost({L"option", L"--pictures", pictures, L"--auto"}).exitCode);
+        EXPECT_EQ(0u, RunHost({L"option", L"--pictures", pictures, L"--auto"}).exitCode);
         const PictureSize size = SizeOfPng(pictures / L"01-选项.png");
         if (dpi == 96) usual = size;
         // Fonts come in whole pixels.
         EXPECT_NEAR(dpi / 96.0, size.width / usual.width, 0.1) << dpi;
         EXPECT_NEAR(dpi / 96.0, size.height / usual.height, 0.2) << dpi;
     }
+    RegDeleteKeyValueW(HKEY_CURRENT_USER, desktop, L"LogPixels");
 }
 
 } // namespace

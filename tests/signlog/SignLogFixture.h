@@ -60,15 +60,16 @@ inline std::vector<Entry> ReadEntries(const std::filesystem::path& file) {
     return entries;
 }
 
-// Writes a record with one entry of the drawing for each letter of `kinds`, its "ID" its number, after
-// `others` entries that differ from it in type, document and role in turn.
-inline void WriteRecord(const std::filesystem::path& file, std::wstring_view kinds, size_t others = 3) {
+// Writes a record with one entry of the drawing for each letter of `kinds`, its "ID" its number, after three
+// entries that differ from it in type, document and role in turn.
+inline void WriteRecord(const std::filesystem::path& file, std::wstring_view kinds) {
+    constexpr size_t others = 3;
     const std::pair<const wchar_t*, const wchar_t*> names[] = {
         {L"OTHER", L"DOC-1"}, {L"IQORM_OBJ_SIGN", L"doc-1"}, {L"IQORM_OBJ_SIGN", L"DOC-1"}};
     std::wstring xml = L"<?xml version='1.0' encoding='UTF-8'?><qordata>";
     for (size_t at = 0; at < others + kinds.size(); ++at) {
-        const auto& [type, document] = names[at < others ? at % 3 : 2];
-        const wchar_t* role = at < others && at % 3 == 2 ? L"批准" : L"审核";
+        const auto& [type, document] = names[at < others ? at : 2];
+        const wchar_t* role = at == 2 ? L"批准" : L"审核";
         xml += std::wstring(L"<obj type='") + type + L"' state='N'><pro name='ID' value='" +
                std::to_wstring(at < others ? at : at - others) + L"'/><pro name='QORMFILEID' value='" +
                document + L"'/><pro name='QORMROLE' value='" + role + L"'/><pro name='QORMTYPE' value='" +

@@ -26,8 +26,7 @@ class Library {
 public:
     Library();
     ~Library();
-    Library(const Library&) = delete;
-    Library& operator=(const Library&) = delete;
+    Library& operator=(Library&&) = delete;
 
     CPLMInteract plm;
     CSignOpt signOpt;

@@ -34,8 +34,7 @@ public:
 
     DialogDriver();
     ~DialogDriver();
-    DialogDriver(const DialogDriver&) = delete;
-    DialogDriver& operator=(const DialogDriver&) = delete;
+    DialogDriver& operator=(DialogDriver&&) = delete;
 
     void Next(Script script);
     // Runs when the dialog is about to be destroyed, its controls still there; also one that never showed.

@@ -11,8 +11,7 @@ public:
                                         700, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr));
     }
     ~HostWindow() { DestroyWindow(m_window.Detach()); }
-    HostWindow(const HostWindow&) = delete;
-    HostWindow& operator=(const HostWindow&) = delete;
+    HostWindow& operator=(HostWindow&&) = delete;
 
     CWnd* Window() { return &m_window; }
     operator CWnd*() { return &m_window; }

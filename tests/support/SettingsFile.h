@@ -10,8 +10,7 @@ class SettingsFile {
 public:
     SettingsFile();
     ~SettingsFile();
-    SettingsFile(const SettingsFile&) = delete;
-    SettingsFile& operator=(const SettingsFile&) = delete;
+    SettingsFile& operator=(SettingsFile&&) = delete;
 
     const std::filesystem::path& Path() const { return m_path; }
     void Set(const wchar_t* section, const wchar_t* key, const wchar_t* value) const;

@@ -11,8 +11,7 @@ class TempFolder {
 public:
     TempFolder();
     ~TempFolder();
-    TempFolder(const TempFolder&) = delete;
-    TempFolder& operator=(const TempFolder&) = delete;
+    TempFolder& operator=(TempFolder&&) = delete;
 
     const std::filesystem::path& Path() const { return m_path; }
     // Without a trailing backslash; a copy that exported functions may take as wchar_t*.
