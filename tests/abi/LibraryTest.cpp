@@ -12,6 +12,9 @@ namespace {
 // A work folder with a kept message, whose records it has.
 struct Library : testing::Test {
     Library() {
+        GetTempPathW(MAX_PATH, m_folder.GetBuffer(MAX_PATH));
+        m_folder.ReleaseBuffer();
+        m_folder += L"varnoke-abi";
         CreateDirectoryW(m_folder, nullptr);
         std::wstring message = tests::Message(L"LoginInfo:UserName=王工,Password=secret,PLMServer=plm:80|"
                                               L"step:ROLE=审核|doc:FNAME=a.dwg,VER=2;b.dwg");
@@ -24,13 +27,7 @@ struct Library : testing::Test {
         EXPECT_EQ(1, Cmn_ReleaseLoginInfo(m_login));
     }
 
-    static CString TemporaryFolder() {
-        wchar_t path[MAX_PATH];
-        GetTempPathW(MAX_PATH, path);
-        return path;
-    }
-
-    CString m_folder = TemporaryFolder() + L"varnoke-abi";
+    CString m_folder;
     CPLMInteract m_plm;
     SLoginInfo* m_login = nullptr;
     SSignType *m_steps = nullptr, *m_files = nullptr;

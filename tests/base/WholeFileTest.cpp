@@ -48,6 +48,7 @@ TEST_F(WholeFile, Write_FailureLeavesTheOldFileAndNothingElse) {
     EXPECT_NE(unwritten.TemporaryPath().find(L"~varnoke-"), std::wstring::npos);
     EXPECT_FALSE(unwritten.Replace()) << "who was to write it has not";
     EXPECT_EQ(ReadBytes(m_file), "old");
+    base::RemoveLeftFiles(base::FolderPrefix(m_file.c_str()));
     EXPECT_EQ(CountFiles(), 2u) << "with the temporary file that is still wanted";
 }
 

@@ -45,8 +45,7 @@ TEST_F(BackSignTest, SomeSigned_NoFailureStopsTheOthersOrShowsAWindow) {
     Fault(L"UploadFailNames", L"c.dwg");
     SetEnvironmentVariableW(L"SIGNSERVER_FAULT", L"Sign:1");
     Fault(L"DelayMs", L"100");
-    int looks = 0;
-    int visible = 0;
+    int looks = 0, visible = 0;
     const HostResult result = BackSign({}, [&](DWORD process) {
         ++looks;
         visible += VisibleWindows(process);

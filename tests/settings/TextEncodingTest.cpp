@@ -28,9 +28,7 @@ TEST(TextEncoding, Of_BytesAndTheSystemsCodePage) {
         {"x=\xC4\xBF\xC2\xBC", 936, TextEncoding::SystemCodePage}, // 目录, which is valid UTF-8 too
         {"x=\xC4\xBF\xC2\xBC", 1252, TextEncoding::Utf8},
         {"x=\xFF", 936, TextEncoding::Other},
-        {"M\xFCller, Gr\xF6\xDF"
-         "e",
-         1252, TextEncoding::SystemCodePage},
+        {"x=\xFC", 1252, TextEncoding::SystemCodePage},
     };
     for (const auto& c : kCases)
         EXPECT_EQ(base::EncodingOf(c.bytes, c.codePage), c.expected) << c.bytes << " on " << c.codePage;
