@@ -57,7 +57,6 @@ protected:
         ::CoRevokeClassObject(m_dwCookie);
     }
 
-private:
     DWORD m_dwCookie = 0;
 };
 
