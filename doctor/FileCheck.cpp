@@ -5,6 +5,7 @@
 
 #include "base/Paths.h"
 #include "base/Text.h"
+#include "base/VersionResource.h"
 #include "doctor/Checks.h"
 #include "doctor/PeImage.h"
 #include "doctor/Places.h"
@@ -35,7 +36,7 @@ public:
         PeImage image;
         if (!image.Read(path)) return Fail(L"file.damaged", name, image.Problem());
         if (!image.IsX64()) return Fail(L"file.wrong-bits", name, path);
-        if (IsStandIn(path) && !m_options.standIns) Fail(L"file.standin", name, path);
+        if (base::IsStandIn(path) && !m_options.standIns) Fail(L"file.standin", name, path);
         return CheckImports(name, image) && CheckFunctions(name, image, library);
     }
 

@@ -16,7 +16,6 @@ bool IsSystemFile(const std::wstring& path);
 
 /// The file's version, such as "1.0.0"; empty without one.
 std::wstring FileVersion(const std::wstring& path);
-bool IsStandIn(const std::wstring& path);
 
 /// Path, and the version where there is one.
 std::wstring Described(const std::wstring& path);

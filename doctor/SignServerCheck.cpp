@@ -2,6 +2,7 @@
 #include <windows.h>
 
 #include "base/Paths.h"
+#include "base/VersionResource.h"
 #include "doctor/Checks.h"
 #include "doctor/PeImage.h"
 #include "doctor/Places.h"
@@ -34,7 +35,7 @@ bool CheckRegistration(const std::wstring& progId, const Options& options, Repor
     } else if (!image.IsX64()) {
         report.Add(L"file.wrong-bits", progId, found.file);
     } else {
-        if (IsStandIn(found.file) && !options.standIns) report.Add(L"file.standin", progId, found.file);
+        if (base::IsStandIn(found.file) && !options.standIns) report.Add(L"file.standin", progId, found.file);
         report.Add(L"progid.ok", progId, Described(found.file));
         return true;
     }

@@ -10,6 +10,7 @@
 #include "host/RunHandOver.h"
 #include "host/RunInput.h"
 #include "host/RunLock.h"
+#include "host/StandIns.h"
 #include "host/TemporaryFolder.h"
 #include "host/Texts.h"
 
@@ -56,6 +57,7 @@ int SignAll(Session& session, const RunInput& input, const MessageRecords& recor
     handOver.Watch(run);
     run.Run(documents);
 
+    TellStandIns();
     const size_t done = static_cast<size_t>(run.SignedNames().GetCount());
     TellResult(TextId::Summary, {NumberText(done), NumberText(documents.size())});
     if (!session.Plm().NotifyPLMSignForBackSignRet(run.SignedNames(), InText(kNameProperty),

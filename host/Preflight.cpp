@@ -10,6 +10,7 @@
 #include "host/DocumentLine.h"
 #include "host/Paths.h"
 #include "host/Preflight.h"
+#include "host/StandIns.h"
 #include "host/Texts.h"
 
 namespace host {
@@ -89,6 +90,7 @@ int Preflight::Report(const RunInput& input, const MessageRecords& records) {
         if (m_server == TextId::DrySignServer && refusals[i] == TextId::Ready) ++ready;
         TellDocument(documents[i].Name(), i, documents.size(), refusals[i]);
     }
+    TellStandIns();
     TellResult(TextId::DrySummary, {NumberText(ready), NumberText(documents.size())});
     return ExitOfCount(ready, documents.size());
 }

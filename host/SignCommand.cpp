@@ -14,6 +14,7 @@
 #include "host/Signature.h"
 #include "host/SignatureDrawing.h"
 #include "host/TransferList.h"
+#include "host/StandIns.h"
 
 namespace host {
 
@@ -129,6 +130,7 @@ int RunSign(const Options& options) {
     if (outcome == TextId::Ready)
         outcome = InteractiveRun(session, *records.login, input.work).Process(documents.front());
     TellDocument(documents.front().Name(), 0, 1, outcome);
+    TellStandIns();
     if (outcome != TextId::Signed) {
         session.Tell(outcome);
         return kExitNone;

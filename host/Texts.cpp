@@ -175,6 +175,8 @@ constexpr TextEntry kTexts[] = {
     {TextId::DryDate, L"dry-date", L"date on the drawing: %1, font %2", L"图纸上的日期：%1，字体 %2"},
     {TextId::DrySignServer, L"dry-sign-server", L"signing server: available", L"签名服务器：可用"},
     {TextId::DryNoSignServer, L"dry-no-sign-server", L"signing server: not available", L"签名服务器：不可用"},
+    {TextId::StandIns, L"stand-ins", L"with stand-ins, nothing real: %1",
+     L"使用了替身程序，并非真实产品：%1"},
     {TextId::DrySummary, L"dry-summary", L"could be signed: %1 of %2", L"可以签名：%1 / %2"},
 
     {TextId::Cancelled, L"cancelled", L"cancelled", L"已取消"},

@@ -109,6 +109,7 @@ enum class TextId {
     DrySignServer,
     DryNoSignServer,
     DrySummary,
+    StandIns,
     // Other commands
     Cancelled,
     OptionNotStored,

@@ -20,6 +20,7 @@ TEST_F(ReportTest, Json_IsAnObjectALineWithStableCodes) {
         R"(\{"event":"document","document":"a\\\\b\.dwg","number":1,"of":3,"code":"refused-path",.*"remedy":"have the .*\})",
         R"(\{"event":"document","document":"好\.dwg","number":2,"of":3,"code":"signed","text":"[^"]+","secondsLeft":\d+\})",
         R"(\{"event":"document","document":"none\.dwg",.*"code":"failed-download",.*"cause":401,"why":".*none\.dwg.*","remedy":"[^"]+","secondsLeft":0\})",
+        R"(\{"event":"note","code":"stand-ins","text":".*Durvell\.dll.*"\})",
         R"(\{"event":"note","code":"summary","text":"[^"]+"\})",
         R"(\{"event":"note","code":"return-file","text":".*\\\\ret_Ret\.Xml"\})",
         R"(\{"event":"end","exit":3\})",
