@@ -1,4 +1,4 @@
-// Tells when a run was none of the real products.
+// Which neighbours of a run were stand-ins.
 #pragma once
 
 namespace host {
