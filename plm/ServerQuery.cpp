@@ -2,6 +2,7 @@
 #include <afxwin.h>
 
 #include "plm/ServerQuery.h"
+#include "base/WholeFile.h"
 #include "module/Guarded.h"
 #include "module/ModulePaths.h"
 #include "plm/XmlDocument.h"
@@ -16,13 +17,22 @@ const wchar_t kFilterHead[] = L"<?xml version=\"1.0\"?><searchfilter><archivefil
                               L"<filter logiccode=\"and\" field=\"NAME\" comparetype=\"=\" value=\"";
 const wchar_t kFilterTail[] = L"\"/></archivefilter></searchfilter>";
 
+/// Where the server puts its answer; there is no file yet. Where users may not write beside the library it is
+/// the user's temporary folder.
+CString ResultPath() {
+    const wchar_t name[] = L"USER.Xml";
+    CString path = JoinPath(ModuleFolder(), name);
+    if (!base::WriteWholeFile(path, std::string())) path = JoinPath(TemporaryFolder(), name);
+    ::DeleteFileW(path);
+    return path;
+}
+
 } // namespace
 
 CString QueryDrawingName(const CString& userName) {
     // The server takes the name as it stands, without any escaping.
     const CString filter = kFilterHead + userName + kFilterTail;
-    const CString resultFile = JoinPath(ModuleFolder(), L"USER.Xml");
-    ::DeleteFileW(resultFile);
+    const CString resultFile = ResultPath();
     dvl_QueryObjs(L"USER", L"", L"-1", L"0", L"", filter, L"", resultFile);
     const CString location = ReadObjectProperty(resultFile, L"LOCATION");
     ::DeleteFileW(resultFile);

@@ -1,5 +1,6 @@
 // Silent transfer of document lists and of signature drawings, with faults of the server.
 #include "tests/plm/PlmFixture.h"
+#include "tests/support/SettingsFile.h"
 
 using namespace tests;
 
@@ -36,6 +37,12 @@ protected:
             states += item ? std::to_wstring(item->m_nState) : L".";
         }
         return states;
+    }
+    // "wang", whose signature drawing is r2.
+    void AddUserWithDrawing() const {
+        WriteBytes(m_vault / L"objects" / L"USER.xml",
+                   "<root><objs><type id='USER'><obj><pro name='NAME' value='wang'/>"
+                   "<pro name='DEL' value='0'/><pro name='LOCATION' value='r2'/></obj></type></objs></root>");
     }
     bool TimesRecorded() const { return exists(m_folder / L"SignData" / L"DocSignTimeTag.ini"); }
     void ForgetTimes() const { std::filesystem::remove_all(m_folder / L"SignData"); }
@@ -102,9 +109,7 @@ TEST_F(TransferTest, UnusableLists) {
 }
 
 TEST_F(TransferTest, SignatureDrawings) {
-    WriteBytes(m_vault / L"objects" / L"USER.xml",
-               "<root><objs><type id='USER'><obj><pro name='NAME' value='wang'/><pro name='DEL' value='0'/>"
-               "<pro name='LOCATION' value='r2'/></obj></type></objs></root>");
+    AddUserWithDrawing();
     wchar_t temp[MAX_PATH];
     GetTempPathW(MAX_PATH, temp);
     const std::filesystem::path drawing = std::filesystem::path(temp) / L"wang_印 1.dwg";
@@ -135,6 +140,18 @@ TEST_F(TransferTest, SignatureDrawings) {
     EXPECT_TRUE(std::filesystem::exists(target));
     EXPECT_EQ(m_plm.DownloadSignFile(Text(target), Text(L"none")), 0);
     EXPECT_FALSE(std::filesystem::exists(target));
+}
+
+TEST_F(TransferTest, SignatureDrawings_NoRightToWriteBesideTheLibrary) {
+    AddUserWithDrawing();
+    const std::filesystem::path result = LibraryFolder() / L"USER.Xml";
+    create_directory(result); // a stand-in for a folder where only administrators may write
+    EXPECT_STREQ(m_plm.GetRemoteFileName(Text(L"wang"), nullptr), L"r2");
+    EXPECT_TRUE(is_empty(result));
+    remove(result);
+    EXPECT_FALSE(exists(std::filesystem::temp_directory_path() / L"USER.Xml"));
+    EXPECT_STREQ(m_plm.GetRemoteFileName(Text(L"wang"), nullptr), L"r2");
+    EXPECT_FALSE(exists(result));
 }
 
 TEST_F(TransferTest, PropertyValues) {

@@ -4,10 +4,14 @@
 
 namespace tests {
 
-SettingsFile::SettingsFile() {
+std::filesystem::path LibraryFolder() {
     wchar_t library[MAX_PATH];
     GetModuleFileNameW(GetModuleHandleW(L"Varnoke.dll"), library, MAX_PATH);
-    m_path = std::filesystem::path(library).parent_path() / L"Varnoke.ini";
+    return std::filesystem::path(library).parent_path();
+}
+
+SettingsFile::SettingsFile() {
+    m_path = LibraryFolder() / L"Varnoke.ini";
     Remove();
 }
 

@@ -5,6 +5,8 @@
 
 namespace tests {
 
+std::filesystem::path LibraryFolder();
+
 // Starts without a file and leaves none behind.
 class SettingsFile {
 public:
