@@ -284,7 +284,10 @@ TEST_F(TransferDlg, Runs_LeaveNothingWhetherTakenOrNot) {
             DestroyWindow(dialog); // as when its owner goes
         });
     });
-    ExpectNothingLeft(4, messages, [this] { Hurry(kUpload); });
+    ExpectNothingLeft(4, messages, [this] {
+        Hurry(kUpload);
+        m_driver.Forget();
+    });
 }
 
 TEST_F(TransferDlg, ManyMissingFiles_FitTheScreenAndAreAllLogged) {

@@ -152,6 +152,11 @@ void DialogDriver::Taken(const MSG& message) {
     }
 }
 
+void DialogDriver::Forget() {
+    m_boxes.clear();
+    m_messages.clear();
+}
+
 void DialogDriver::Post(HWND window, Script script) {
     m_posted.emplace_back(window, std::move(script));
     PostMessageW(m_runner, kRunScript, reinterpret_cast<WPARAM>(window), 0);

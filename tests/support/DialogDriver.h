@@ -51,6 +51,8 @@ public:
     const std::set<HWND>& Owners() const { return m_owners; }
     const std::vector<SeenBox>& Boxes() const { return m_boxes; }
     const std::vector<SeenMessage>& Messages() const { return m_messages; }
+    // Drops what was seen, for tests that look at the process's memory.
+    void Forget();
     // Whether every script has run.
     bool AllRan() const { return m_scripts.empty() && m_triggers.empty(); }
 
