@@ -3,6 +3,7 @@
 #include <objbase.h>
 #include <thread>
 #include <gtest/gtest.h>
+#include "tests/support/SettingsFile.h"
 #include "tests/support/TempFolder.h"
 
 namespace {
@@ -18,9 +19,7 @@ int Apartment() {
 TEST(VarnokeApp, LoadAndUnload_LeaveTheThreadsComAsItWas) {
     tests::TempFolder folder;
     const auto copy = folder / "VarnokeCopy.dll";
-    wchar_t library[MAX_PATH];
-    GetModuleFileNameW(GetModuleHandleW(L"Varnoke.dll"), library, MAX_PATH);
-    std::filesystem::copy_file(library, copy);
+    std::filesystem::copy_file(tests::LibraryFolder() / L"Varnoke.dll", copy);
     for (const bool mta : {false, true, false}) {
         std::thread([&] {
             if (mta) CoInitializeEx(nullptr, COINIT_MULTITHREADED);
