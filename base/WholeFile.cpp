@@ -43,14 +43,22 @@ LONGLONG SizeOf(const FileHandle& file) {
     return ::GetFileSizeEx(file.get(), &size) ? size.QuadPart : -1;
 }
 
-/// Moves a file over another one, which a read-only one would refuse.
+bool Move(const std::wstring& source, const std::wstring& target) {
+    return ::MoveFileExW(source.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
+}
+
+/// Moves a file over another one, read-only or not. That one is only looked at when it is in the way: asking
+/// for a file that isn't there may cost a look through its whole folder.
 bool MoveOver(const std::wstring& source, const std::wstring& target) {
+    if (Move(source, target)) return true;
+    const DWORD error = ::GetLastError();
     const DWORD attributes = ::GetFileAttributesW(target.c_str());
-    const bool readOnly = attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY);
-    if (readOnly) ::SetFileAttributesW(target.c_str(), attributes & ~FILE_ATTRIBUTE_READONLY);
-    if (::MoveFileExW(source.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-        return true;
-    if (readOnly) ::SetFileAttributesW(target.c_str(), attributes);
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY)) {
+        ::SetFileAttributesW(target.c_str(), attributes & ~FILE_ATTRIBUTE_READONLY);
+        if (Move(source, target)) return true;
+        ::SetFileAttributesW(target.c_str(), attributes);
+    }
+    ::SetLastError(error);
     return false;
 }
 

@@ -59,7 +59,7 @@ Outcome BackSignRun::Process(const Document& document) {
     DocumentState state = m_state.Of(document.Name());
     const CString fingerprint = FingerprintOf(document, m_login.m_strUserName);
     const bool same = state.fingerprint == fingerprint;
-    const CString stamp = StampOf(path);
+    const CString stamp = same ? StampOf(path) : CString();
     const bool unchanged = same && state.stamp == stamp;
     const bool returned = state.progress == Progress::Uploaded || state.progress == Progress::Done;
     state.name = document.Name();

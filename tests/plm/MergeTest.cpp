@@ -113,10 +113,9 @@ TEST_F(ReturnFileTest, MarksDocuments) {
     ASSERT_EQ(Read(Documents(L"A.dwg;X=b.dwg,B.dwg;C.dwg,fname=1,FNAME=|OTHER:b.dwg")), 1);
     const std::string kept = Kept();
     WriteBytes(m_ret, "old");
-    const std::filesystem::path other = m_folder / L"other";
     for (const auto& run : cases) {
+        const std::filesystem::path other = m_folder / std::to_wstring(&run - cases);
         SetFileAttributesW(m_ret.c_str(), FILE_ATTRIBUTE_READONLY);
-        std::filesystem::remove(other);
         ASSERT_TRUE(CreateHardLinkW(other.c_str(), m_ret.c_str(), nullptr));
         const std::string before = ReadBytes(other);
         ASSERT_EQ(Notify(run.names, L"fName", m_given), 1);

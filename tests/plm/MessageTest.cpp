@@ -144,7 +144,7 @@ TEST_F(MessageTest, Declarations) {
 
 TEST_F(MessageTest, KeptMessage_IsReplacedAsAWhole) {
     ASSERT_EQ(Read(Documents(L"A")), 1);
-    const std::filesystem::path other = m_folder / L"other",
+    const std::filesystem::path other = m_folder / L"other", another = m_folder / L"another",
                                 left = m_kept.parent_path() / L"~varnoke-7fff0-1.tmp";
     ASSERT_TRUE(CreateHardLinkW(other.c_str(), m_kept.c_str(), nullptr));
     const std::string before = Kept();
@@ -153,11 +153,10 @@ TEST_F(MessageTest, KeptMessage_IsReplacedAsAWhole) {
     EXPECT_EQ(ReadBytes(other), before);
     EXPECT_EQ(GetFileAttributesW(m_kept.c_str()) & FILE_ATTRIBUTE_READONLY, 0u);
     Results merged, elsewhere;
-    std::filesystem::remove(other);
-    ASSERT_TRUE(CreateHardLinkW(other.c_str(), m_kept.c_str(), nullptr));
+    ASSERT_TRUE(CreateHardLinkW(another.c_str(), m_kept.c_str(), nullptr));
     SetFileAttributesW(m_kept.c_str(), FILE_ATTRIBUTE_READONLY);
     ASSERT_EQ(Merge(Documents(L"C"), merged), 1);
-    EXPECT_NE(ReadBytes(other), Kept());
+    EXPECT_NE(ReadBytes(another), Kept());
     EXPECT_EQ(GetFileAttributesW(m_kept.c_str()) & FILE_ATTRIBUTE_READONLY, 0u);
 
     // What a killed run left goes when a run turns to the folder.
