@@ -12,6 +12,7 @@ if(MSVC)
     target_compile_definitions(varnoke_common INTERFACE _CRT_SECURE_NO_WARNINGS)
 else()
     # MFC's classes hide virtual functions, and its message maps hold handlers of every signature as one type.
+    # VARNOKE_LENIENT is for trial builds of faulty code: its warnings don't stop them.
     target_compile_options(varnoke_common INTERFACE -Wall -Wextra -Wno-overloaded-virtual
         $<$<NOT:$<BOOL:${VARNOKE_LENIENT}>>:-Werror> $<$<CXX_COMPILER_ID:GNU>:-Wno-cast-function-type>)
 endif()

@@ -13,6 +13,9 @@ namespace doctor {
 /// DLLs that can be used, by name.
 std::vector<std::wstring> CheckFiles(const Options& options, Report& report);
 
+/// Complains of a file that is a stand-in for what the name tells, unless stand-ins are expected.
+void CheckStandIn(const std::wstring& name, const std::wstring& file, const Options& options, Report& report);
+
 /// Encoding, keys and values of the settings file; whether it can be written.
 void CheckSettings(const std::wstring& file, Report& report);
 

@@ -36,7 +36,7 @@ public:
         PeImage image;
         if (!image.Read(path)) return Fail(L"file.damaged", name, image.Problem());
         if (!image.IsX64()) return Fail(L"file.wrong-bits", name, path);
-        if (base::IsStandIn(path) && !m_options.standIns) Fail(L"file.standin", name, path);
+        CheckStandIn(name, path, m_options, m_report);
         return CheckImports(name, image) && CheckFunctions(name, image, library);
     }
 
@@ -106,6 +106,11 @@ private:
 };
 
 } // namespace
+
+void CheckStandIn(const std::wstring& name, const std::wstring& file, const Options& options,
+                  Report& report) {
+    if (!options.standIns && base::IsStandIn(file)) report.Add(L"file.standin", name, file);
+}
 
 std::vector<std::wstring> CheckFiles(const Options& options, Report& report) {
     FileCheck check(options, report);

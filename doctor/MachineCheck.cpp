@@ -6,7 +6,6 @@
 #include "base/Owned.h"
 #include "base/Paths.h"
 #include "base/WholeFile.h"
-#include "base/VersionResource.h"
 #include "doctor/Checks.h"
 #include "doctor/Places.h"
 #include "doctor/Probe.h"
@@ -31,7 +30,7 @@ void CheckControl(const wchar_t* name, const CLSID& id, const Options& options, 
     } else if (!base::FileExists(found.file)) {
         report.Add(L"control.file-missing", name, found.file);
     } else {
-        if (base::IsStandIn(found.file) && !options.standIns) report.Add(L"file.standin", name, found.file);
+        CheckStandIn(name, found.file, options, report);
         report.Add(L"control.ok", name, Described(found.file));
     }
 }

@@ -19,12 +19,8 @@ bool IsSystemFile(const std::wstring& path) {
     return !folder.empty() && base::SameText(path.substr(0, folder.size()), folder);
 }
 
-std::wstring FileVersion(const std::wstring& path) {
-    return base::VersionText(path, L"FileVersion");
-}
-
 std::wstring Described(const std::wstring& path) {
-    const std::wstring version = FileVersion(path);
+    const std::wstring version = base::VersionText(path, L"FileVersion");
     return version.empty() ? path : path + L" " + version;
 }
 

@@ -14,10 +14,7 @@ std::wstring Locate(const std::wstring& name, const Options& options);
 /// In the Windows folder; such files are the system's business.
 bool IsSystemFile(const std::wstring& path);
 
-/// The file's version, such as "1.0.0"; empty without one.
-std::wstring FileVersion(const std::wstring& path);
-
-/// Path, and the version where there is one.
+/// Path, and the version ("1.0.0") where there is one.
 std::wstring Described(const std::wstring& path);
 
 /// Text of ASCII characters, as names in DLLs are.

@@ -132,14 +132,17 @@ DWORD WriteError(const std::wstring& file) {
     return opened ? 0 : ::GetLastError();
 }
 
+/// The file of the user's own layer, there or not; empty when the settings file doesn't ask for one.
+std::wstring UserFile(const std::wstring& file) {
+    const bool asked = ::GetPrivateProfileIntW(L"Settings", L"UserLayer", 0, file.c_str()) == 1;
+    return asked ? base::WithVariables(L"%APPDATA%\\Varnoke\\Varnoke.ini") : std::wstring();
+}
+
 } // namespace
 
 void CheckSettings(const std::wstring& file, Report& report) {
     std::string bytes;
-    // With a layer of the user's own, nobody but the administrator writes here.
-    const bool userLayer = ::GetPrivateProfileIntW(L"Settings", L"UserLayer", 0, file.c_str()) == 1;
-    const std::wstring userFile =
-        userLayer ? base::WithVariables(L"%APPDATA%\\Varnoke\\Varnoke.ini") : std::wstring();
+    const std::wstring userFile = UserFile(file);
     const base::ReadResult read = base::ReadWholeFile(file, bytes, 16 << 20);
     if (read == base::ReadResult::Missing) {
         report.Add(L"settings.missing", file);
@@ -150,7 +153,8 @@ void CheckSettings(const std::wstring& file, Report& report) {
         report.Add(L"settings.file", file);
         const std::wstring encoding = MisreadEncoding(bytes);
         if (!encoding.empty()) report.Add(L"settings.encoding", file, encoding);
-        if (const DWORD error = userLayer ? 0 : WriteError(file))
+        // With a layer of the user's own, nobody but the administrator writes here.
+        if (const DWORD error = userFile.empty() ? WriteError(file) : 0)
             report.Add(L"settings.read-only", file, ErrorText(error));
     }
     if (base::FileExists(userFile)) report.Add(L"settings.file", userFile);

@@ -2,7 +2,6 @@
 #include <windows.h>
 
 #include "base/Paths.h"
-#include "base/VersionResource.h"
 #include "doctor/Checks.h"
 #include "doctor/PeImage.h"
 #include "doctor/Places.h"
@@ -35,7 +34,7 @@ bool CheckRegistration(const std::wstring& progId, const Options& options, Repor
     } else if (!image.IsX64()) {
         report.Add(L"file.wrong-bits", progId, found.file);
     } else {
-        if (base::IsStandIn(found.file) && !options.standIns) report.Add(L"file.standin", progId, found.file);
+        CheckStandIn(progId, found.file, options, report);
         report.Add(L"progid.ok", progId, Described(found.file));
         return true;
     }

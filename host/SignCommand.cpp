@@ -13,8 +13,8 @@
 #include "host/SignNotes.h"
 #include "host/Signature.h"
 #include "host/SignatureDrawing.h"
-#include "host/TransferList.h"
 #include "host/StandIns.h"
+#include "host/TransferList.h"
 
 namespace host {
 

@@ -21,6 +21,18 @@ std::string Gbk(const std::wstring& text) {
     return bytes;
 }
 
+// The resolution that programs started from now on find.
+class ScreenResolution {
+public:
+    explicit ScreenResolution(DWORD dpi) {
+        RegSetKeyValueW(HKEY_CURRENT_USER, m_key, L"LogPixels", REG_DWORD, &dpi, sizeof dpi);
+    }
+    ~ScreenResolution() { RegDeleteKeyValueW(HKEY_CURRENT_USER, m_key, L"LogPixels"); }
+
+private:
+    const wchar_t* const m_key = L"Control Panel\\Desktop";
+};
+
 struct PictureSize {
     double width, height;
 };
@@ -187,19 +199,16 @@ TEST_F(CommandLineTest, Sign_WalksThroughItsDialogsUnattended) {
 
 TEST_F(CommandLineTest, Dialogs_GrowWithTheScreensResolution) {
     PictureSize usual = {};
-    const wchar_t desktop[] =
-        L"Control Panel\\Desktop"; // the resolution that programs started from now on find
     for (const DWORD dpi : {96, 144, 192}) {
-        RegSetKeyValueW(HKEY_CURRENT_USER, desktop, L"LogPixels", REG_DWORD, &dpi, sizeof dpi);
+        const ScreenResolution resolution(dpi);
         const fs::path pictures = m_folder / std::to_wstring(dpi);
-        EXPECT_EQ(0u, RunHost({L"option", L"--pictures", pictures, L"--auto"}).exitCode);
+        ASSERT_EQ(0u, RunHost({L"option", L"--pictures", pictures, L"--auto"}).exitCode);
         const PictureSize size = SizeOfPng(pictures / L"01-选项.png");
         if (dpi == 96) usual = size;
         // Fonts come in whole pixels.
         EXPECT_NEAR(dpi / 96.0, size.width / usual.width, 0.1) << dpi;
         EXPECT_NEAR(dpi / 96.0, size.height / usual.height, 0.2) << dpi;
     }
-    RegDeleteKeyValueW(HKEY_CURRENT_USER, desktop, L"LogPixels");
 }
 
 } // namespace
