@@ -28,18 +28,21 @@ export LC_ALL=zh_CN.UTF-8 DISPLAY=$VARNOKE_DISPLAY
     fi
 ) 7>"$VARNOKE_RUN_DIR/lock"
 
+setup() {
+    $wine "$@" </dev/null >/dev/null 2>&1 || { echo "no success under Wine: $*" >&2; exit 1; }
+}
 (
     flock 9
     if [ ! -f "$WINEPREFIX/ready" ]; then
         # The caption buttons' symbols.
         mkdir -p "$WINEPREFIX/drive_c/windows/Fonts"
         ln -sf /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
-        $wine wineboot --init >/dev/null 2>&1
+        setup wineboot --init
         touch "$WINEPREFIX/ready"
     fi
     if [ ! -f "$WINEPREFIX/unmanaged" ]; then
         # There is no window manager, and Wine would wait two seconds for it whenever a window closes.
-        $wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
+        setup reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f
         touch "$WINEPREFIX/unmanaged"
     fi
     cd "$build/bin"
@@ -47,7 +50,7 @@ export LC_ALL=zh_CN.UTF-8 DISPLAY=$VARNOKE_DISPLAY
     servers=$(xargs -r cksum 2>/dev/null <com-servers.txt || true) # those that are built
     if [ "$servers" != "$(cat "$stamp" 2>/dev/null)" ]; then
         while read -r _ _ dll && [ -n "$dll" ]; do
-            $wine regsvr32 /s "$dll" </dev/null >/dev/null 2>&1 || { echo "cannot register $dll" >&2; exit 1; }
+            setup regsvr32 /s "$dll"
         done <<<"$servers"
         echo "$servers" >"$stamp"
     fi

@@ -23,5 +23,9 @@ for _ in $(seq 100); do
     sleep 0.05
 done
 [ -s "$run_dir/display" ] || { echo "no X display:" >&2; cat "$run_dir/xvfb.log" >&2; exit 1; }
+# The kernel puts a program's heap anywhere within a gigabyte; once in some 6,000 starts that is where Wine
+# must have a page of its own, and the program ends before it runs. Not every container lets this be changed.
+fixed_heap=(setarch --addr-no-randomize)
+"${fixed_heap[@]}" true 2>/dev/null || fixed_heap=()
 export VARNOKE_DISPLAY=":$(tr -d '[:space:]' <"$run_dir/display")" VARNOKE_RUN_DIR=$run_dir VARNOKE_RUN_PID=$$
-"$@"
+"${fixed_heap[@]}" "$@"

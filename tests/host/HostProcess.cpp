@@ -26,7 +26,7 @@ HANDLE Leash() {
     return job;
 }
 
-// Wine says so of a child that the busy system ended before it ran.
+// Wine says so of a child whose heap lies where its own pages must (see with-wine.sh).
 bool EndedBeforeItRan() {
     return GetLastError() == ERROR_INTERNAL_ERROR;
 }

@@ -2,8 +2,9 @@
 # Installs, uses, upgrades and removes the product under Wine, silently, with every exit code looked at.
 # What passed once with the same packages and the same test is not tried again.
 # usage: rollout.sh BUILD-FOLDER
-set -euo pipefail
+set -Eeuo pipefail
 
+trap 'echo "rollout: line $LINENO: $BASH_COMMAND" >&2' ERR
 root=$(cd "$(dirname "$0")/../.." && pwd)
 build=$(cd "$1" && pwd)
 place=$build/rollout # its bin is the other products' folder, its prefix this test's own
