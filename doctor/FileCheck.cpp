@@ -57,7 +57,7 @@ public:
                 if (loaded) usable.push_back(names[tried]);
             }
             if (tried < names.size()) {
-                m_report.Add(L"probe.crashed", names[tried], arguments[tried + 1]);
+                ReportBrokenProbe(probe, names[tried], arguments[tried + 1], m_report);
                 ++tried;
             }
             names.erase(names.begin(), names.begin() + static_cast<std::ptrdiff_t>(tried));

@@ -69,7 +69,7 @@ void CheckModel(const std::vector<std::wstring>& usable, const Options& options,
     const ProbeResult probe =
         RunProbe({L"model", base::JoinPath(options.library, L"Varnoke.dll"), services}, options);
     if (!probe.ended) {
-        report.Add(L"probe.crashed", L"QORParser.dll", file);
+        ReportBrokenProbe(probe, L"QORParser.dll", file, report);
         return;
     }
     if (probe.lines.empty() || probe.lines[0] != L"1") {

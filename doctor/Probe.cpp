@@ -70,8 +70,10 @@ ProbeResult RunProbe(const std::vector<std::wstring>& arguments, const Options& 
     // The host's folder is where its program would look for DLLs.
     if (!::CreateProcessW(program.c_str(), &command[0], nullptr, nullptr, TRUE, CREATE_NO_WINDOW, nullptr,
                           base::FolderExists(options.host) ? options.host.c_str() : nullptr, &start,
-                          &started))
+                          &started)) {
+        result.startError = ErrorText(::GetLastError());
         return result;
+    }
     const base::KernelHandle process(started.hProcess), thread(started.hThread);
     if (::WaitForSingleObject(process.get(), static_cast<DWORD>(options.timeoutSeconds + 7) * 1000) !=
         WAIT_OBJECT_0)
@@ -80,6 +82,15 @@ ProbeResult RunProbe(const std::vector<std::wstring>& arguments, const Options& 
     result.ended = ::GetExitCodeProcess(process.get(), &exitCode) && exitCode == kAnswered;
     result.lines = SplitLines(ReadAll(pipe.reader.get()));
     return result;
+}
+
+void ReportBrokenProbe(const ProbeResult& probe, const std::wstring& subject, const std::wstring& detail,
+                       Report& report) {
+    if (probe.startError.empty()) {
+        report.Add(L"probe.crashed", subject, detail);
+    } else {
+        report.Add(L"probe.not-started", subject, probe.startError);
+    }
 }
 
 int AnswerProbe(const std::vector<std::wstring>& arguments) {

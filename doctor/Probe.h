@@ -10,11 +10,16 @@ namespace doctor {
 
 struct ProbeResult {
     bool ended = false;              ///< false: crashed, hung, or never began
+    std::wstring startError;         ///< why it never began; otherwise empty
     std::vector<std::wstring> lines; ///< what the trial told
 };
 
 /// Runs this program as `--probe arguments...`, for at most the options' time.
 ProbeResult RunProbe(const std::vector<std::wstring>& arguments, const Options& options);
+
+/// Reports a trial that did not come to its end; `detail` tells what it was about.
+void ReportBrokenProbe(const ProbeResult& probe, const std::wstring& subject, const std::wstring& detail,
+                       Report& report);
 
 /// The other side: the trial itself. Returns the exit code.
 int AnswerProbe(const std::vector<std::wstring>& arguments);

@@ -38,6 +38,9 @@ const Reason kReasons[] = {
      L"{0} 是 Varnoke 的替身程序，并非真实产品：{1}", L"请换成真实产品的文件；替身仅用于测试和演示"},
     {L"probe.crashed", kFault, L"{0} crashed or hung while it was tried: {1}",
      L"install it again or ask its maker", L"试用 {0} 时崩溃或无响应：{1}", L"请重新安装或联系其供应商"},
+    {L"probe.not-started", kFault, L"{0} can't be tried in a process of its own: {1}",
+     L"let varnoke-doctor start processes; look at the security software", L"无法在单独的进程中试用 {0}：{1}",
+     L"请允许 varnoke-doctor 启动进程，并检查安全软件"},
     {L"system.xml-missing", kFault, L"the system's XML parser (MSXML 6.0) is not registered",
      L"repair Windows", L"系统的 XML 解析器（MSXML 6.0）未注册", L"请修复 Windows"},
 

@@ -48,7 +48,7 @@ void CheckMethods(const std::wstring& progId, const std::wstring& settings, cons
         arguments.push_back(ReadSetting(settings, L"DynDisp", method));
     const ProbeResult probe = RunProbe(arguments, options);
     if (!probe.ended || probe.lines.empty()) {
-        report.Add(L"probe.crashed", progId, FindClass(ClassOfProgId(progId)).file);
+        ReportBrokenProbe(probe, progId, FindClass(ClassOfProgId(progId)).file, report);
         return;
     }
     if (probe.lines[0] != L"created") {
@@ -66,7 +66,7 @@ void CheckLogin(const std::wstring& progId, const std::wstring& settings, const 
                                         settings, Locate(L"Durvell.dll", options)},
                                        options);
     if (!probe.ended || probe.lines.empty()) {
-        report.Add(L"probe.crashed", progId, L"Login");
+        ReportBrokenProbe(probe, progId, L"Login", report);
     } else if (probe.lines[0].empty()) {
         report.Add(L"login.no-session", L"Durvell.dll", probe.lines.size() > 1 ? probe.lines[1] : L"");
     } else {

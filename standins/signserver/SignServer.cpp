@@ -62,6 +62,8 @@ private:
     std::unordered_map<std::wstring, std::vector<Signature>> m_signatures;
 };
 
+constexpr UINT kCrashed = 0xC0000005; // as after an access violation
+
 FaultCounter g_calls;
 SignatureBook g_signatures;
 
@@ -115,7 +117,7 @@ std::vector<std::wstring> JournalTexts(const Arguments& arguments) {
 //
 // SIGNSERVER_FAULT makes calls fail: "Sign:2" the second call of Sign, "Login" every Login; several with ";"
 // between them. Calls are counted per process, from 1 again when the variable's text changes. "Gone:2": as if
-// the server's process ended in the second call of any method.
+// the server's process ended in the second call of any method. "Crash:2": the caller's process ends in it.
 class SignServer final : public DispatchObject<> {
 public:
     STDMETHODIMP GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID locale, DISPID* ids) override {
@@ -159,6 +161,7 @@ const DispatchTable& SignServer::Members() const {
 template <class Work>
 HRESULT SignServer::Run(const wchar_t* method, std::vector<std::wstring> journaled, VARIANT& result,
                         Work work) {
+    if (IsFaultDue(L"Crash")) ::TerminateProcess(::GetCurrentProcess(), kCrashed);
     m_gone = m_gone || IsFaultDue(L"Gone");
     if (m_gone) return RPC_E_DISCONNECTED;
     const long answer = !IsFaultDue(method) && work() ? 1 : 0;
