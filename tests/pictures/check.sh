@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Takes a picture of each dialog with the framework's subset and with mfc140u.dll, and compares them.
 # Needs the msabi and msabi-mfc builds.
-set -euo pipefail
+set -Eeuo pipefail
 
 root=$(cd "$(dirname "$0")/../.." && pwd)
 subset=$root/build/msabi/bin
@@ -9,6 +9,7 @@ real=$root/build/msabi-mfc
 place=$real/pictures
 rm -rf "$place"
 mkdir -p "$place"
+trap 'echo "pictures: line $LINENO: $BASH_COMMAND" >&2; tail -n 30 "$place/run.log" >&2' ERR
 
 take_pictures() { # FRAMEWORK
     local app=$place/run/app # paths are shown, so both runs have the same
